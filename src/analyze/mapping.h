@@ -1,0 +1,35 @@
+#pragma once
+
+#include "core/session_state.h"
+
+namespace orvanta {
+
+// A mapping of a strength or weakness to an opportunity or threat is a row of the mapping list,
+// below its parent's row and keyed parent "-" child. Nothing else tells of it.
+
+/// A drag passes over a list: over a picking list it now carries what is selected there.
+void dragOverList(Program& program, StatementList& list);
+
+/// A drop on a row of lvOpportunity or lvThreat; 0 beside all rows.
+void mapDroppedStatement(Program& program, StatementList& mappingList, int position);
+
+/// A drop on a picking list takes the selected mapped row of its kind back.
+void unmapDroppedRow(Program& program, StatementList& pickingList);
+
+/// Puts a row for the statement selected in sourceList under the row of targetList at the drop
+/// position: strengths right below it, weaknesses below its strengths. `section`: "S" or "W".
+void insertMappingRow(StatementList& sourceList, StatementList& targetList, const std::string& textPrefix,
+                      int position, std::string_view section);
+
+void removeOpportunityMappingRow(Program& program);
+void removeThreatMappingRow(Program& program);
+
+/// Tells that the rows mapped under an item have to go first.
+void refuseMappedRows(Program& program);
+
+/// True for the four lists from which statements are dragged.
+bool isPickingList(const FrmMain& form, const StatementList& list);
+/// True for lvOpportunity and lvThreat.
+bool isMappingList(const FrmMain& form, const StatementList& list);
+
+}  // namespace orvanta

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "core/session_state.h"
+
+namespace orvanta {
+
+void analyzeNext(Program& program);
+void analyzeBack(Program& program);
+void analyzeQuit(Program& program);
+void openAnalyzeFile(Program& program);
+
+}  // namespace orvanta

@@ -1,0 +1,256 @@
+#include "core/frm_main.h"
+
+#include <array>
+#include <initializer_list>
+
+#include "core/design_grid.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr Stretch fixed{};
+constexpr Stretch wide{0, 0, 1, 0};       // takes the width
+constexpr Stretch whole{0, 0, 1, 1};      // takes width and height
+constexpr Stretch atRight{1, 0, 1, 0};
+constexpr Stretch atBottom{0, 1, 0, 1};
+constexpr Stretch atBottomRight{1, 1, 1, 1};
+
+void place(Control& control, Panel* container, Bounds bounds, Stretch stretch = fixed) {
+    control.container = container;
+    control.setBounds(bounds);
+    control.stretch = stretch;
+}
+
+constexpr double largeWidth = 168, largeHeight = 40, smallWidth = 88, smallHeight = 32;
+
+void placeButton(SkinnedButton& button, Panel* container, Bounds bounds, Stretch stretch = fixed) {
+    place(button.image, container, bounds, stretch);
+    place(button.label, container, bounds, stretch);
+    button.label.fontSize = {9.75};
+    button.label.bold = true;
+}
+
+void placeSmall(SkinnedButton& button, Panel& container, double left, double top, Stretch stretch) {
+    placeButton(button, &container, grid(left, top, smallWidth, smallHeight), stretch);
+}
+
+/// A button with a picture box of its own around it.
+void placeHeld(SkinnedButton& button, Panel& holder, Panel& container, Bounds bounds,
+               Stretch stretch) {
+    place(holder, &container, bounds, stretch);
+    Bounds inside = bounds;
+    inside.left = inside.top = {};
+    placeButton(button, &holder, inside);
+}
+
+void placeTopLevel(FrmMain& form) {
+    constexpr Button column[] = {Button::Overview, Button::Brainstorm, Button::Analyze,
+                                 Button::Report,   Button::About,      Button::Quit};
+    double top = 88;
+    for (const Button button : column) {
+        placeButton(form.buttons[button], nullptr, grid(16, top, largeWidth, largeHeight));
+        top += 48;
+    }
+    place(form.chkMute, nullptr, grid(20, top + 8, 160, 24));
+    place(form.cmdUndo, nullptr, grid(16, top + 48, 80, 36));
+    place(form.cmdRedo, nullptr, grid(104, top + 48, 80, 36));
+    form.cmdUndo.setToolTip("Click here to undo last change.");
+    form.cmdRedo.setToolTip("Click here to redo last change.");
+    form.cmdUndo.accessibleName = "Undo";
+    form.cmdRedo.accessibleName = "Redo";
+    form.cmdUndo.setVisible(false);
+    form.cmdRedo.setVisible(false);
+    for (Image* source : {&form.imgBtnSNormal, &form.imgBtnSDown, &form.imgBtnLNormal, &form.imgBtnLDown})
+        source->setVisible(false);
+    form.imgBtnSNormal.setArt(Art::SmallNormal);
+    form.imgBtnSDown.setArt(Art::SmallDown);
+    form.imgBtnLNormal.setArt(Art::LargeNormal);
+    form.imgBtnLDown.setArt(Art::LargeDown);
+}
+
+constexpr Bounds moduleArea = grid(200, 72, 760, 568);
+constexpr Bounds stepArea = grid(0, 0, 760, 508);
+constexpr double buttonRow = 520;
+
+void placeWizardButtons(FrmMain& form) {
+    const Stretch left = atBottom, right = atBottomRight;
+    placeHeld(form.buttons[Button::BQuit], form.picBQuit, form.fraBrainstorm,
+              grid(24, buttonRow, smallWidth, smallHeight), left);
+    placeHeld(form.buttons[Button::BBack], form.picBBack, form.fraBrainstorm,
+              grid(552, buttonRow, smallWidth, smallHeight), right);
+    placeHeld(form.buttons[Button::BNext], form.picBNext, form.fraBrainstorm,
+              grid(648, buttonRow, smallWidth, smallHeight), right);
+    placeHeld(form.buttons[Button::AQuit], form.picAQuit, form.fraAnalyze,
+              grid(24, buttonRow, smallWidth, smallHeight), left);
+    placeHeld(form.buttons[Button::OAFile], form.picAOAFile, form.fraAnalyze,
+              grid(128, buttonRow - 4, largeWidth + 8, largeHeight), left);
+    placeHeld(form.buttons[Button::ABack], form.picABack, form.fraAnalyze,
+              grid(552, buttonRow, smallWidth, smallHeight), right);
+    placeHeld(form.buttons[Button::ANext], form.picANext, form.fraAnalyze,
+              grid(648, buttonRow, smallWidth, smallHeight), right);
+}
+
+void placeModuleChoice(FrmMain& form) {
+    Panel& panel = form.fraBrainstorm;
+    place(form.lblName, &panel, grid(24, 20, 400, 20));
+    form.lblName.bold = true;
+    place(form.txtName, &panel, grid(24, 44, 480, 30), wide);
+    place(form.lblModules, &panel, grid(24, 100, 480, 20), wide);
+    form.lblModules.bold = true;
+    place(form.lblSelectModule, &panel, grid(24, 124, 480, 40), wide);
+    double top = 176;
+    for (Option* option : {&form.optGBS, &form.optMP, &form.optSBD, &form.optPSD, &form.optHRP}) {
+        place(*option, &panel, grid(32, top, 460, 24), wide);
+        option->setVisible(false);
+        top += 24;
+    }
+    const Bounds large = grid(544, 44, largeWidth + 24, largeHeight);
+    placeHeld(form.buttons[Button::BOpen], form.picBOpen, panel, large, atRight);
+    placeHeld(form.buttons[Button::Print], form.picBtnPrint, panel, large + grid(0, 52, 0, 0), atRight);
+    place(form.lblDistribute, &panel, large + grid(0, 108, 0, -8), atRight);
+    form.lblDistribute.setToolTip("Use this link to email the Brainstorm module to your team.");
+    for (Control* covered : std::initializer_list<Control*>{
+             &form.lblName, &form.txtName, &form.lblModules, &form.lblSelectModule, &form.optGBS,
+             &form.optMP, &form.optSBD, &form.optPSD, &form.optHRP, &form.picBOpen,
+             &form.picBtnPrint, &form.lblDistribute})
+        covered->coveredBy = &form.brainstormSteps;
+}
+
+struct ListScreen {
+    Panel FrmMain::*panel;
+    Label FrmMain::*heading;
+    TextBox FrmMain::*box;
+    StatementList FrmMain::*list;
+    Button add, edit, remove;
+    std::string_view kind;
+};
+
+constexpr std::array<ListScreen, 8> listScreens{{
+    {&FrmMain::fraStrength, &FrmMain::lblSQuestion, &FrmMain::txtStrength, &FrmMain::lvBStrength,
+     Button::BSAdd, Button::BSEdit, Button::BSRemove, "Strength"},
+    {&FrmMain::fraWeakness, &FrmMain::lblWQuestion, &FrmMain::txtWeakness, &FrmMain::lvBWeakness,
+     Button::BWAdd, Button::BWEdit, Button::BWRemove, "Weakness"},
+    {&FrmMain::fraOpportunity, &FrmMain::lblOQuestion, &FrmMain::txtOpportunity,
+     &FrmMain::lvBOpportunity, Button::BOAdd, Button::BOEdit, Button::BORemove, "Opportunity"},
+    {&FrmMain::fraThreats, &FrmMain::lblTQuestion, &FrmMain::txtThreat, &FrmMain::lvBThreat,
+     Button::BTAdd, Button::BTEdit, Button::BTRemove, "Threat"},
+    {&FrmMain::fraASSummary, &FrmMain::lblAStrength, &FrmMain::txtAStrength, &FrmMain::lvAStrength,
+     Button::ASAdd, Button::ASEdit, Button::ASRemove, "Strength"},
+    {&FrmMain::fraAWeakness, &FrmMain::lblAWeakness, &FrmMain::txtAWeakness, &FrmMain::lvAWeakness,
+     Button::AWAdd, Button::AWEdit, Button::AWRemove, "Weakness"},
+    {&FrmMain::fraAOpportunity, &FrmMain::lblAOpportunity, &FrmMain::txtAOpportunity,
+     &FrmMain::lvAOpportunity, Button::AOAdd, Button::AOEdit, Button::AORemove, "Opportunity"},
+    {&FrmMain::fraAThreats, &FrmMain::lblAThreats, &FrmMain::txtAThreat, &FrmMain::lvAThreat,
+     Button::ATAdd, Button::ATEdit, Button::ATRemove, "Threat"},
+}};
+
+constexpr double listWidth = 608, sideButtons = 648;
+
+void placeListScreen(FrmMain& form, const ListScreen& screen) {
+    Panel& panel = form.*screen.panel;
+    Label& heading = form.*screen.heading;
+    place(heading, &panel, grid(24, 16, 712, 72), wide);
+    heading.fontSize = {11.25};
+    heading.bold = true;
+    place(form.*screen.box, &panel, grid(24, 96, listWidth, 32), wide);
+    placeSmall(form.buttons[screen.add], panel, sideButtons, 96, atRight);
+    place(form.*screen.list, &panel, grid(24, 144, listWidth, 356), whole);
+    placeSmall(form.buttons[screen.edit], panel, sideButtons, 144, atRight);
+    placeSmall(form.buttons[screen.remove], panel, sideButtons, 184, atRight);
+    (form.*screen.box).accessibleName = "New " + std::string(screen.kind);
+    (form.*screen.list).accessibleName = std::string(screen.kind) + " list";
+}
+
+struct MappingScreen {
+    Panel FrmMain::*panel;
+    Label FrmMain::*instruction, FrmMain::*parents, FrmMain::*strengths, FrmMain::*weaknesses;
+    StatementList FrmMain::*parentList, FrmMain::*strengthList, FrmMain::*weaknessList;
+};
+
+constexpr std::array<MappingScreen, 2> mappingScreens{{
+    {&FrmMain::fraAnalyzeOpportunity, &FrmMain::lblAOMapping, &FrmMain::lblOpportunities,
+     &FrmMain::lblStrengthsOp, &FrmMain::lblWeaknessesOp, &FrmMain::lvOpportunity,
+     &FrmMain::lvStrengthOp, &FrmMain::lvWeaknessOp},
+    {&FrmMain::fraAnalyzeThreat, &FrmMain::lblATMapping, &FrmMain::lblThreats,
+     &FrmMain::lblStrengthsTh, &FrmMain::lblWeaknessesTh, &FrmMain::lvThreat,
+     &FrmMain::lvStrengthTh, &FrmMain::lvWeaknessTh},
+}};
+
+void placeHeadedList(Label& heading, StatementList& list, Panel& panel, Bounds area, Stretch stretch) {
+    Bounds top = area;
+    top.height = gridLength(20);
+    place(heading, &panel, top, {stretch.left, stretch.top, stretch.right, stretch.top});
+    heading.bold = true;
+    place(list, &panel, area + grid(0, 24, 0, -24), stretch);
+    list.accessibleName = heading.caption();
+}
+
+void placeMappingScreen(FrmMain& form, const MappingScreen& screen) {
+    Panel& panel = form.*screen.panel;
+    Label& instruction = form.*screen.instruction;
+    place(instruction, &panel, grid(24, 16, 712, 72), wide);
+    instruction.fontSize = {11.25};
+    instruction.bold = true;
+    placeHeadedList(form.*screen.parents, form.*screen.parentList, panel, grid(24, 96, 396, 404),
+                    {0, 0, 0.5, 1});
+    placeHeadedList(form.*screen.strengths, form.*screen.strengthList, panel,
+                    grid(436, 96, 300, 196), {0.5, 0, 1, 0.5});
+    placeHeadedList(form.*screen.weaknesses, form.*screen.weaknessList, panel,
+                    grid(436, 304, 300, 196), {0.5, 0.5, 1, 1});
+}
+
+void placeSourceFiles(FrmMain& form) {
+    Panel& panel = form.fraAnalyze;
+    place(form.Label16, &panel, grid(24, 16, 608, 24));
+    form.Label16.fontSize = {11.25};
+    form.Label16.bold = true;
+    place(form.Label10, &panel, grid(24, 48, 608, 20));
+    place(form.lstFiles, &panel, grid(24, 80, listWidth, 420), whole);
+    form.lstFiles.accessibleName = form.Label16.caption();
+    placeSmall(form.buttons[Button::AFAdd], panel, sideButtons, 80, atRight);
+    placeSmall(form.buttons[Button::AFRemove], panel, sideButtons, 120, atRight);
+    for (Control* covered : std::initializer_list<Control*>{
+             &form.Label16, &form.Label10, &form.lstFiles, &form.buttons[Button::AFAdd].image,
+             &form.buttons[Button::AFAdd].label, &form.buttons[Button::AFRemove].image,
+             &form.buttons[Button::AFRemove].label})
+        covered->coveredBy = &form.analyzeSteps;
+}
+
+void placePanels(FrmMain& form) {
+    for (Panel* module : {&form.fraBrainstorm, &form.fraAnalyze}) {
+        place(*module, nullptr, moduleArea, whole);
+        module->hide();
+    }
+    for (Panel* step : {&form.fraStrength, &form.fraWeakness, &form.fraOpportunity, &form.fraThreats}) {
+        place(*step, &form.fraBrainstorm, stepArea, whole);
+        step->hide();
+    }
+    for (Panel* step : {&form.fraASSummary, &form.fraAWeakness, &form.fraAOpportunity, &form.fraAThreats,
+                        &form.fraAnalyzeOpportunity, &form.fraAnalyzeThreat}) {
+        place(*step, &form.fraAnalyze, stepArea, whole);
+        step->hide();
+    }
+}
+
+/// What the Analyze screens say until their texts have been loaded.
+constexpr std::string_view builtInInstruction =
+    "Before we move on, take a look through your list and see if there are any that should drop "
+    "off or perhaps be consolidated with others.";
+
+}  // namespace
+
+FrmMain::FrmMain(FileDialogs& dialogs) : width(gridLength(960)), height(gridLength(640)), cd(dialogs) {
+    placeTopLevel(*this);
+    placePanels(*this);
+    placeWizardButtons(*this);
+    placeModuleChoice(*this);
+    placeSourceFiles(*this);
+    for (const ListScreen& screen : listScreens) placeListScreen(*this, screen);
+    for (const MappingScreen& screen : mappingScreens) placeMappingScreen(*this, screen);
+    for (Label* instruction : {&lblAStrength, &lblAWeakness, &lblAOpportunity, &lblAThreats,
+                               &lblAOMapping, &lblATMapping})
+        instruction->setCaption(std::string(builtInInstruction));
+}
+
+}  // namespace orvanta

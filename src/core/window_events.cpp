@@ -1,0 +1,140 @@
+#include "core/window_events.h"
+
+#include "analyze/list_marks.h"
+#include "analyze/mapping.h"
+#include "analyze/statements.h"
+#include "brainstorm/statements.h"
+#include "core/startup.h"
+#include "journal/journal.h"
+#include "presentation/skinned_buttons.h"
+#include "presentation/team_distribution.h"
+#include "questions/narration.h"
+#include "sessionfiles/merging.h"
+#include "sessionfiles/saving.h"
+
+namespace orvanta {
+
+namespace {
+
+/// Runs what an event leads to. A failure that nothing has caught by then ends the event alone.
+template <class Steps>
+void handle(Program& program, Steps steps) {
+    try {
+        steps();
+    } catch (const Failure& failure) {
+        program.platform.lifetime.reportUnhandled(failure);
+    }
+}
+
+struct AnswerBox {
+    TextBox FrmMain::*box;
+    void (*add)(Program&);
+};
+
+constexpr std::array<AnswerBox, 8> answerBoxes{{
+    {&FrmMain::txtStrength, addBrainstormStrength},
+    {&FrmMain::txtWeakness, addBrainstormWeakness},
+    {&FrmMain::txtOpportunity, addBrainstormOpportunity},
+    {&FrmMain::txtThreat, addBrainstormThreat},
+    {&FrmMain::txtAStrength, addAnalyzeStrength},
+    {&FrmMain::txtAWeakness, addAnalyzeWeakness},
+    {&FrmMain::txtAOpportunity, addAnalyzeOpportunity},
+    {&FrmMain::txtAThreat, addAnalyzeThreat},
+}};
+
+constexpr char enterKey = 13;
+
+struct RankedList {
+    StatementList FrmMain::*list;
+    bool keepsSource;  // its rows tell who said them
+};
+
+constexpr std::array<RankedList, 4> rankedLists{{
+    {&FrmMain::lvAOpportunity, true},
+    {&FrmMain::lvAThreat, true},
+    {&FrmMain::lvBOpportunity, false},
+    {&FrmMain::lvBThreat, false},
+}};
+
+}  // namespace
+
+void windowActivated(Program& program) {
+    handle(program, [&] { activateMainWindow(program); });
+}
+
+bool windowClosing(Program& program) {
+    bool closes = false;
+    handle(program, [&] { closes = closeMainWindow(program); });
+    return closes;
+}
+
+void buttonPressed(Program& program, Button button) {
+    handle(program, [&] { pressButton(program, button); });
+}
+
+void buttonReleased(Program& program, Button button) {
+    handle(program, [&] { releaseButton(program, button); });
+}
+
+void undoClicked(Program& program) {
+    handle(program, [&] { replayJournal(program, true); });
+}
+
+void redoClicked(Program& program) {
+    handle(program, [&] { replayJournal(program, false); });
+}
+
+void distributeClicked(Program& program) {
+    handle(program, [&] { distributeToTeam(program); });
+}
+
+void muteClicked(Program& program, bool on) {
+    handle(program, [&] { clickMute(program, on); });
+}
+
+bool characterTyped(Program& program, TextBox& box, char character) {
+    FrmMain& form = program.frmMain;
+    if (&box == &form.txtName) return isAllowedInName(character);
+    if (character != enterKey) return true;
+    handle(program, [&] {
+        for (const AnswerBox& answer : answerBoxes)
+            if (&(form.*answer.box) == &box) answer.add(program);
+    });
+    return true;
+}
+
+void draggedOver(Program& program, StatementList& list) {
+    handle(program, [&] { dragOverList(program, list); });
+}
+
+void droppedOn(Program& program, StatementList& list, int position) {
+    const FrmMain& form = program.frmMain;
+    handle(program, [&] {
+        if (isMappingList(form, list)) return mapDroppedStatement(program, list, position);
+        if (isPickingList(form, list)) return unmapDroppedRow(program, list);
+        for (const RankedList& ranked : rankedLists)
+            if (&(form.*ranked.list) == &list) moveListRow(list, list, position, ranked.keepsSource);
+    });
+}
+
+void hoveredOver(Program& program, StatementList& list, int position) {
+    handle(program, [&] { showRowToolTip(program, list, position); });
+}
+
+void autoSaveTicked(Program& program) {
+    handle(program, [&] { tickAutoSave(program); });
+}
+
+void mergeChosen(Program& program) {
+    handle(program, [&] { mergeBrainstormFiles(program); });
+}
+
+void removeOpportunityMappingChosen(Program& program) {
+    handle(program, [&] { removeOpportunityMappingRow(program); });
+}
+
+void removeThreatMappingChosen(Program& program) {
+    handle(program, [&] { removeThreatMappingRow(program); });
+}
+
+}  // namespace orvanta

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+#include "core/session_state.h"
+
+namespace orvanta {
+
+/// True for a file, false for a folder or nothing.
+bool fileExists(const Program& program, const std::string& path);
+/// True for a folder, false for a file or nothing.
+bool folderExists(const Program& program, const std::string& path);
+
+/// Stores a path under one of the three remembered keys and in the member that goes with it.
+void rememberPath(Program& program, std::string_view key, std::string FrmMain::*member,
+                  const std::string& path);
+
+/// Deletes a temporary file if it is there; a failure passes to the caller.
+void deleteIfThere(Program& program, const std::string& path);
+
+}  // namespace orvanta

@@ -1,0 +1,51 @@
+#include "presentation/about_box.h"
+
+#include "core/design_grid.h"
+#include "core/display_scaling.h"
+#include "questions/narration.h"
+
+namespace orvanta {
+
+namespace {
+
+std::string supportPage() { return "http://" + std::string(webHost) + "/support/"; }
+
+}  // namespace
+
+FrmAbout::FrmAbout() {
+    Image1.setBounds(grid(0, 0, 180, 310));
+    Image1.accessibleName = caption;
+    lblTitle.setBounds(grid(204, 24, 140, 32));
+    lblTitle.fontSize = {18};
+    lblTitle.bold = true;
+    lblR.setBounds(grid(345, 24, 24, 16));
+    lblVersion.setBounds(grid(204, 64, 290, 20));
+    Label1.setBounds(grid(204, 100, 290, 20));
+    Label1.bold = true;
+    lblSupport.setBounds(grid(204, 122, 290, 20));
+    lblSupport.setCaption(supportPage());
+    lblDisclaimer.setBounds(grid(204, 156, 292, 90));
+    lblDisclaimer.fontSize = {8};
+    lblDisclaimer.setCaption(
+        "This program is free software under the MIT licence and comes with no warranty of any "
+        "kind. What it shows are the statements of the people who entered them; decisions that "
+        "are taken on them remain yours.");
+    cmdOK.setBounds(grid(412, 262, 84, 30));
+}
+
+void openAboutBox(Program& program) {
+    stopNarration(program);
+    FrmAbout form;
+    shrinkForLargeFonts(form, program.platform.screen.twipsPerPixel());
+    program.platform.modalForms.run(form);
+}
+
+void closeAboutBox(FrmAbout& form) {
+    if (!form.open) return;
+    form.open = false;
+    form.closed();
+}
+
+void openSupportPage(Program& program) { program.platform.shell.open(supportPage()); }
+
+}  // namespace orvanta

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "core/session_state.h"
+
+namespace orvanta {
+
+/// The host of the product's pages.
+inline constexpr std::string_view webHost = "www.orvanta.example";
+
+struct FrmAbout {
+    FrmAbout();
+
+    ControlSet controls;
+    std::string caption = "About Orvanta";
+    Twips width{7800}, height{4650};
+    Image Image1{controls, "Image1"};
+    Label lblTitle{controls, "lblTitle", "ORVANTA"};
+    Label lblR{controls, "lblR", "\x99"};  // the trademark sign
+    Label lblVersion{controls, "lblVersion", "Version : 3.13.100"};
+    Label Label1{controls, "Label1", "For Support:"};
+    Label lblSupport{controls, "lblSupport"};
+    Label lblDisclaimer{controls, "lblDisclaimer"};
+    PushButton cmdOK{controls, "cmdOK", "OK"};
+    bool open = true;
+    Notice closed;
+};
+
+void openAboutBox(Program& program);
+void closeAboutBox(FrmAbout& form);
+void openSupportPage(Program& program);
+
+}  // namespace orvanta

@@ -1,0 +1,40 @@
+#include "presentation/question_sheets.h"
+
+#include "core/messages.h"
+#include "core/modules.h"
+#include "core/text.h"
+#include "questions/narration.h"
+#include "questions/question_banks.h"
+
+namespace orvanta {
+
+namespace {
+
+QuestionSheets sheetsOf(const Program& program, const Module& module) {
+    QuestionBanks banks;  // a copy of its own: the wizard's questions stay as they are
+    loadQuestionBank(program, module.code, banks);
+    QuestionSheets sheets{std::string(module.code),
+                          replaceAll((program.frmMain.*module.option).caption(), "&&", "&"),
+                          {}};
+    for (const StatementKind kind : statementKinds) {
+        const BankList list = bankListOf(kind);
+        const auto count = static_cast<std::size_t>(banks.*list.count);
+        for (std::size_t i = 0; i < count && i < (banks.*list.questions).size(); ++i)
+            sheets.questions[indexOf(kind)].emplace_back(trimBlanks((banks.*list.questions)[i]));
+    }
+    return sheets;
+}
+
+}  // namespace
+
+void printQuestions(Program& program) {
+    stopNarration(program);
+    const Module* module = chosenModule(program.frmMain);
+    if (!module) {
+        refuse(program.platform.messages, "Please select any SWOT analysis type.");
+        return;
+    }
+    program.platform.questionPrinter.print(sheetsOf(program, *module));
+}
+
+}  // namespace orvanta

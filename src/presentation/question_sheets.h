@@ -1,0 +1,21 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "core/session_state.h"
+
+namespace orvanta {
+
+/// What is printed: the questions of one module, to be answered on paper.
+struct QuestionSheets {
+    std::string code;                                   // of the module
+    std::string title;                                  // its name
+    std::array<std::vector<std::string>, 4> questions;  // by statement kind, in bank order
+};
+
+/// Prints the questions of the chosen module.
+void printQuestions(Program& program);
+
+}  // namespace orvanta

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "core/session_state.h"
+
+namespace orvanta {
+
+/// The picture at the start. It closes when its timer fires, or at the first key press.
+struct FrmSplash {
+    Twips width{480 * 15.0}, height{300 * 15.0};
+};
+
+inline constexpr int splashMilliseconds = 1000;
+
+void showSplash(Program& program);
+
+}  // namespace orvanta

@@ -1,0 +1,22 @@
+#include "presentation/team_distribution.h"
+
+#include "core/messages.h"
+#include "core/modules.h"
+#include "presentation/about_box.h"
+
+namespace orvanta {
+
+void distributeToTeam(Program& program) {
+    const std::string code = chosenCode(program.frmMain);
+    if (code.empty()) {
+        refuse(program.platform.messages, "Please select any SWOT analysis type.");
+        return;
+    }
+    // The escapes are part of the link, so that it survives in the body of a mail; the blank at
+    // the end keeps what follows it apart.
+    program.platform.shell.open(
+        "mailto:?subject=Invitation for Brainstorming Session&body=Download link%3A http%3A%2F%2F" +
+        std::string(webHost) + "%2Fdownload.php?type%3D" + code + " ");
+}
+
+}  // namespace orvanta

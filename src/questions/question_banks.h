@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string_view>
+
+#include "core/session_state.h"
+
+namespace orvanta {
+
+/// Where the questions of one kind are kept.
+struct BankList {
+    std::vector<std::string> QuestionBanks::*questions;
+    std::int16_t QuestionBanks::*count;
+};
+
+BankList bankListOf(StatementKind kind);
+
+/// The file of a module's bank; it offers the module by being there.
+std::string bankPath(const Program& program, std::string_view code);
+
+/// Reads the bank of a module. True if each of the four lists has a question. A missing file
+/// leaves the texts as they were, with all counts at 0. Fails where the file can't be read, or
+/// with SubscriptOutOfRange where text stands ahead of a section's first question.
+bool loadModuleQuestions(Program& program, std::string_view code);
+bool loadQuestionBank(const Program& program, std::string_view code, QuestionBanks& into);
+
+/// Reads the headings of the six Analyze screens and shows them.
+void loadAnalyzeQuestions(Program& program);
+
+}  // namespace orvanta

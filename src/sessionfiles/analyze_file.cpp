@@ -1,0 +1,195 @@
+#include "sessionfiles/analyze_file.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "analyze/list_marks.h"
+#include "analyze/mapping_keys.h"
+#include "core/constants.h"
+#include "core/failures.h"
+#include "core/modules.h"
+#include "core/section_tags.h"
+#include "core/text.h"
+#include "core/workspace.h"
+#include "sessionfiles/section_writer.h"
+#include "sessionfiles/step_codes.h"
+
+namespace orvanta {
+
+namespace {
+
+using List = StatementList FrmMain::*;
+constexpr List noList = nullptr;
+
+struct StatementSection {
+    Section section;
+    StatementKind kind;
+    std::array<List, 3> lists;  // the first one is written
+};
+
+constexpr std::array<StatementSection, 4> statementSections{{
+    {Section::Strength, StatementKind::Strength,
+     {&FrmMain::lvAStrength, &FrmMain::lvStrengthOp, &FrmMain::lvStrengthTh}},
+    {Section::Weakness, StatementKind::Weakness,
+     {&FrmMain::lvAWeakness, &FrmMain::lvWeaknessOp, &FrmMain::lvWeaknessTh}},
+    {Section::Opportunity, StatementKind::Opportunity, {&FrmMain::lvAOpportunity, noList, noList}},
+    {Section::Threats, StatementKind::Threat, {&FrmMain::lvAThreat, noList, noList}},
+}};
+
+struct MappingSection {
+    Section section;
+    StatementKind parentKind;
+    List list;
+};
+
+constexpr std::array<MappingSection, 2> mappingSections{{
+    {Section::OpportunityMapping, StatementKind::Opportunity, &FrmMain::lvOpportunity},
+    {Section::ThreatMapping, StatementKind::Threat, &FrmMain::lvThreat},
+}};
+
+constexpr std::array knownSections{
+    Section::Step,        Section::Module,  Section::Strength,           Section::Weakness,
+    Section::Opportunity, Section::Threats, Section::OpportunityMapping, Section::ThreatMapping};
+
+constexpr std::array<StepCode, 6> stepCodes{{
+    {"ST", &FrmMain::fraASSummary},
+    {"WE", &FrmMain::fraAWeakness},
+    {"OP", &FrmMain::fraAOpportunity},
+    {"TH", &FrmMain::fraAThreats},
+    {"AO", &FrmMain::fraAnalyzeOpportunity},
+    {"AT", &FrmMain::fraAnalyzeThreat},
+}};
+
+void writeRows(SectionWriter& writer, Section section, const StatementList& list) {
+    writer.open(section);
+    for (int position = 1; position <= list.count(); ++position) {
+        const Row& row = list.row(position);
+        std::string line = row.key;
+        line.append(rowFieldDelimiter).append(row.subItem);
+        line.append(rowFieldDelimiter).append(trimBlanks(row.text));
+        writer.line(line);
+    }
+    writer.close(section);
+}
+
+struct RowFields {
+    std::string_view key, sourceLabel, text;
+};
+
+std::optional<RowFields> rowFieldsFrom(std::string_view line) {
+    const auto fields = splitAt(line, rowFieldDelimiter);
+    if (fields.size() != 3) return std::nullopt;
+    return RowFields{fields[0], fields[1], trimBlanks(fields[2])};
+}
+
+/// The number that a text begins with; 0 if it begins with none.
+double leadingNumber(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    if (text.starts_with('+')) text.remove_prefix(1);
+    double value = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (result.ec == std::errc::result_out_of_range) return std::numeric_limits<double>::infinity();
+    const bool digits = text.find_first_of("0123456789") == text.find_first_not_of("-.");
+    return result.ec == std::errc{} && digits ? value : 0;
+}
+
+class Reading {
+public:
+    Reading(FrmMain& form, bool restoreStep) : m_form(form), m_restoreStep(restoreStep) {}
+
+    void take(std::string_view line) {
+        const std::string_view trimmed = trimBlanks(line);
+        if (const auto tag = tagOf(trimmed, knownSections))
+            m_open.take(*tag);
+        else if (const auto section = m_open.section())
+            takeData(*section, line, trimmed);
+    }
+
+private:
+    void takeData(Section section, std::string_view line, std::string_view trimmed) {
+        if (section == Section::Step) {
+            if (m_restoreStep) showStep(m_form, stepCodes, trimmed);
+            return;
+        }
+        if (section == Section::Module) return chooseModuleByWord(m_form, trimmed);
+        const auto fields = rowFieldsFrom(line);
+        if (!fields) return;
+        for (const StatementSection& statements : statementSections)
+            if (statements.section == section) addStatement(statements, *fields);
+        for (std::size_t side = 0; side < mappingSections.size(); ++side)
+            if (mappingSections[side].section == section)
+                addMappingRow(mappingSections[side], m_topRows[side], *fields);
+    }
+
+    void addStatement(const StatementSection& section, const RowFields& fields) {
+        const int image = imageOf(section.kind);
+        for (const List list : section.lists)
+            if (list)
+                (m_form.*list).add({.key = std::string(fields.key),
+                                    .text = std::string(fields.text),
+                                    .image = image,
+                                    .largeImage = image,
+                                    .subItem = std::string(fields.sourceLabel)});
+        if (fields.key.empty()) return;
+        const double number = leadingNumber(fields.key.substr(1));
+        std::int32_t& count = keyCount(m_form, section.kind);
+        if (number > count) count = narrowed<std::int32_t>(std::nearbyint(number));
+    }
+
+    void addMappingRow(const MappingSection& section, int& topRows, const RowFields& fields) {
+        const MappingKey key = mappingKeyFrom(fields.key);
+        Row row{.key = std::string(fields.key),
+                .text = std::string(fields.text),
+                .subItem = std::string(fields.sourceLabel)};
+        if (key.isMapped) {
+            const StatementKind kind =
+                key.child.starts_with('S') ? StatementKind::Strength : StatementKind::Weakness;
+            addRow(section, std::move(row), imageOf(kind));
+            markMappedRow(m_form.*section.list, (m_form.*section.list).count(), kind);
+            return;
+        }
+        ++topRows;
+        if (trimBlanks(row.key).empty()) row.key = letterOf(section.parentKind) + std::to_string(topRows);
+        addRow(section, std::move(row), imageOf(section.parentKind));
+    }
+
+    void addRow(const MappingSection& section, Row row, int image) {
+        row.image = row.largeImage = image;
+        (m_form.*section.list).add(std::move(row));
+    }
+
+    FrmMain& m_form;
+    const bool m_restoreStep;
+    OpenSection m_open;
+    std::array<int, 2> m_topRows{};
+};
+
+}  // namespace
+
+std::string analyzeBytes(const FrmMain& form, bool withStep) {
+    SectionWriter writer;
+    if (withStep) writer.section(Section::Step, stepOnScreen(form, stepCodes));
+    writer.section(Section::Module, chosenModuleWord(form));
+    for (const StatementSection& section : statementSections)
+        writeRows(writer, section.section, form.*section.lists.front());
+    for (const MappingSection& section : mappingSections) writeRows(writer, section.section, form.*section.list);
+    return writer.bytes();
+}
+
+void saveAnalyzeData(Program& program, const std::string& fileName, bool TmpFlag) {
+    const CarryOn step;
+    step([&] { program.platform.disk.replace(fileName, analyzeBytes(program.frmMain, TmpFlag)); });
+}
+
+void loadAnalyzeData(Program& program, const std::string& fileName, bool restoreStep) {
+    if (!fileExists(program, fileName)) return;
+    const std::string bytes = program.platform.disk.read(fileName);
+    Reading reading(program.frmMain, restoreStep);
+    LineSource lines(bytes);
+    while (const auto line = lines.next()) reading.take(*line);
+}
+
+}  // namespace orvanta

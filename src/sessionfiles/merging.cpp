@@ -1,0 +1,81 @@
+#include "sessionfiles/merging.h"
+
+#include <array>
+#include <vector>
+
+#include "core/constants.h"
+#include "core/failures.h"
+#include "core/messages.h"
+#include "core/section_tags.h"
+#include "core/text.h"
+#include "core/workspace.h"
+#include "sessionfiles/section_writer.h"
+
+namespace orvanta {
+
+namespace {
+
+// Names and steps of the sources are no part of a merged file.
+constexpr std::array knownSections{Section::Module, Section::Strength, Section::Weakness,
+                                   Section::Opportunity, Section::Threats};
+constexpr std::size_t firstStatementSection = 1;
+
+struct Merged {
+    std::string moduleWord;
+    std::array<std::vector<std::string>, 4> statements;
+};
+
+void takeData(Merged& merged, Section section, std::string_view line) {
+    if (section == Section::Module) {
+        merged.moduleWord = trimBlanks(line);
+        return;
+    }
+    // Statements of blanks only are dropped.
+    const std::string_view text = trimBlanks(line);
+    if (text.empty()) return;
+    const auto place = static_cast<std::size_t>(section) - static_cast<std::size_t>(Section::Strength);
+    merged.statements[place].emplace_back(text);
+}
+
+void readSource(std::string_view bytes, Merged& merged) {
+    OpenSection open;
+    LineSource lines(bytes);
+    while (const auto line = lines.next()) {
+        if (const auto tag = tagOf(trimBlanks(*line), knownSections))
+            open.take(*tag);
+        else if (const auto section = open.section())
+            takeData(merged, *section, *line);
+    }
+}
+
+std::string bytesOf(const Merged& merged) {
+    SectionWriter writer;
+    writer.section(Section::Module, merged.moduleWord);
+    for (std::size_t i = 0; i < merged.statements.size(); ++i) {
+        const Section section = knownSections[firstStatementSection + i];
+        writer.open(section);
+        for (const std::string& statement : merged.statements[i]) writer.line(statement);
+        writer.close(section);
+    }
+    return writer.bytes();
+}
+
+}  // namespace
+
+void mergeBrainstormFiles(Program& program) {
+    reportingFailures(program.platform.messages, [&] {
+        FrmMain& form = program.frmMain;
+        form.cd.fileName.clear();
+        form.cd.showSave();
+        const std::string target = form.cd.fileName;
+        if (fileExists(program, target) && !mayOverwrite(program.platform.messages, std::string(appTitle)))
+            return;
+        Merged merged;
+        for (const std::string& source : form.lstFiles.items())
+            if (fileExists(program, source)) readSource(program.platform.disk.read(source), merged);
+        program.platform.disk.replace(target, bytesOf(merged));
+        inform(program.platform.messages, "Brainstorm files merged.");
+    });
+}
+
+}  // namespace orvanta

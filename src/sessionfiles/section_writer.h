@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/section_tags.h"
+
+namespace orvanta {
+
+/// Builds the bytes of a session file. Each line ends in CR LF, the last one too.
+class SectionWriter {
+public:
+    void line(std::string_view text) { m_bytes.append(text).append("\r\n"); }
+    void open(Section section) { line("<" + std::string(wordOf(section)) + ">"); }
+    void close(Section section) { line("</" + std::string(wordOf(section)) + ">"); }
+
+    /// A section of one line.
+    void section(Section section, std::string_view text) {
+        open(section);
+        line(text);
+        close(section);
+    }
+
+    const std::string& bytes() const { return m_bytes; }
+
+private:
+    std::string m_bytes;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,113 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "view/control.h"
+
+namespace orvanta {
+
+struct Colour {
+    int red, green, blue;  // 0 to 255
+
+    friend bool operator==(const Colour&, const Colour&) = default;
+};
+
+/// One row of a statement list. Texts are Windows-1252.
+struct Row {
+    std::string key;        // unique in its list; empty: the row has none
+    std::string text;
+    int image = 0;          // the small picture, 1 strength to 4 threat
+    int largeImage = 0;
+    std::string subItem{};  // who said it, as "[name]: "; empty where nobody is named
+    std::optional<Colour> colour{};  // none: the list's own
+    int indent = 0;
+};
+
+/// Watches one statement list, row by row. Positions count from 1.
+class StatementListObserver {
+public:
+    virtual ~StatementListObserver() = default;
+    virtual void rowAboutToBeInserted(int) {}
+    virtual void rowInserted(int) {}
+    virtual void rowAboutToBeRemoved(int) {}
+    virtual void rowRemoved(int) {}
+    virtual void rowChanged(int) {}
+    virtual void aboutToBeCleared() {}
+    virtual void cleared() {}
+    virtual void selectionChanged() {}
+};
+
+/// What is selected after the selected row itself was removed.
+enum class AfterRemoval { SelectNeighbour, SelectNone };
+
+/// An ordered list of statement rows with at most one of them selected. The rows are the
+/// session's data. Positions count from 1.
+///
+/// Rows stay where they are in memory, so that the key index can point at them. Each carries a
+/// rank that grows along the list; a position is found from a row by bisecting on the ranks.
+class StatementList : public Control {
+public:
+    StatementList(ControlSet& owner, std::string name,
+                  AfterRemoval afterRemoval = AfterRemoval::SelectNeighbour);
+
+    int count() const { return static_cast<int>(m_rows.size()); }
+
+    /// Fails with IndexOutOfBounds.
+    const Row& row(int position) const { return entry(position).row; }
+
+    /// Position of the row with this key, from 1; 0 if the list has none.
+    int positionOf(std::string_view key) const;
+
+    /// Fails with KeyNotUnique if the list holds the key already. The selection stays.
+    void add(Row row) { insert(count() + 1, std::move(row)); }
+
+    /// Adds a row at a position from 1 to count() + 1. Fails with IndexOutOfBounds or
+    /// KeyNotUnique, the list unchanged.
+    void insert(int position, Row row);
+
+    /// Fails with IndexOutOfBounds.
+    void remove(int position);
+    void clear();
+
+    /// Each fails with IndexOutOfBounds; setKey also with KeyNotUnique.
+    void setKey(int position, std::string key);
+    void setText(int position, std::string text);
+    void setSubItem(int position, std::string subItem);
+    void setColour(int position, Colour colour);
+    void setIndent(int position, int indent);
+
+    /// Position of the selected row, from 1; 0 for none.
+    int selected() const { return m_selected ? positionOf(*m_selected) : 0; }
+    /// The selected row; null for none.
+    const Row* selectedRow() const { return m_selected ? &m_selected->row : nullptr; }
+    /// 0 selects none. Fails with IndexOutOfBounds.
+    void select(int position);
+
+    void watch(StatementListObserver& observer) { m_observers.push_back(&observer); }
+
+private:
+    struct Entry {
+        Row row;
+        std::uint64_t rank;
+    };
+
+    Entry& entry(int position) const;
+    int positionOf(const Entry& entry) const;
+    std::uint64_t rankFor(int position);
+    void refuseTakenKey(std::string_view key) const;
+    template <class Change>
+    void changeRow(int position, Change change);
+
+    std::vector<std::unique_ptr<Entry>> m_rows;
+    std::unordered_map<std::string_view, Entry*> m_byKey;  // views into the entries' own keys
+    Entry* m_selected = nullptr;
+    AfterRemoval m_afterRemoval;
+    std::vector<StatementListObserver*> m_observers;
+};
+
+}  // namespace orvanta
