@@ -83,14 +83,14 @@ void refuseBeyond(const StatementList& list, int position, int first) {
 
 }  // namespace
 
-Driver::Driver(Stage& stage, const Folders& folders)
+Driver::Driver(Stage& stage, Disk& disk, const Folders& folders)
     : m_stage(stage),
       m_messages(m_log, m_answers, stage),
       m_fileDialogs(m_log, m_answers, stage),
       m_settings(m_log, utf8From1252(folders.settings)),
       m_forms(m_log, m_answers, stage),
       m_world(m_log, folders.documents),
-      m_platform{m_disk,  m_messages, m_fileDialogs, m_settings, m_world, m_world,
+      m_platform{disk,    m_messages, m_fileDialogs, m_settings, m_world, m_world,
                  m_world, m_forms,    m_world,       m_world,    m_world, m_world},
       m_program(m_platform, folders.app, folders.app) {
     watchMainWindow();
@@ -101,7 +101,7 @@ void Driver::watchMainWindow() {
         control->focusGiven.subscribe(
             [this, control] { m_log.add({{"event", "focus"}, {"control", control->name()}}); });
     for (std::size_t i = 0; i < buttonCount; ++i) {
-        const SkinnedButton& button = m_program.frmMain.buttons[static_cast<Button>(i)];
+        SkinnedButton& button = m_program.frmMain.buttons[static_cast<Button>(i)];
         m_artSeen[i] = button.image.art();
         button.image.changed.subscribe([this, i, &button] {
             const Art art = button.image.art();

@@ -20,10 +20,12 @@ struct Folders {
 /// Plays lines on a stage, one JSON object each, and answers each with one.
 class Driver {
 public:
-    Driver(Stage& stage, const Folders& folders);
+    /// The stage and the disk must outlive the driver.
+    Driver(Stage& stage, Disk& disk, const Folders& folders);
 
     Json answer(const std::string& line);
     bool hasEnded() const { return m_world.hasEnded(); }
+    Program& program() { return m_program; }
 
 private:
     struct Act {
@@ -62,7 +64,6 @@ private:
     Stage& m_stage;
     EventLog m_log;
     Answers m_answers;
-    FileDisk m_disk;
     RecordedMessages m_messages;
     RecordedFileDialogs m_fileDialogs;
     RecordedSettings m_settings;

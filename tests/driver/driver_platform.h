@@ -6,7 +6,6 @@
 
 #include "answers.h"
 #include "json.h"
-#include "view/file_disk.h"
 
 namespace orvanta::driver {
 

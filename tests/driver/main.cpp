@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "driver.h"
+#include "view/file_disk.h"
 
 namespace {
 
@@ -40,7 +41,8 @@ Options optionsFrom(int argc, char** argv) {
 }
 
 int play(driver::Stage& stage, const driver::Folders& folders) {
-    driver::Driver driver(stage, folders);
+    FileDisk disk;
+    driver::Driver driver(stage, disk, folders);
     std::string line;
     while (!driver.hasEnded() && std::getline(std::cin, line)) {
         if (line.find_first_not_of(" \t\r") == std::string::npos) continue;

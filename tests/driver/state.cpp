@@ -56,6 +56,13 @@ Json toolTipsOf(const FrmMain& form) {
     return toolTips;
 }
 
+/// Whole numbers of twips are written without a fraction.
+Json lengthOf(Twips length) {
+    const auto whole = static_cast<long long>(length.value);
+    if (static_cast<double>(whole) == length.value) return whole;
+    return length.value;
+}
+
 Json optionsOf(const FrmMain& form) {
     Json options = Json::object();
     for (const Module& module : modules) {
@@ -63,7 +70,7 @@ Json optionsOf(const FrmMain& form) {
         options[option.name()] = {{"on", option.isOn()},
                                   {"enabled", option.isEnabled()},
                                   {"visible", option.isVisible()},
-                                  {"top", option.bounds().top.value}};
+                                  {"top", lengthOf(option.bounds().top)}};
     }
     return options;
 }
