@@ -21,10 +21,12 @@ void setRowIndent(StatementList& list, int index, std::int16_t indent) {
 
 void markMappedRow(StatementList& list, int position, StatementKind kind) {
     setRowIndent(list, position, mappedRowIndent);
-    list.setColour(position, kind == StatementKind::Strength ? mappedStrengthColour : mappedWeaknessColour);
+    list.setColour(position,
+                   kind == StatementKind::Strength ? mappedStrengthColour : mappedWeaknessColour);
 }
 
-void moveListRow(StatementList& sourceList, StatementList& targetList, int position, bool copySubItem) {
+void moveListRow(StatementList& sourceList, StatementList& targetList, int position,
+                 bool copySubItem) {
     if (position == 0 || !sourceList.selectedRow()) return;
     const Row moved = *sourceList.selectedRow();
     // For a moment the list holds both rows, so the new one needs a key of its own.

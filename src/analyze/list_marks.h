@@ -17,7 +17,8 @@ void markMappedRow(StatementList& list, int position, StatementKind kind);
 /// Moves the selected row of sourceList directly beneath the row at a position of targetList;
 /// both are the same list wherever rows are ranked. Does nothing beside the rows or with
 /// nothing selected.
-void moveListRow(StatementList& sourceList, StatementList& targetList, int position, bool copySubItem);
+void moveListRow(StatementList& sourceList, StatementList& targetList, int position,
+                 bool copySubItem);
 
 /// The mouse is over a row of a list, or beside all rows (0): the list's tool tip tells the
 /// whole statement.

@@ -47,7 +47,8 @@ const PickingList* pickingListOf(const FrmMain& form, const StatementList& list)
 /// The picking list of a side that a drag now carries a statement from; null for none.
 StatementList* draggedFrom(FrmMain& form, const Side& side) {
     for (const PickingList& picking : pickingLists)
-        if (&picking.side == &side && picking.section == form.dragSection) return &(form.*picking.list);
+        if (&picking.side == &side && picking.section == form.dragSection)
+            return &(form.*picking.list);
     return nullptr;
 }
 
@@ -57,7 +58,8 @@ const Side& sideOf(const FrmMain& form, const StatementList& mappingList) {
 
 /// True if the list maps this child under this parent. Ends that hold a "-" themselves make no
 /// key of two parts, so nothing can be mapped between them.
-bool isMapped(const StatementList& mappingList, const std::string& parent, const std::string& child) {
+bool isMapped(const StatementList& mappingList, const std::string& parent,
+              const std::string& child) {
     const std::string key = mappingRowKey(parent, child);
     return mappingKeyFrom(key).isMapped && mappingList.positionOf(key) != 0;
 }
@@ -84,7 +86,8 @@ void removeMappingRow(Program& program, const Side& side) {
         extra = parts[1].starts_with('S') ? "S" : "W";
     else if (hasMappedRows(list, parts.front()))
         return refuseMappedRows(program);
-    pushUserChange(program, side.journalTag, list.selected(), row->key, trimBlanks(row->text), extra);
+    pushUserChange(program, side.journalTag, list.selected(), row->key, trimBlanks(row->text),
+                   extra);
     list.remove(list.selected());
     form.editAFlag = true;
 }
@@ -120,8 +123,8 @@ void unmapDroppedRow(Program& program, StatementList& pickingList) {
     if (row && row->image == picking->image) mappingList.remove(mappingList.selected());
 }
 
-void insertMappingRow(StatementList& sourceList, StatementList& targetList, const std::string& textPrefix,
-                      int position, std::string_view section) {
+void insertMappingRow(StatementList& sourceList, StatementList& targetList,
+                      const std::string& textPrefix, int position, std::string_view section) {
     const Row* child = sourceList.selectedRow();
     if (position == 0 || !child) return;
     const bool weakness = section == "W";
@@ -132,7 +135,8 @@ void insertMappingRow(StatementList& sourceList, StatementList& targetList, cons
                                   .image = image,
                                   .largeImage = image,
                                   .subItem = child->subItem});
-    markMappedRow(targetList, above + 1, weakness ? StatementKind::Weakness : StatementKind::Strength);
+    markMappedRow(targetList, above + 1,
+                  weakness ? StatementKind::Weakness : StatementKind::Strength);
     targetList.select(above + 1);
 }
 

@@ -18,8 +18,8 @@ void unmapDroppedRow(Program& program, StatementList& pickingList);
 
 /// Puts a row for the statement selected in sourceList under the row of targetList at the drop
 /// position: strengths right below it, weaknesses below its strengths. `section`: "S" or "W".
-void insertMappingRow(StatementList& sourceList, StatementList& targetList, const std::string& textPrefix,
-                      int position, std::string_view section);
+void insertMappingRow(StatementList& sourceList, StatementList& targetList,
+                      const std::string& textPrefix, int position, std::string_view section);
 
 void removeOpportunityMappingRow(Program& program);
 void removeThreatMappingRow(Program& program);

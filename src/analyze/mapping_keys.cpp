@@ -20,7 +20,8 @@ bool hasMappedRows(const StatementList& mappingList, std::string_view parentKey)
     return false;
 }
 
-void setTextOfMappedRows(StatementList& mappingList, std::string_view childKey, const std::string& text) {
+void setTextOfMappedRows(StatementList& mappingList, std::string_view childKey,
+                         const std::string& text) {
     for (int position = 1; position <= mappingList.count(); ++position) {
         const MappingKey key = mappingKeyFrom(mappingList.row(position).key);
         if (key.isMapped && key.child == childKey) mappingList.setText(position, text);

@@ -23,7 +23,8 @@ std::string mappingRowKey(std::string_view parent, std::string_view child);
 bool hasMappedRows(const StatementList& mappingList, std::string_view parentKey);
 
 /// Gives a text to every row mapped from the statement with this key.
-void setTextOfMappedRows(StatementList& mappingList, std::string_view childKey, const std::string& text);
+void setTextOfMappedRows(StatementList& mappingList, std::string_view childKey,
+                         const std::string& text);
 
 /// Gives a text to the row with exactly this key, if there is one.
 void setTextOfKey(StatementList& list, std::string_view key, const std::string& text);

@@ -23,8 +23,12 @@ struct Copies {
 constexpr List noList = nullptr;
 
 constexpr std::array<Copies, 4> consolidatedCopies{{
-    {StatementKind::Strength, &FrmMain::lvAStrength, {&FrmMain::lvStrengthOp, &FrmMain::lvStrengthTh}},
-    {StatementKind::Weakness, &FrmMain::lvAWeakness, {&FrmMain::lvWeaknessOp, &FrmMain::lvWeaknessTh}},
+    {StatementKind::Strength,
+     &FrmMain::lvAStrength,
+     {&FrmMain::lvStrengthOp, &FrmMain::lvStrengthTh}},
+    {StatementKind::Weakness,
+     &FrmMain::lvAWeakness,
+     {&FrmMain::lvWeaknessOp, &FrmMain::lvWeaknessTh}},
     {StatementKind::Opportunity, &FrmMain::lvAOpportunity, {&FrmMain::lvOpportunity, noList}},
     {StatementKind::Threat, &FrmMain::lvAThreat, {&FrmMain::lvThreat, noList}},
 }};
@@ -36,11 +40,12 @@ void copyRows(FrmMain& form, const Copies& copies) {
         const Row& row = source.row(position);
         for (const List target : copies.targets)
             if (target)
-                (form.*target).add({.key = letterOf(copies.kind) + std::to_string(position),
-                                    .text = row.text,
-                                    .image = image,
-                                    .largeImage = image,
-                                    .subItem = row.subItem});
+                (form.*target)
+                    .add({.key = letterOf(copies.kind) + std::to_string(position),
+                          .text = row.text,
+                          .image = image,
+                          .largeImage = image,
+                          .subItem = row.subItem});
     }
 }
 

@@ -28,14 +28,30 @@ struct AnalyzeKind {
 constexpr List noList = nullptr;
 
 constexpr std::array<AnalyzeKind, 4> analyzeKinds{{
-    {StatementKind::Strength, &FrmMain::txtAStrength, &FrmMain::lvAStrength,
-     {&FrmMain::lvStrengthOp, &FrmMain::lvStrengthTh}, noList, "Please enter strength."},
-    {StatementKind::Weakness, &FrmMain::txtAWeakness, &FrmMain::lvAWeakness,
-     {&FrmMain::lvWeaknessOp, &FrmMain::lvWeaknessTh}, noList, "Please enter weakness."},
-    {StatementKind::Opportunity, &FrmMain::txtAOpportunity, &FrmMain::lvAOpportunity,
-     {noList, noList}, &FrmMain::lvOpportunity, "Please enter opportunity."},
-    {StatementKind::Threat, &FrmMain::txtAThreat, &FrmMain::lvAThreat,
-     {noList, noList}, &FrmMain::lvThreat, "Please enter threat."},
+    {StatementKind::Strength,
+     &FrmMain::txtAStrength,
+     &FrmMain::lvAStrength,
+     {&FrmMain::lvStrengthOp, &FrmMain::lvStrengthTh},
+     noList,
+     "Please enter strength."},
+    {StatementKind::Weakness,
+     &FrmMain::txtAWeakness,
+     &FrmMain::lvAWeakness,
+     {&FrmMain::lvWeaknessOp, &FrmMain::lvWeaknessTh},
+     noList,
+     "Please enter weakness."},
+    {StatementKind::Opportunity,
+     &FrmMain::txtAOpportunity,
+     &FrmMain::lvAOpportunity,
+     {noList, noList},
+     &FrmMain::lvOpportunity,
+     "Please enter opportunity."},
+    {StatementKind::Threat,
+     &FrmMain::txtAThreat,
+     &FrmMain::lvAThreat,
+     {noList, noList},
+     &FrmMain::lvThreat,
+     "Please enter threat."},
 }};
 static_assert(analyzeKinds[indexOf(StatementKind::Threat)].kind == StatementKind::Threat);
 
@@ -58,8 +74,10 @@ void addStatement(Program& program, const AnalyzeKind& kind) {
     }
     form.editAFlag = true;
     const int image = imageOf(kind.kind);
-    const Row row{.key = getNextKey(program, kind.kind), .text = text, .image = image, .largeImage = image};
-    for (const List list : {kind.main, kind.pickingLists[0], kind.pickingLists[1], kind.mappingList})
+    const Row row{
+        .key = getNextKey(program, kind.kind), .text = text, .image = image, .largeImage = image};
+    for (const List list :
+         {kind.main, kind.pickingLists[0], kind.pickingLists[1], kind.mappingList})
         if (list) (form.*list).add(row);
     pushUserChange(program, tag("DEL", kind), (form.*kind.main).count(), row.key, text);
     box.setText({});
@@ -80,7 +98,8 @@ void editStatement(Program& program, const AnalyzeKind& kind) {
     const std::string oldText = list.selectedRow()->text;
     showEditDialog(program, std::string("A") + letterOf(kind.kind), oldText);
     if (list.selectedRow()->text != oldText)
-        pushUserChange(program, tag("EDIT", kind), list.selected(), list.selectedRow()->key, oldText);
+        pushUserChange(program, tag("EDIT", kind), list.selected(), list.selectedRow()->key,
+                       oldText);
     carryText(program.frmMain, kind);
 }
 
@@ -123,7 +142,8 @@ void removeParent(Program& program, const AnalyzeKind& kind) {
             removedRows = removedRowEntry(row->key, position);
             mappingList.remove(position);
         }
-        pushUserChange(program, tag("ADD", kind), main.selected(), row->key, trimBlanks(row->text), removedRows);
+        pushUserChange(program, tag("ADD", kind), main.selected(), row->key, trimBlanks(row->text),
+                       removedRows);
         main.remove(main.selected());
         form.editAFlag = true;
     });
@@ -136,17 +156,33 @@ void reporting(Program& program, void (*change)(Program&, const AnalyzeKind&), S
 
 }  // namespace
 
-void addAnalyzeStrength(Program& program) { reporting(program, addStatement, StatementKind::Strength); }
-void addAnalyzeWeakness(Program& program) { reporting(program, addStatement, StatementKind::Weakness); }
-void addAnalyzeOpportunity(Program& program) { addStatement(program, of(StatementKind::Opportunity)); }
+void addAnalyzeStrength(Program& program) {
+    reporting(program, addStatement, StatementKind::Strength);
+}
+void addAnalyzeWeakness(Program& program) {
+    reporting(program, addStatement, StatementKind::Weakness);
+}
+void addAnalyzeOpportunity(Program& program) {
+    addStatement(program, of(StatementKind::Opportunity));
+}
 void addAnalyzeThreat(Program& program) { reporting(program, addStatement, StatementKind::Threat); }
-void editAnalyzeStrength(Program& program) { reporting(program, editStatement, StatementKind::Strength); }
-void editAnalyzeWeakness(Program& program) { reporting(program, editStatement, StatementKind::Weakness); }
-void editAnalyzeOpportunity(Program& program) { editStatement(program, of(StatementKind::Opportunity)); }
-void editAnalyzeThreat(Program& program) { reporting(program, editStatement, StatementKind::Threat); }
+void editAnalyzeStrength(Program& program) {
+    reporting(program, editStatement, StatementKind::Strength);
+}
+void editAnalyzeWeakness(Program& program) {
+    reporting(program, editStatement, StatementKind::Weakness);
+}
+void editAnalyzeOpportunity(Program& program) {
+    editStatement(program, of(StatementKind::Opportunity));
+}
+void editAnalyzeThreat(Program& program) {
+    reporting(program, editStatement, StatementKind::Threat);
+}
 void removeAnalyzeStrength(Program& program) { removePicked(program, of(StatementKind::Strength)); }
 void removeAnalyzeWeakness(Program& program) { removePicked(program, of(StatementKind::Weakness)); }
-void removeAnalyzeOpportunity(Program& program) { removeParent(program, of(StatementKind::Opportunity)); }
+void removeAnalyzeOpportunity(Program& program) {
+    removeParent(program, of(StatementKind::Opportunity));
+}
 void removeAnalyzeThreat(Program& program) { removeParent(program, of(StatementKind::Threat)); }
 
 }  // namespace orvanta

@@ -19,8 +19,8 @@ namespace {
 /// One of the six screens behind the source files, in the order of the wizard.
 struct Step {
     Panel FrmMain::*panel;
-    std::string_view clip;         // spoken when the step comes up
-    TextBox FrmMain::*box;         // null on the mapping steps
+    std::string_view clip;  // spoken when the step comes up
+    TextBox FrmMain::*box;  // null on the mapping steps
     void (*add)(Program&);
 };
 
@@ -116,7 +116,8 @@ void analyzeNext(Program& program) {
     reportingFailures(program.platform.messages, [&] {
         stopNarration(program);
         const FrmMain& form = program.frmMain;
-        const auto shown = std::ranges::find_if(steps, [&](const Step& step) { return isShown(form, step); });
+        const auto shown =
+            std::ranges::find_if(steps, [&](const Step& step) { return isShown(form, step); });
         const bool moved = shown == steps.end()
                                ? startReview(program)
                                : goOnFrom(program, static_cast<std::size_t>(shown - steps.begin()));

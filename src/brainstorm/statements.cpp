@@ -61,18 +61,42 @@ void removeBrainstormStatement(Program& program, const BrainstormKind& kind) {
     form.editFlag = true;
 }
 
-void addBrainstormStrength(Program& program) { addBrainstormStatement(program, of(StatementKind::Strength)); }
-void addBrainstormWeakness(Program& program) { addBrainstormStatement(program, of(StatementKind::Weakness)); }
-void addBrainstormOpportunity(Program& program) { addBrainstormStatement(program, of(StatementKind::Opportunity)); }
-void addBrainstormThreat(Program& program) { addBrainstormStatement(program, of(StatementKind::Threat)); }
-void editBrainstormStrength(Program& program) { editBrainstormStatement(program, of(StatementKind::Strength)); }
-void editBrainstormWeakness(Program& program) { editBrainstormStatement(program, of(StatementKind::Weakness)); }
-void editBrainstormOpportunity(Program& program) { editBrainstormStatement(program, of(StatementKind::Opportunity)); }
-void editBrainstormThreat(Program& program) { editBrainstormStatement(program, of(StatementKind::Threat)); }
-void removeBrainstormStrength(Program& program) { removeBrainstormStatement(program, of(StatementKind::Strength)); }
-void removeBrainstormWeakness(Program& program) { removeBrainstormStatement(program, of(StatementKind::Weakness)); }
-void removeBrainstormOpportunity(Program& program) { removeBrainstormStatement(program, of(StatementKind::Opportunity)); }
-void removeBrainstormThreat(Program& program) { removeBrainstormStatement(program, of(StatementKind::Threat)); }
+void addBrainstormStrength(Program& program) {
+    addBrainstormStatement(program, of(StatementKind::Strength));
+}
+void addBrainstormWeakness(Program& program) {
+    addBrainstormStatement(program, of(StatementKind::Weakness));
+}
+void addBrainstormOpportunity(Program& program) {
+    addBrainstormStatement(program, of(StatementKind::Opportunity));
+}
+void addBrainstormThreat(Program& program) {
+    addBrainstormStatement(program, of(StatementKind::Threat));
+}
+void editBrainstormStrength(Program& program) {
+    editBrainstormStatement(program, of(StatementKind::Strength));
+}
+void editBrainstormWeakness(Program& program) {
+    editBrainstormStatement(program, of(StatementKind::Weakness));
+}
+void editBrainstormOpportunity(Program& program) {
+    editBrainstormStatement(program, of(StatementKind::Opportunity));
+}
+void editBrainstormThreat(Program& program) {
+    editBrainstormStatement(program, of(StatementKind::Threat));
+}
+void removeBrainstormStrength(Program& program) {
+    removeBrainstormStatement(program, of(StatementKind::Strength));
+}
+void removeBrainstormWeakness(Program& program) {
+    removeBrainstormStatement(program, of(StatementKind::Weakness));
+}
+void removeBrainstormOpportunity(Program& program) {
+    removeBrainstormStatement(program, of(StatementKind::Opportunity));
+}
+void removeBrainstormThreat(Program& program) {
+    removeBrainstormStatement(program, of(StatementKind::Threat));
+}
 
 bool isAllowedInName(char character) {
     return std::string_view("<|>/\\:*?\"").find(character) == std::string_view::npos;

@@ -22,8 +22,9 @@ inline constexpr std::array<BrainstormKind, 4> brainstormKinds{{
      &FrmMain::lvBStrength, &FrmMain::narratedStrength, "Please enter strength."},
     {StatementKind::Weakness, &FrmMain::fraWeakness, &FrmMain::lblWQuestion, &FrmMain::txtWeakness,
      &FrmMain::lvBWeakness, &FrmMain::narratedWeakness, "Please enter weakness."},
-    {StatementKind::Opportunity, &FrmMain::fraOpportunity, &FrmMain::lblOQuestion, &FrmMain::txtOpportunity,
-     &FrmMain::lvBOpportunity, &FrmMain::narratedOpportunity, "Please enter opportunity."},
+    {StatementKind::Opportunity, &FrmMain::fraOpportunity, &FrmMain::lblOQuestion,
+     &FrmMain::txtOpportunity, &FrmMain::lvBOpportunity, &FrmMain::narratedOpportunity,
+     "Please enter opportunity."},
     {StatementKind::Threat, &FrmMain::fraThreats, &FrmMain::lblTQuestion, &FrmMain::txtThreat,
      &FrmMain::lvBThreat, &FrmMain::narratedThreat, "Please enter threat."},
 }};

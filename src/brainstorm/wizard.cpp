@@ -80,7 +80,8 @@ public:
                 goBackBeyond(kind);
         }
         // Only the last list ever turns the button into Save.
-        if (&kind == &brainstormKinds.back()) m_form.buttons[Button::BNext].label.setCaption("Next>>");
+        if (&kind == &brainstormKinds.back())
+            m_form.buttons[Button::BNext].label.setCaption("Next>>");
     }
 
 private:
@@ -117,11 +118,11 @@ private:
     void offerAnswer(const BrainstormKind& kind) {
         TextBox& box = m_form.*kind.answerBox;
         if (box.text().empty()) return;
-        const MessageAnswer answer = m_program.platform.messages.show(
-            {.text = "Do you want to add the answer?",
-             .icon = MessageIcon::Question,
-             .buttons = MessageButtons::YesNo,
-             .defaultAnswer = MessageAnswer::Yes});
+        const MessageAnswer answer =
+            m_program.platform.messages.show({.text = "Do you want to add the answer?",
+                                              .icon = MessageIcon::Question,
+                                              .buttons = MessageButtons::YesNo,
+                                              .defaultAnswer = MessageAnswer::Yes});
         if (answer == MessageAnswer::Yes)
             addBrainstormStatement(m_program, kind);
         else

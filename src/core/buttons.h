@@ -12,10 +12,47 @@ namespace orvanta {
 
 /// The skinned buttons of the main window, in the order of their base names.
 enum class Button {
-    ABack, About, AFAdd, AFRemove, Analyze, ANext, AOAdd, AOEdit, AORemove, AQuit, ASAdd, ASEdit,
-    ASRemove, ATAdd, ATEdit, ATRemove, AWAdd, AWEdit, AWRemove, BBack, BNext, BOAdd, BOEdit, BOpen,
-    BORemove, BQuit, Brainstorm, BSAdd, BSEdit, BSRemove, BTAdd, BTEdit, BTRemove, BWAdd, BWEdit,
-    BWRemove, OAFile, Overview, Print, Quit, Report,
+    ABack,
+    About,
+    AFAdd,
+    AFRemove,
+    Analyze,
+    ANext,
+    AOAdd,
+    AOEdit,
+    AORemove,
+    AQuit,
+    ASAdd,
+    ASEdit,
+    ASRemove,
+    ATAdd,
+    ATEdit,
+    ATRemove,
+    AWAdd,
+    AWEdit,
+    AWRemove,
+    BBack,
+    BNext,
+    BOAdd,
+    BOEdit,
+    BOpen,
+    BORemove,
+    BQuit,
+    Brainstorm,
+    BSAdd,
+    BSEdit,
+    BSRemove,
+    BTAdd,
+    BTEdit,
+    BTRemove,
+    BWAdd,
+    BWEdit,
+    BWRemove,
+    OAFile,
+    Overview,
+    Print,
+    Quit,
+    Report,
 };
 
 inline constexpr std::size_t buttonCount = 41;
@@ -37,7 +74,9 @@ class SkinnedButtons {
 public:
     explicit SkinnedButtons(ControlSet& owner);
 
-    SkinnedButton& operator[](Button button) { return *m_buttons[static_cast<std::size_t>(button)]; }
+    SkinnedButton& operator[](Button button) {
+        return *m_buttons[static_cast<std::size_t>(button)];
+    }
     const SkinnedButton& operator[](Button button) const {
         return *m_buttons[static_cast<std::size_t>(button)];
     }

@@ -5,7 +5,8 @@
 namespace orvanta {
 
 void reportFailure(MessageBoxes& messages, const Failure& failure) {
-    refuse(messages, "[" + std::to_string(failure.number) + "] " + std::string(failure.description));
+    refuse(messages,
+           "[" + std::to_string(failure.number) + "] " + std::string(failure.description));
 }
 
 }  // namespace orvanta

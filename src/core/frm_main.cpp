@@ -10,8 +10,8 @@ namespace orvanta {
 namespace {
 
 constexpr Stretch fixed{};
-constexpr Stretch wide{0, 0, 1, 0};       // takes the width
-constexpr Stretch whole{0, 0, 1, 1};      // takes width and height
+constexpr Stretch wide{0, 0, 1, 0};   // takes the width
+constexpr Stretch whole{0, 0, 1, 1};  // takes width and height
 constexpr Stretch atRight{1, 0, 1, 0};
 constexpr Stretch atBottom{0, 1, 0, 1};
 constexpr Stretch atBottomRight{1, 1, 1, 1};
@@ -61,7 +61,8 @@ void placeTopLevel(FrmMain& form) {
     form.cmdRedo.accessibleName = "Redo";
     form.cmdUndo.setVisible(false);
     form.cmdRedo.setVisible(false);
-    for (Image* source : {&form.imgBtnSNormal, &form.imgBtnSDown, &form.imgBtnLNormal, &form.imgBtnLDown})
+    for (Image* source :
+         {&form.imgBtnSNormal, &form.imgBtnSDown, &form.imgBtnLNormal, &form.imgBtnLDown})
         source->setVisible(false);
     form.imgBtnSNormal.setArt(Art::SmallNormal);
     form.imgBtnSDown.setArt(Art::SmallDown);
@@ -107,7 +108,8 @@ void placeModuleChoice(FrmMain& form) {
     }
     const Bounds large = grid(544, 44, largeWidth + 24, largeHeight);
     placeHeld(form.buttons[Button::BOpen], form.picBOpen, panel, large, atRight);
-    placeHeld(form.buttons[Button::Print], form.picBtnPrint, panel, large + grid(0, 52, 0, 0), atRight);
+    placeHeld(form.buttons[Button::Print], form.picBtnPrint, panel, large + grid(0, 52, 0, 0),
+              atRight);
     place(form.lblDistribute, &panel, large + grid(0, 108, 0, -8), atRight);
     form.lblDistribute.setToolTip("Use this link to email the Brainstorm module to your team.");
     for (Control* covered : std::initializer_list<Control*>{
@@ -177,7 +179,8 @@ constexpr std::array<MappingScreen, 2> mappingScreens{{
      &FrmMain::lvStrengthTh, &FrmMain::lvWeaknessTh},
 }};
 
-void placeHeadedList(Label& heading, StatementList& list, Panel& panel, Bounds area, Stretch stretch) {
+void placeHeadedList(Label& heading, StatementList& list, Panel& panel, Bounds area,
+                     Stretch stretch) {
     Bounds top = area;
     top.height = gridLength(20);
     place(heading, &panel, top, {stretch.left, stretch.top, stretch.right, stretch.top});
@@ -222,12 +225,13 @@ void placePanels(FrmMain& form) {
         place(*module, nullptr, moduleArea, whole);
         module->hide();
     }
-    for (Panel* step : {&form.fraStrength, &form.fraWeakness, &form.fraOpportunity, &form.fraThreats}) {
+    for (Panel* step :
+         {&form.fraStrength, &form.fraWeakness, &form.fraOpportunity, &form.fraThreats}) {
         place(*step, &form.fraBrainstorm, stepArea, whole);
         step->hide();
     }
-    for (Panel* step : {&form.fraASSummary, &form.fraAWeakness, &form.fraAOpportunity, &form.fraAThreats,
-                        &form.fraAnalyzeOpportunity, &form.fraAnalyzeThreat}) {
+    for (Panel* step : {&form.fraASSummary, &form.fraAWeakness, &form.fraAOpportunity,
+                        &form.fraAThreats, &form.fraAnalyzeOpportunity, &form.fraAnalyzeThreat}) {
         place(*step, &form.fraAnalyze, stepArea, whole);
         step->hide();
     }
@@ -240,7 +244,8 @@ constexpr std::string_view builtInInstruction =
 
 }  // namespace
 
-FrmMain::FrmMain(FileDialogs& dialogs) : width(gridLength(960)), height(gridLength(640)), cd(dialogs) {
+FrmMain::FrmMain(FileDialogs& dialogs)
+    : width(gridLength(960)), height(gridLength(640)), cd(dialogs) {
     placeTopLevel(*this);
     placePanels(*this);
     placeWizardButtons(*this);

@@ -129,7 +129,7 @@ struct FrmMain {
     bool editFlag = false;   // the brainstorm session has changes that are in no file yet
     bool editAFlag = false;  // the same for the analyze session
     std::string lastPathBSM, lastPathAZE, lastPathRTF;
-    std::string dragSection;  // "S" or "W": the kind that a drag carries; or empty
+    std::string dragSection;        // "S" or "W": the kind that a drag carries; or empty
     std::int16_t questionStep = 0;  // from 1; 0: no list step is active
     bool onLastQuestion = false;
     std::int16_t narratedStrength = 0, narratedWeakness = 0, narratedOpportunity = 0,
@@ -141,9 +141,10 @@ struct FrmMain {
 
 /// The fourteen statement lists, Brainstorm first.
 inline constexpr std::array<StatementList FrmMain::*, 14> statementLists{
-    &FrmMain::lvBStrength,  &FrmMain::lvBWeakness,  &FrmMain::lvBOpportunity, &FrmMain::lvBThreat,
-    &FrmMain::lvAStrength,  &FrmMain::lvAWeakness,  &FrmMain::lvAOpportunity, &FrmMain::lvAThreat,
-    &FrmMain::lvStrengthOp, &FrmMain::lvWeaknessOp, &FrmMain::lvOpportunity,  &FrmMain::lvStrengthTh,
-    &FrmMain::lvWeaknessTh, &FrmMain::lvThreat};
+    &FrmMain::lvBStrength,    &FrmMain::lvBWeakness,   &FrmMain::lvBOpportunity,
+    &FrmMain::lvBThreat,      &FrmMain::lvAStrength,   &FrmMain::lvAWeakness,
+    &FrmMain::lvAOpportunity, &FrmMain::lvAThreat,     &FrmMain::lvStrengthOp,
+    &FrmMain::lvWeaknessOp,   &FrmMain::lvOpportunity, &FrmMain::lvStrengthTh,
+    &FrmMain::lvWeaknessTh,   &FrmMain::lvThreat};
 
 }  // namespace orvanta

@@ -69,7 +69,9 @@ void showRecoveredBrainstorm(Program& program) {
     }
     form.questionStep = 1;
     for (const FirstQuestion& first : firstQuestions)
-        step([&] { (form.*first.label).setCaption(questionAt(program.questions.*first.questions, 1)); });
+        step([&] {
+            (form.*first.label).setCaption(questionAt(program.questions.*first.questions, 1));
+        });
     form.fraBrainstorm.show();
     form.editFlag = true;
     showUndoRedo(form, true);
@@ -80,8 +82,8 @@ void recoverSession(Program& program) {
     FrmMain& form = program.frmMain;
     if (fileExists(program, program.brainstormTemporaryFile())) {
         step([&] { loadBrainstormData(program, program.brainstormTemporaryFile(), "BS", true); });
-        if (holdsRows(form, {&FrmMain::lvBStrength, &FrmMain::lvBWeakness,
-                             &FrmMain::lvBOpportunity, &FrmMain::lvBThreat}))
+        if (holdsRows(form, {&FrmMain::lvBStrength, &FrmMain::lvBWeakness, &FrmMain::lvBOpportunity,
+                             &FrmMain::lvBThreat}))
             showRecoveredBrainstorm(program);
         return;
     }

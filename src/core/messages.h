@@ -7,9 +7,8 @@ namespace orvanta {
 
 /// A refusal: stop icon, the product's title.
 inline void refuse(MessageBoxes& messages, std::string_view text) {
-    messages.show({.text = std::string(text),
-                   .icon = MessageIcon::Stop,
-                   .title = std::string(appTitle)});
+    messages.show(
+        {.text = std::string(text), .icon = MessageIcon::Stop, .title = std::string(appTitle)});
 }
 
 /// Good news: information icon, the product's title.

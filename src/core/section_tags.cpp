@@ -8,8 +8,9 @@ namespace orvanta {
 namespace {
 
 constexpr std::array<std::string_view, 9> words{
-    "STEP",        "NAME",    "MODULE",             "STRENGTH",     "WEAKNESS",
-    "OPPORTUNITY", "THREATS", "OPPORTUNITYMAPPING", "THREATMAPPING"};
+    "STEP",         "NAME",        "MODULE",  "STRENGTH",
+    "WEAKNESS",     "OPPORTUNITY", "THREATS", "OPPORTUNITYMAPPING",
+    "THREATMAPPING"};
 static_assert(words[static_cast<std::size_t>(Section::ThreatMapping)] == "THREATMAPPING");
 
 }  // namespace

@@ -36,7 +36,9 @@ struct Program {
     QuestionBanks questions;
     FrmMain frmMain;
 
-    std::string brainstormTemporaryFile() const { return scratchPath + pathSeparator + "brainstorm.tmp"; }
+    std::string brainstormTemporaryFile() const {
+        return scratchPath + pathSeparator + "brainstorm.tmp";
+    }
     std::string analyzeTemporaryFile() const { return scratchPath + pathSeparator + "analyze.tmp"; }
 };
 

@@ -34,8 +34,7 @@ void startProgram(Program& program) {
     // The window comes first and its folder second: an interrupted session is back on screen
     // before the splash, and while it loads workFolder is still empty.
     step([&] { loadMainWindow(program); });
-    const std::string workFolder =
-        program.platform.folders.documents() + pathSeparator + "My SWOT";
+    const std::string workFolder = program.platform.folders.documents() + pathSeparator + "My SWOT";
     step([&] { makeFolderIfMissing(program, workFolder); });
     program.workFolder = workFolder;
     step([&] { showSplash(program); });

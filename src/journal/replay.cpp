@@ -33,8 +33,20 @@ constexpr std::array<Target, 8> targets{{
     {"B_W", &FrmMain::lvBWeakness, {noList, noList}, 2, false, noList},
     {"B_O", &FrmMain::lvBOpportunity, {noList, noList}, 3, false, noList},
     {"B_T", &FrmMain::lvBThreat, {noList, noList}, 4, false, noList},
-    {"A_S", &FrmMain::lvAStrength, {&FrmMain::lvStrengthOp, &FrmMain::lvStrengthTh}, 1, true, noList, true},
-    {"A_W", &FrmMain::lvAWeakness, {&FrmMain::lvWeaknessOp, &FrmMain::lvWeaknessTh}, 2, true, noList, true},
+    {"A_S",
+     &FrmMain::lvAStrength,
+     {&FrmMain::lvStrengthOp, &FrmMain::lvStrengthTh},
+     1,
+     true,
+     noList,
+     true},
+    {"A_W",
+     &FrmMain::lvAWeakness,
+     {&FrmMain::lvWeaknessOp, &FrmMain::lvWeaknessTh},
+     2,
+     true,
+     noList,
+     true},
     {"A_O", &FrmMain::lvAOpportunity, {noList, noList}, 3, true, &FrmMain::lvOpportunity},
     {"A_T", &FrmMain::lvAThreat, {noList, noList}, 4, true, &FrmMain::lvThreat},
 }};
@@ -74,14 +86,18 @@ std::optional<Record> recordFrom(std::string_view entry) {
 class Replay {
 public:
     Replay(Program& program, const Record& record, bool countersToUndo)
-        : m_program(program), m_form(program.frmMain), m_record(record), m_countersToUndo(countersToUndo) {}
+        : m_program(program),
+          m_form(program.frmMain),
+          m_record(record),
+          m_countersToUndo(countersToUndo) {}
 
     void run() {
         const auto cut = m_record.tag.find('_');
         if (cut == std::string_view::npos) return;
         const std::string_view operation = m_record.tag.substr(0, cut);
         const std::string_view ending = m_record.tag.substr(cut + 1);
-        if (const auto target = std::ranges::find(targets, ending, &Target::ending); target != targets.end())
+        if (const auto target = std::ranges::find(targets, ending, &Target::ending);
+            target != targets.end())
             return runStatement(operation, *target);
         if (const auto target = std::ranges::find(mappingTargets, ending, &MappingTarget::ending);
             target != mappingTargets.end())
@@ -109,7 +125,9 @@ private:
     void addStatement(const Target& target) {
         // A Brainstorm row comes back without its key: nothing reads it again.
         const std::string key(target.restoresKey ? m_record.key : std::string_view());
-        inEachList(target, [&](StatementList& list) { insertRow(list, m_record.position(), key, target.image); });
+        inEachList(target, [&](StatementList& list) {
+            insertRow(list, m_record.position(), key, target.image);
+        });
         if (target.parents)
             forEachRemovedRow([&](std::string_view removedKey, int position) {
                 insertRow(m_form.*target.parents, position, std::string(removedKey), target.image);
@@ -121,7 +139,8 @@ private:
         if (standsElsewhere(m_form.*target.main)) return;
         inEachList(target, [&](StatementList& list) { list.remove(m_record.position()); });
         if (target.parents)
-            forEachRemovedRow([&](std::string_view, int position) { (m_form.*target.parents).remove(position); });
+            forEachRemovedRow(
+                [&](std::string_view, int position) { (m_form.*target.parents).remove(position); });
         counter("ADD_", target.ending, m_record.text, m_record.extra);
     }
 
@@ -129,7 +148,8 @@ private:
         std::string oldText;
         m_step([&] { oldText = (m_form.*target.main).row(m_record.position()).text; });
         const std::string newText(m_record.text);
-        inEachList(target, [&](StatementList& list) { list.setText(m_record.position(), newText); });
+        inEachList(target,
+                   [&](StatementList& list) { list.setText(m_record.position(), newText); });
         if (target.reachesMappedRows)
             for (const MappingTarget& mapping : mappingTargets)
                 setTextOfMappedRows(m_form.*mapping.list, m_record.key, newText);
@@ -140,7 +160,9 @@ private:
     void addMappingRow(const MappingTarget& target) {
         StatementList& list = m_form.*target.list;
         if (trimBlanks(m_record.extra).empty()) {
-            m_step([&] { insertRow(list, m_record.position(), std::string(m_record.key), target.image); });
+            m_step([&] {
+                insertRow(list, m_record.position(), std::string(m_record.key), target.image);
+            });
         } else {
             // The large picture of a mapped row is the opportunities' on both sides.
             const Row row{.key = std::string(m_record.key),
@@ -149,8 +171,9 @@ private:
                           .largeImage = 3};
             const bool added = m_step([&] { list.insert(m_record.position(), row); });
             if (added)
-                markMappedRow(list, m_record.position(),
-                              m_record.extra == "S" ? StatementKind::Strength : StatementKind::Weakness);
+                markMappedRow(
+                    list, m_record.position(),
+                    m_record.extra == "S" ? StatementKind::Strength : StatementKind::Weakness);
         }
         counter("DEL_", target.ending, m_record.text, m_record.extra);
     }
@@ -190,7 +213,8 @@ private:
                  std::string_view extra) {
         m_step([&] {
             pushJournalRecord(m_program, m_countersToUndo, std::string(operation).append(ending),
-                              static_cast<std::int16_t>(m_record.position()), m_record.key, text, false, extra);
+                              static_cast<std::int16_t>(m_record.position()), m_record.key, text,
+                              false, extra);
         });
     }
 

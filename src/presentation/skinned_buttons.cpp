@@ -22,16 +22,20 @@ namespace {
 constexpr std::string_view addToolTip = "Add this statement to the list below.";
 constexpr std::string_view editToolTip = "Edit the currently highlighted statement.";
 constexpr std::string_view removeToolTip = "Remove the currently highlighted statement.";
-constexpr std::string_view openBrainstormToolTip = "Open a file saved from a previous Brainstorm session";
+constexpr std::string_view openBrainstormToolTip =
+    "Open a file saved from a previous Brainstorm session";
 constexpr bool large = true, small = false;
 
 constexpr std::array<ButtonDesign, buttonCount> designs{{
     {Button::ABack, "ABack", small, "<<Back", "", analyzeBack},
     {Button::About, "About", large, "About", "", openAboutBox},
-    {Button::AFAdd, "AFAdd", small, "Add", "Browse to open a previously saved Brainstorm file.", addAnalyzeSourceFile},
-    {Button::AFRemove, "AFRemove", small, "Remove", "Remove highlighted file from the list.", removeAnalyzeSourceFile},
+    {Button::AFAdd, "AFAdd", small, "Add", "Browse to open a previously saved Brainstorm file.",
+     addAnalyzeSourceFile},
+    {Button::AFRemove, "AFRemove", small, "Remove", "Remove highlighted file from the list.",
+     removeAnalyzeSourceFile},
     {Button::Analyze, "Analyze", large, "Analyze",
-     "Once you\x92ve completed your brainstorming, use this section to begin analyzing your ideas.", openAnalyzeModule},
+     "Once you\x92ve completed your brainstorming, use this section to begin analyzing your ideas.",
+     openAnalyzeModule},
     {Button::ANext, "ANext", small, "Next>>", "", analyzeNext},
     {Button::AOAdd, "AOAdd", small, "Add", addToolTip, addAnalyzeOpportunity},
     {Button::AOEdit, "AOEdit", small, "Edit", editToolTip, editAnalyzeOpportunity},
@@ -50,11 +54,12 @@ constexpr std::array<ButtonDesign, buttonCount> designs{{
     {Button::BNext, "BNext", small, "Next>>", "", brainstormNext},
     {Button::BOAdd, "BOAdd", small, "Add", addToolTip, addBrainstormOpportunity},
     {Button::BOEdit, "BOEdit", small, "Edit", editToolTip, editBrainstormOpportunity},
-    {Button::BOpen, "BOpen", large, "Open Brainstorm File...", openBrainstormToolTip, openBrainstormFile},
+    {Button::BOpen, "BOpen", large, "Open Brainstorm File...", openBrainstormToolTip,
+     openBrainstormFile},
     {Button::BORemove, "BORemove", small, "Remove", removeToolTip, removeBrainstormOpportunity},
     {Button::BQuit, "BQuit", small, "Quit", "End this session.", brainstormQuit},
-    {Button::Brainstorm, "Brainstorm", large, "Brainstorm", "Begin brainstorming and capturing your ideas.",
-     openBrainstormModule},
+    {Button::Brainstorm, "Brainstorm", large, "Brainstorm",
+     "Begin brainstorming and capturing your ideas.", openBrainstormModule},
     {Button::BSAdd, "BSAdd", small, "Add", addToolTip, addBrainstormStrength},
     {Button::BSEdit, "BSEdit", small, "Edit", editToolTip, editBrainstormStrength},
     {Button::BSRemove, "BSRemove", small, "Remove", removeToolTip, removeBrainstormStrength},
@@ -64,22 +69,28 @@ constexpr std::array<ButtonDesign, buttonCount> designs{{
     {Button::BWAdd, "BWAdd", small, "Add", addToolTip, addBrainstormWeakness},
     {Button::BWEdit, "BWEdit", small, "Edit", editToolTip, editBrainstormWeakness},
     {Button::BWRemove, "BWRemove", small, "Remove", removeToolTip, removeBrainstormWeakness},
-    {Button::OAFile, "OAFile", large, "Open Analyze File...", "Open a file saved from a previous Analyze session.",
-     openAnalyzeFile},
+    {Button::OAFile, "OAFile", large, "Open Analyze File...",
+     "Open a file saved from a previous Analyze session.", openAnalyzeFile},
     {Button::Overview, "Overview", large, "Overview",
-     "Click here to see an overview presentation that will instruct you on the SWOT analysis process.",
+     "Click here to see an overview presentation that will instruct you on the SWOT analysis "
+     "process.",
      openOverviewPage},
     // The tool tip is that of the button above it on the screen, word for word.
     {Button::Print, "Print", large, "Print Questions...", openBrainstormToolTip, printQuestions},
     {Button::Quit, "Quit", large, "Quit", "End this session.", quitProgram},
-    {Button::Report, "Report", large, "Reports", "Generate a SWOT analysis report.", openReportDialog},
+    {Button::Report, "Report", large, "Reports", "Generate a SWOT analysis report.",
+     openReportDialog},
 }};
 
 static_assert(std::ranges::is_sorted(designs, {}, &ButtonDesign::button));
 static_assert(designs.back().button == Button::Report);
 
-const Image& normalArt(const FrmMain& form, bool isLarge) { return isLarge ? form.imgBtnLNormal : form.imgBtnSNormal; }
-const Image& downArt(const FrmMain& form, bool isLarge) { return isLarge ? form.imgBtnLDown : form.imgBtnSDown; }
+const Image& normalArt(const FrmMain& form, bool isLarge) {
+    return isLarge ? form.imgBtnLNormal : form.imgBtnSNormal;
+}
+const Image& downArt(const FrmMain& form, bool isLarge) {
+    return isLarge ? form.imgBtnLDown : form.imgBtnSDown;
+}
 
 }  // namespace
 

@@ -26,7 +26,8 @@ constexpr std::array bankSections{Section::Strength, Section::Weakness, Section:
 constexpr int boundStep = 10;
 
 const BankList& listOf(Section section) {
-    return bankLists[static_cast<std::size_t>(section) - static_cast<std::size_t>(Section::Strength)];
+    return bankLists[static_cast<std::size_t>(section) -
+                     static_cast<std::size_t>(Section::Strength)];
 }
 
 /// Adds a raw line to the question with this index, behind one blank.
@@ -134,9 +135,9 @@ void loadAnalyzeQuestions(Program& program) {
         std::array<std::string, 7>& headings = program.questions.analyzeQuestions;
         readAnalyzeHeadings(program, headings);
         FrmMain& form = program.frmMain;
-        const std::array<Label*, 6> labels{&form.lblAStrength,  &form.lblAWeakness,
+        const std::array<Label*, 6> labels{&form.lblAStrength,    &form.lblAWeakness,
                                            &form.lblAOpportunity, &form.lblAThreats,
-                                           &form.lblAOMapping,  &form.lblATMapping};
+                                           &form.lblAOMapping,    &form.lblATMapping};
         for (std::size_t i = 0; i < labels.size(); ++i) labels[i]->setCaption(headings[i]);
     } catch (const Failure& failure) {
         // The one report in the program that gives the description alone.

@@ -52,7 +52,9 @@ private:
     }
 
     void writeMapped(std::string_view sign, std::string_view text) {
-        if (!m_groupOpen) writeLine({"<table width='90%' border='1' align='center' cellpadding='0' cellspacing='0'>"});
+        if (!m_groupOpen)
+            writeLine(
+                {"<table width='90%' border='1' align='center' cellpadding='0' cellspacing='0'>"});
         writeLine({"<tr><td width='10%' align='center'>", sign, "</td><td>", text, "</td></tr>"});
         m_groupOpen = true;
     }
@@ -72,7 +74,8 @@ private:
 
     void closeRow() {
         if (m_priorityNumber == 0) return;
-        writeLine({"</td><td align='center'>", std::to_string(m_priorityNumber), "</td><td>&nbsp;</td></tr>"});
+        writeLine({"</td><td align='center'>", std::to_string(m_priorityNumber),
+                   "</td><td>&nbsp;</td></tr>"});
     }
 
     std::string m_bytes;
@@ -90,10 +93,12 @@ std::string htmlReportBytes(const ReportLists& lists) {
 }
 
 void generateHtmlReport(Program& program, const std::string& analyzeFile) {
-    if (!fileExists(program, analyzeFile)) return refuse(program.platform.messages, "File does not exists.");
+    if (!fileExists(program, analyzeFile))
+        return refuse(program.platform.messages, "File does not exists.");
     ReportLists lists;
     readReportSource(program.platform.disk.read(analyzeFile), ReportScope::Correlation, lists);
-    const std::string page = program.scratchPath + pathSeparator + "System" + pathSeparator + "report.htm";
+    const std::string page =
+        program.scratchPath + pathSeparator + "System" + pathSeparator + "report.htm";
     program.platform.disk.replace(page, htmlReportBytes(lists));
     program.platform.shell.open(page);
 }

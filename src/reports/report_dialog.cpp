@@ -33,14 +33,16 @@ bool choosesTarget(Program& program) {
     cd.initialPath = program.frmMain.lastPathRTF;
     cd.fileName.clear();
     cd.showSave();
-    if (fileExists(program, cd.fileName) && !mayOverwrite(program.platform.messages, std::nullopt)) return false;
+    if (fileExists(program, cd.fileName) && !mayOverwrite(program.platform.messages, std::nullopt))
+        return false;
     rememberPath(program, lastSavedPathRTF, &FrmMain::lastPathRTF, cd.fileName);
     return true;
 }
 
 void generate(Program& program, FrmReportType& form) {
     const std::string analyzeFile = form.txtEdit.text();
-    if (!fileExists(program, analyzeFile)) return refuse(program.platform.messages, "File does not exists.");
+    if (!fileExists(program, analyzeFile))
+        return refuse(program.platform.messages, "File does not exists.");
     const bool document = form.cboFormat.selectedIndex() != htmlFormat;
     if (document && !choosesTarget(program)) return;
     showGenerating(form, true);

@@ -27,7 +27,8 @@ constexpr std::array<ReportSection, 6> reportSections{{
     {Section::Weakness, &ReportLists::weaknessEntries, true, ReportScope::Everything, false},
     {Section::Opportunity, &ReportLists::opportunityEntries, true, ReportScope::Correlation, false},
     {Section::Threats, &ReportLists::threatEntries, true, ReportScope::Correlation, false},
-    {Section::OpportunityMapping, &ReportLists::opportunityMapEntries, false, ReportScope::Correlation, true},
+    {Section::OpportunityMapping, &ReportLists::opportunityMapEntries, false,
+     ReportScope::Correlation, true},
     {Section::ThreatMapping, &ReportLists::threatMapEntries, false, ReportScope::Correlation, true},
 }};
 
@@ -38,7 +39,8 @@ constexpr std::array knownSections{
 const ReportSection* sectionRead(Section section, ReportScope scope) {
     const auto found = std::ranges::find(reportSections, section, &ReportSection::section);
     if (found == reportSections.end()) return nullptr;
-    return found->readBy == ReportScope::Everything && scope != ReportScope::Everything ? nullptr : &*found;
+    return found->readBy == ReportScope::Everything && scope != ReportScope::Everything ? nullptr
+                                                                                        : &*found;
 }
 
 std::string textOf(const ReportSection& section, std::string_view field) {
@@ -74,7 +76,8 @@ void readReportSource(std::string_view bytes, ReportScope scope, ReportLists& li
             if (tag->opens && named && named->startsAnew) (lists.*named->list).startAnew();
             open.take(*tag);
         } else if (const auto section = open.section()) {
-            if (const ReportSection* read = sectionRead(*section, scope)) takeRow(*read, *line, lists);
+            if (const ReportSection* read = sectionRead(*section, scope))
+                takeRow(*read, *line, lists);
         }
     }
 }

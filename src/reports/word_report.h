@@ -8,6 +8,7 @@ namespace orvanta {
 
 /// Has a word processor write the document of an analysis under the target name. What fails in
 /// there is not told.
-void generateWordReport(Program& program, const std::string& analyzeFile, const std::string& targetFile);
+void generateWordReport(Program& program, const std::string& analyzeFile,
+                        const std::string& targetFile);
 
 }  // namespace orvanta

@@ -31,9 +31,11 @@ struct StatementSection {
 };
 
 constexpr std::array<StatementSection, 4> statementSections{{
-    {Section::Strength, StatementKind::Strength,
+    {Section::Strength,
+     StatementKind::Strength,
      {&FrmMain::lvAStrength, &FrmMain::lvStrengthOp, &FrmMain::lvStrengthTh}},
-    {Section::Weakness, StatementKind::Weakness,
+    {Section::Weakness,
+     StatementKind::Weakness,
      {&FrmMain::lvAWeakness, &FrmMain::lvWeaknessOp, &FrmMain::lvWeaknessTh}},
     {Section::Opportunity, StatementKind::Opportunity, {&FrmMain::lvAOpportunity, noList, noList}},
     {Section::Threats, StatementKind::Threat, {&FrmMain::lvAThreat, noList, noList}},
@@ -128,11 +130,12 @@ private:
         const int image = imageOf(section.kind);
         for (const List list : section.lists)
             if (list)
-                (m_form.*list).add({.key = std::string(fields.key),
-                                    .text = std::string(fields.text),
-                                    .image = image,
-                                    .largeImage = image,
-                                    .subItem = std::string(fields.sourceLabel)});
+                (m_form.*list)
+                    .add({.key = std::string(fields.key),
+                          .text = std::string(fields.text),
+                          .image = image,
+                          .largeImage = image,
+                          .subItem = std::string(fields.sourceLabel)});
         if (fields.key.empty()) return;
         const double number = leadingNumber(fields.key.substr(1));
         std::int32_t& count = keyCount(m_form, section.kind);
@@ -152,7 +155,8 @@ private:
             return;
         }
         ++topRows;
-        if (trimBlanks(row.key).empty()) row.key = letterOf(section.parentKind) + std::to_string(topRows);
+        if (trimBlanks(row.key).empty())
+            row.key = letterOf(section.parentKind) + std::to_string(topRows);
         addRow(section, std::move(row), imageOf(section.parentKind));
     }
 
@@ -175,7 +179,8 @@ std::string analyzeBytes(const FrmMain& form, bool withStep) {
     writer.section(Section::Module, chosenModuleWord(form));
     for (const StatementSection& section : statementSections)
         writeRows(writer, section.section, form.*section.lists.front());
-    for (const MappingSection& section : mappingSections) writeRows(writer, section.section, form.*section.list);
+    for (const MappingSection& section : mappingSections)
+        writeRows(writer, section.section, form.*section.list);
     return writer.bytes();
 }
 

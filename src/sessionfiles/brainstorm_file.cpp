@@ -32,14 +32,15 @@ constexpr std::array<StatementSection, 4> statementSections{{
      Escape::LessThan, Escape::LessThan},
     {Section::Weakness, StatementKind::Weakness, &FrmMain::lvBWeakness, &FrmMain::lvAWeakness,
      Escape::None, Escape::LessThan},
-    {Section::Opportunity, StatementKind::Opportunity, &FrmMain::lvBOpportunity, &FrmMain::lvAOpportunity,
-     Escape::None, Escape::LessThan},
+    {Section::Opportunity, StatementKind::Opportunity, &FrmMain::lvBOpportunity,
+     &FrmMain::lvAOpportunity, Escape::None, Escape::LessThan},
     {Section::Threats, StatementKind::Threat, &FrmMain::lvBThreat, &FrmMain::lvAThreat,
      Escape::None, Escape::None},
 }};
 
-constexpr std::array knownSections{Section::Step,     Section::Name,        Section::Module, Section::Strength,
-                                   Section::Weakness, Section::Opportunity, Section::Threats};
+constexpr std::array knownSections{Section::Step,     Section::Name,     Section::Module,
+                                   Section::Strength, Section::Weakness, Section::Opportunity,
+                                   Section::Threats};
 
 constexpr std::array<StepCode, 4> stepCodes{{
     {"ST", &FrmMain::fraStrength},
@@ -56,7 +57,10 @@ std::string writtenText(const StatementSection& section, const Row& row) {
 class Reading {
 public:
     Reading(Program& program, bool intoBrainstorm, bool restoreStep)
-        : m_program(program), m_form(program.frmMain), m_intoBrainstorm(intoBrainstorm), m_restoreStep(restoreStep) {}
+        : m_program(program),
+          m_form(program.frmMain),
+          m_intoBrainstorm(intoBrainstorm),
+          m_restoreStep(restoreStep) {}
 
     void take(std::string_view line) {
         const std::string_view trimmed = trimBlanks(line);
@@ -83,11 +87,13 @@ private:
 
     void addRow(const StatementSection& section, std::string_view trimmed) {
         Row row{.key = getNextKey(m_program, section.kind),
-                .text = section.read == Escape::LessThan ? replaceAll(trimmed, "&lt;", "<") : std::string(trimmed),
+                .text = section.read == Escape::LessThan ? replaceAll(trimmed, "&lt;", "<")
+                                                         : std::string(trimmed),
                 .image = imageOf(section.kind),
                 .largeImage = imageOf(section.kind)};
         if (!m_intoBrainstorm) row.subItem = m_sourceLabel;
-        (m_form.*(m_intoBrainstorm ? section.brainstormList : section.analyzeList)).add(std::move(row));
+        (m_form.*(m_intoBrainstorm ? section.brainstormList : section.analyzeList))
+            .add(std::move(row));
     }
 
     Program& m_program;
@@ -116,7 +122,9 @@ std::string brainstormBytes(const FrmMain& form, bool withStep) {
 
 void saveBrainstormData(Program& program, const std::string& fileName, bool TmpFlag) {
     const CarryOn step;
-    step([&] { program.platform.disk.replace(fileName, brainstormBytes(program.frmMain, TmpFlag)); });
+    step([&] {
+        program.platform.disk.replace(fileName, brainstormBytes(program.frmMain, TmpFlag));
+    });
 }
 
 void loadBrainstormData(Program& program, const std::string& fileName, std::string_view target,

@@ -33,7 +33,8 @@ void takeData(Merged& merged, Section section, std::string_view line) {
     // Statements of blanks only are dropped.
     const std::string_view text = trimBlanks(line);
     if (text.empty()) return;
-    const auto place = static_cast<std::size_t>(section) - static_cast<std::size_t>(Section::Strength);
+    const auto place =
+        static_cast<std::size_t>(section) - static_cast<std::size_t>(Section::Strength);
     merged.statements[place].emplace_back(text);
 }
 
@@ -68,7 +69,8 @@ void mergeBrainstormFiles(Program& program) {
         form.cd.fileName.clear();
         form.cd.showSave();
         const std::string target = form.cd.fileName;
-        if (fileExists(program, target) && !mayOverwrite(program.platform.messages, std::string(appTitle)))
+        if (fileExists(program, target) &&
+            !mayOverwrite(program.platform.messages, std::string(appTitle)))
             return;
         Merged merged;
         for (const std::string& source : form.lstFiles.items())

@@ -25,15 +25,27 @@ struct Session {
     bool (*dialog)(Program&);
 };
 
-constexpr Session brainstormSession{
-    &FrmMain::editFlag, &FrmMain::lastPathBSM, lastSavedPathBSM, brainstormFilter, &FrmMain::fraBrainstorm,
-    saveBrainstormData, &Program::brainstormTemporaryFile, "Your brainstorming session completed.",
-    "Do you want to save changes in brainstorm session?", saveBrainstormDialog};
+constexpr Session brainstormSession{&FrmMain::editFlag,
+                                    &FrmMain::lastPathBSM,
+                                    lastSavedPathBSM,
+                                    brainstormFilter,
+                                    &FrmMain::fraBrainstorm,
+                                    saveBrainstormData,
+                                    &Program::brainstormTemporaryFile,
+                                    "Your brainstorming session completed.",
+                                    "Do you want to save changes in brainstorm session?",
+                                    saveBrainstormDialog};
 
-constexpr Session analyzeSession{
-    &FrmMain::editAFlag, &FrmMain::lastPathAZE, lastSavedPathAZE, analyzeFilter, &FrmMain::fraAnalyze,
-    saveAnalyzeData, &Program::analyzeTemporaryFile, "Your analyze session completed.",
-    "Do you want to save changes in analyze session?", saveAnalyzeDialog};
+constexpr Session analyzeSession{&FrmMain::editAFlag,
+                                 &FrmMain::lastPathAZE,
+                                 lastSavedPathAZE,
+                                 analyzeFilter,
+                                 &FrmMain::fraAnalyze,
+                                 saveAnalyzeData,
+                                 &Program::analyzeTemporaryFile,
+                                 "Your analyze session completed.",
+                                 "Do you want to save changes in analyze session?",
+                                 saveAnalyzeDialog};
 
 bool writeChosenFile(Program& program, const Session& session) {
     FrmMain& form = program.frmMain;
@@ -42,7 +54,8 @@ bool writeChosenFile(Program& program, const Session& session) {
     form.cd.fileName.clear();
     form.cd.showSave();
     const std::string path = form.cd.fileName;
-    if (fileExists(program, path) && !mayOverwrite(program.platform.messages, std::string(appTitle)))
+    if (fileExists(program, path) &&
+        !mayOverwrite(program.platform.messages, std::string(appTitle)))
         return false;
     rememberPath(program, session.setting, session.lastPath, path);
     session.save(program, path, false);
@@ -118,7 +131,8 @@ void tickAutoSave(Program& program) {
     const std::string path = (program.*session.temporaryFile)();
     session.save(program, path, true);
     if (form.autoSaveFailed || fileExists(program, path)) return;
-    refuse(program.platform.messages, "Warning! Could not create autosave file. Auto Save feature is disabled.");
+    refuse(program.platform.messages,
+           "Warning! Could not create autosave file. Auto Save feature is disabled.");
     form.autoSaveFailed = true;
 }
 

@@ -28,7 +28,17 @@ private:
 };
 
 /// What the display scaling tells apart.
-enum class ControlKind { Label, TextBox, Option, CheckBox, Image, PictureBox, PushButton, List, ComboBox };
+enum class ControlKind {
+    Label,
+    TextBox,
+    Option,
+    CheckBox,
+    Image,
+    PictureBox,
+    PushButton,
+    List,
+    ComboBox
+};
 
 /// A control as the logic knows it. The window mirrors it; it is the truth. All texts are
 /// Windows-1252.
@@ -66,7 +76,7 @@ public:
     Notice focusGiven;
 
     Stretch stretch;
-    Panel* container = nullptr;            // null: the form itself
+    Panel* container = nullptr;             // null: the form itself
     const PanelStack* coveredBy = nullptr;  // panels that lie over the control when shown
     std::string accessibleName;             // where caption or label do not tell it
 

@@ -51,7 +51,8 @@ Failure failureFor(int error, const std::string& path) {
     switch (error) {
         case ENOENT:
         case ENOTDIR:
-            return Failure(isFolder(folderOf(path)) ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound);
+            return Failure(isFolder(folderOf(path)) ? ErrorNumber::FileNotFound
+                                                    : ErrorNumber::PathNotFound);
         case EACCES:
         case EPERM:
         case EROFS:
@@ -110,7 +111,8 @@ mode_t modeOfNewFiles() {
 class Sibling {
 public:
     explicit Sibling(const std::string& target)
-        : m_path(folderOf(target) + "/.orvanta-XXXXXX"), m_file(::mkostemp(m_path.data(), O_CLOEXEC)) {}
+        : m_path(folderOf(target) + "/.orvanta-XXXXXX"),
+          m_file(::mkostemp(m_path.data(), O_CLOEXEC)) {}
     ~Sibling() {
         if (!m_done) ::unlink(m_path.c_str());
     }
@@ -145,7 +147,8 @@ std::string FileDisk::read(const std::string& path) const {
     if (!file.isOpen()) throw failureFor(errno, name);
     struct stat status {};
     // Reading anything but a plain file could wait or go on for ever.
-    if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) throw Failure(ErrorNumber::PathFileAccess);
+    if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
+        throw Failure(ErrorNumber::PathFileAccess);
     std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
     std::size_t filled = 0;
     while (filled < bytes.size()) {

@@ -80,7 +80,8 @@ public:
     virtual ~Settings() = default;
     /// The stored value, or an empty text.
     virtual std::string read(std::string_view section, std::string_view key) const = 0;
-    virtual void write(std::string_view section, std::string_view key, const std::string& value) = 0;
+    virtual void write(std::string_view section, std::string_view key,
+                       const std::string& value) = 0;
 };
 
 class Shell {
@@ -127,7 +128,6 @@ public:
     virtual ~QuestionPrinter() = default;
     virtual void print(const QuestionSheets& sheets) = 0;
 };
-
 
 class WordProcessors {
 public:

@@ -36,7 +36,8 @@ std::uint64_t StatementList::rankFor(int position) {
     if (m_rows.empty()) return firstRank;
     const auto index = static_cast<std::size_t>(position) - 1;
     if (index == 0 && m_rows.front()->rank > rankGap) return m_rows.front()->rank - rankGap;
-    if (index == m_rows.size() && m_rows.back()->rank < ~rankGap) return m_rows.back()->rank + rankGap;
+    if (index == m_rows.size() && m_rows.back()->rank < ~rankGap)
+        return m_rows.back()->rank + rankGap;
     const std::uint64_t below = index == 0 ? 0 : m_rows[index - 1]->rank;
     const std::uint64_t above = index == m_rows.size() ? ~std::uint64_t{0} : m_rows[index]->rank;
     if (above - below > 1) return below + (above - below) / 2;

@@ -19,11 +19,11 @@ struct Colour {
 
 /// One row of a statement list. Texts are Windows-1252.
 struct Row {
-    std::string key;        // unique in its list; empty: the row has none
+    std::string key;  // unique in its list; empty: the row has none
     std::string text;
-    int image = 0;          // the small picture, 1 strength to 4 threat
+    int image = 0;  // the small picture, 1 strength to 4 threat
     int largeImage = 0;
-    std::string subItem{};  // who said it, as "[name]: "; empty where nobody is named
+    std::string subItem{};           // who said it, as "[name]: "; empty where nobody is named
     std::optional<Colour> colour{};  // none: the list's own
     int indent = 0;
 };

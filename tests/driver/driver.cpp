@@ -35,7 +35,8 @@ int integerIn(const Json& line, const char* name) {
 
 bool booleanIn(const Json& line, const char* name) {
     const Json& value = field(line, name);
-    if (!value.is_boolean()) throw Refused(std::string("the field \"") + name + "\" is neither true nor false");
+    if (!value.is_boolean())
+        throw Refused(std::string("the field \"") + name + "\" is neither true nor false");
     return value.get<bool>();
 }
 
@@ -57,7 +58,8 @@ EditStep editStepFrom(const Json& step) {
 }
 
 ReportStep reportStepFrom(const Json& step) {
-    if (step.contains("text")) return {ReportStep::Act::Text, 0, singleLineFrom(stringIn(step, "text"))};
+    if (step.contains("text"))
+        return {ReportStep::Act::Text, 0, singleLineFrom(stringIn(step, "text"))};
     if (step.contains("format")) {
         const int format = integerIn(step, "format");
         if (format != 0 && format != 1) throw Refused("no such format");
@@ -78,7 +80,8 @@ std::vector<Step> stepsFrom(const Json& line, Make make) {
 }
 
 void refuseBeyond(const StatementList& list, int position, int first) {
-    if (position < first || position > list.count()) throw Refused("there is no such row in " + list.name());
+    if (position < first || position > list.count())
+        throw Refused("there is no such row in " + list.name());
 }
 
 }  // namespace
@@ -98,8 +101,9 @@ Driver::Driver(Stage& stage, Disk& disk, const Folders& folders)
 
 void Driver::watchMainWindow() {
     for (Control* control : m_program.frmMain.controls.all())
-        control->focusGiven.subscribe(
-            [this, control] { m_log.add({{"event", "focus"}, {"control", control->name()}}); });
+        control->focusGiven.subscribe([this, control] {
+            m_log.add({{"event", "focus"}, {"control", control->name()}});
+        });
     for (std::size_t i = 0; i < buttonCount; ++i) {
         SkinnedButton& button = m_program.frmMain.buttons[static_cast<Button>(i)];
         m_artSeen[i] = button.image.art();
@@ -120,7 +124,8 @@ Json Driver::answer(const std::string& line) {
             queueAnswer(parsed);
             return {{"events", Json::array()}};
         }
-        if (stringIn(parsed, "do") == "state") return {{"events", m_log.takeAll()}, {"state", stateOf(m_program)}};
+        if (stringIn(parsed, "do") == "state")
+            return {{"events", m_log.takeAll()}, {"state", stateOf(m_program)}};
         perform(parsed);
         m_stage.settle();
         return {{"events", m_log.takeAll()}};
@@ -150,17 +155,30 @@ void Driver::queueAnswer(const Json& line) {
 
 void Driver::perform(const Json& line) {
     static constexpr std::array<Act, 18> acts{{
-        {"start", &Driver::start},     {"activate", &Driver::activate}, {"type", &Driver::type},
-        {"set", &Driver::set},         {"enter", &Driver::enter},       {"click", &Driver::click},
-        {"press", &Driver::press},     {"release", &Driver::release},   {"choose", &Driver::choose},
-        {"mute", &Driver::mute},       {"select", &Driver::select},     {"drag", &Driver::drag},
-        {"hover", &Driver::hover},     {"tick", &Driver::tick},         {"call", &Driver::call},
-        {"close", &Driver::close},     {"kill", &Driver::kill},         {"picture", &Driver::picture},
+        {"start", &Driver::start},
+        {"activate", &Driver::activate},
+        {"type", &Driver::type},
+        {"set", &Driver::set},
+        {"enter", &Driver::enter},
+        {"click", &Driver::click},
+        {"press", &Driver::press},
+        {"release", &Driver::release},
+        {"choose", &Driver::choose},
+        {"mute", &Driver::mute},
+        {"select", &Driver::select},
+        {"drag", &Driver::drag},
+        {"hover", &Driver::hover},
+        {"tick", &Driver::tick},
+        {"call", &Driver::call},
+        {"close", &Driver::close},
+        {"kill", &Driver::kill},
+        {"picture", &Driver::picture},
     }};
     const std::string name = stringIn(line, "do");
     const auto act = std::ranges::find(acts, name, &Act::name);
     if (act == acts.end()) throw Refused("nobody can do: " + name);
-    if (m_started == (name == "start")) throw Refused(m_started ? "already started" : "not started yet");
+    if (m_started == (name == "start"))
+        throw Refused(m_started ? "already started" : "not started yet");
     (this->*act->perform)(line);
 }
 
@@ -210,7 +228,9 @@ void Driver::set(const Json& line) {
     m_stage.replaceText(reachable<TextBox>(stringIn(line, "control")), pasted);
 }
 
-void Driver::enter(const Json& line) { m_stage.pressEnter(reachable<TextBox>(stringIn(line, "control"))); }
+void Driver::enter(const Json& line) {
+    m_stage.pressEnter(reachable<TextBox>(stringIn(line, "control")));
+}
 
 void Driver::click(const Json& line) {
     if (!line.contains("control")) {
@@ -242,7 +262,9 @@ void Driver::release(const Json& line) {
     m_stage.release(button);
 }
 
-void Driver::choose(const Json& line) { m_stage.choose(reachable<Option>(stringIn(line, "option"))); }
+void Driver::choose(const Json& line) {
+    m_stage.choose(reachable<Option>(stringIn(line, "option")));
+}
 
 void Driver::mute(const Json& line) {
     const bool on = booleanIn(line, "on");
@@ -255,7 +277,8 @@ void Driver::select(const Json& line) {
     const ListBox& files = m_program.frmMain.lstFiles;
     if (name == files.name()) {
         reachable<ListBox>(name);
-        if (row < -1 || row >= static_cast<int>(files.items().size())) throw Refused("there is no such file");
+        if (row < -1 || row >= static_cast<int>(files.items().size()))
+            throw Refused("there is no such file");
         m_stage.selectFile(row);
         return;
     }

@@ -28,14 +28,17 @@ MessageAnswer answerUnasked(MessageButtons buttons) {
     return buttons == MessageButtons::YesNo ? MessageAnswer::No : MessageAnswer::Cancel;
 }
 
-Json pathOrNull(const std::optional<std::string>& path) { return path ? text(*path) : Json(nullptr); }
+Json pathOrNull(const std::optional<std::string>& path) {
+    return path ? text(*path) : Json(nullptr);
+}
 
 }  // namespace
 
 MessageAnswer RecordedMessages::show(const Message& message) {
     const auto queued = take(m_answers.messages);
     const bool fits = queued && hasButton(message.buttons, *queued);
-    const MessageAnswer answer = m_stage.answer(message, fits ? *queued : answerUnasked(message.buttons));
+    const MessageAnswer answer =
+        m_stage.answer(message, fits ? *queued : answerUnasked(message.buttons));
     m_log.add({{"event", "message"},
                {"text", text(message.text)},
                {"icon", wordOf(message.icon)},
@@ -48,7 +51,8 @@ MessageAnswer RecordedMessages::show(const Message& message) {
 
 std::optional<std::string> RecordedFileDialogs::choose(const FileDialogRequest& request) {
     auto path = m_stage.answer(request, take(m_answers.files).value_or(std::nullopt));
-    if (path && request.mode == FileDialogMode::Save) path = withFilterEnding(*path, request.filter);
+    if (path && request.mode == FileDialogMode::Save)
+        path = withFilterEnding(*path, request.filter);
     m_log.add({{"event", "fileDialog"},
                {"mode", request.mode == FileDialogMode::Open ? "open" : "save"},
                {"filter", text(request.filter)},
@@ -58,7 +62,8 @@ std::optional<std::string> RecordedFileDialogs::choose(const FileDialogRequest& 
     return path;
 }
 
-RecordedSettings::RecordedSettings(EventLog& log, std::string path) : m_log(log), m_path(std::move(path)) {
+RecordedSettings::RecordedSettings(EventLog& log, std::string path)
+    : m_log(log), m_path(std::move(path)) {
     std::ifstream file(m_path);
     m_values = Json::parse(file, nullptr, false);
     if (!m_values.is_object()) m_values = Json::object();
@@ -72,7 +77,8 @@ std::string RecordedSettings::read(std::string_view section, std::string_view ke
     return windows1252From(value->get<std::string>());
 }
 
-void RecordedSettings::write(std::string_view section, std::string_view key, const std::string& value) {
+void RecordedSettings::write(std::string_view section, std::string_view key,
+                             const std::string& value) {
     Json& values = m_values[std::string(section)];
     if (!values.is_object()) values = Json::object();
     values[std::string(key)] = text(value);
@@ -90,7 +96,9 @@ void RecordedForms::run(FrmEdit& form) {
                {"form", "frmEdit"},
                {"text", text(form.txtEdit.text())},
                {"fromControl", text(form.fromControl)}});
-    form.txtEdit.focusGiven.subscribe([this] { m_log.add({{"event", "focus"}, {"control", "txtEdit"}}); });
+    form.txtEdit.focusGiven.subscribe([this] {
+        m_log.add({{"event", "focus"}, {"control", "txtEdit"}});
+    });
     m_stage.run(form, take(m_answers.edits).value_or(std::vector<EditStep>{}));
 }
 
@@ -104,7 +112,9 @@ void RecordedForms::run(FrmAbout& form) {
     m_stage.run(form);
 }
 
-void RecordedWorld::open(const std::string& target) { m_log.add({{"event", "open"}, {"target", text(target)}}); }
+void RecordedWorld::open(const std::string& target) {
+    m_log.add({{"event", "open"}, {"target", text(target)}});
+}
 
 void RecordedWorld::play() { m_log.add({{"event", "narration"}, {"movie", text(m_movie)}}); }
 

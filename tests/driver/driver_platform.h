@@ -21,7 +21,8 @@ private:
 
 class RecordedMessages : public MessageBoxes {
 public:
-    RecordedMessages(EventLog& log, Answers& answers, Stage& stage) : m_log(log), m_answers(answers), m_stage(stage) {}
+    RecordedMessages(EventLog& log, Answers& answers, Stage& stage)
+        : m_log(log), m_answers(answers), m_stage(stage) {}
     MessageAnswer show(const Message& message) override;
 
 private:
@@ -57,7 +58,8 @@ private:
 
 class RecordedForms : public ModalForms {
 public:
-    RecordedForms(EventLog& log, Answers& answers, Stage& stage) : m_log(log), m_answers(answers), m_stage(stage) {}
+    RecordedForms(EventLog& log, Answers& answers, Stage& stage)
+        : m_log(log), m_answers(answers), m_stage(stage) {}
     void run(FrmSplash& form) override;
     void run(FrmEdit& form) override;
     void run(FrmReportType& form) override;
@@ -72,10 +74,16 @@ private:
 };
 
 /// The rest of the world: what the program hands to it is written down.
-class RecordedWorld : public Shell, public Player, public QuestionPrinter, public Screen, public Folders,
-                      public Lifetime, public WordProcessors {
+class RecordedWorld : public Shell,
+                      public Player,
+                      public QuestionPrinter,
+                      public Screen,
+                      public Folders,
+                      public Lifetime,
+                      public WordProcessors {
 public:
-    RecordedWorld(EventLog& log, std::string documents) : m_log(log), m_documents(std::move(documents)) {}
+    RecordedWorld(EventLog& log, std::string documents)
+        : m_log(log), m_documents(std::move(documents)) {}
 
     void open(const std::string& target) override;
     void setMovie(const std::string& path) override { m_movie = path; }

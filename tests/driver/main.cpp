@@ -56,7 +56,8 @@ int play(driver::Stage& stage, const driver::Folders& folders) {
 int main(int argc, char** argv) {
     const Options options = optionsFrom(argc, argv);
     if (!options.complete) {
-        std::fputs("usage: orvanta_driver --app DIR --documents DIR --settings FILE [--window]\n", stderr);
+        std::fputs("usage: orvanta_driver --app DIR --documents DIR --settings FILE [--window]\n",
+                   stderr);
         return 2;
     }
     if (!options.window) return play(*driver::makeModelStage(), options.folders);

@@ -33,8 +33,8 @@ public:
     void select(StatementList& list, int position) override { list.select(position); }
     void selectFile(int index) override { m_program->frmMain.lstFiles.setSelectedIndex(index); }
 
-    void drag(StatementList& from, int row, const std::vector<StatementList*>& over, StatementList& to,
-              int position) override {
+    void drag(StatementList& from, int row, const std::vector<StatementList*>& over,
+              StatementList& to, int position) override {
         from.select(row);
         draggedOver(*m_program, from);
         for (StatementList* list : over) draggedOver(*m_program, *list);
@@ -42,12 +42,15 @@ public:
         droppedOn(*m_program, to, position);
     }
 
-    void hover(StatementList& list, int position) override { hoveredOver(*m_program, list, position); }
+    void hover(StatementList& list, int position) override {
+        hoveredOver(*m_program, list, position);
+    }
     void activate() override { windowActivated(*m_program); }
     void close() override { windowClosing(*m_program); }
 
     MessageAnswer answer(const Message&, MessageAnswer answer) override { return answer; }
-    std::optional<std::string> answer(const FileDialogRequest&, const std::optional<std::string>& path) override {
+    std::optional<std::string> answer(const FileDialogRequest&,
+                                      const std::optional<std::string>& path) override {
         return path;
     }
 
@@ -69,7 +72,8 @@ public:
 private:
     void typeCharacter(TextBox& box, char character) {
         const bool printable = static_cast<unsigned char>(character) >= 32 && character != 127;
-        if (characterTyped(*m_program, box, character) && printable) box.setText(box.text() + character);
+        if (characterTyped(*m_program, box, character) && printable)
+            box.setText(box.text() + character);
     }
 
     void act(FrmEdit& form, const EditStep& step) {

@@ -68,7 +68,10 @@ public:
     virtual void repaint(FrmReportType&) {}
 
     /// Writes a picture of what a person sees; false where there is nothing to see.
-    virtual bool takePicture(const std::string& path) { (void)path; return false; }
+    virtual bool takePicture(const std::string& path) {
+        (void)path;
+        return false;
+    }
 };
 
 std::unique_ptr<Stage> makeModelStage();

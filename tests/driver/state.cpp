@@ -16,19 +16,29 @@ Json byName(const FrmMain& form, const std::array<Member, Count>& members, Value
     return result;
 }
 
-constexpr std::array panels{
-    &FrmMain::fraBrainstorm, &FrmMain::fraStrength,  &FrmMain::fraWeakness,     &FrmMain::fraOpportunity,
-    &FrmMain::fraThreats,    &FrmMain::fraAnalyze,   &FrmMain::fraASSummary,    &FrmMain::fraAWeakness,
-    &FrmMain::fraAOpportunity, &FrmMain::fraAThreats, &FrmMain::fraAnalyzeOpportunity, &FrmMain::fraAnalyzeThreat};
+constexpr std::array panels{&FrmMain::fraBrainstorm,
+                            &FrmMain::fraStrength,
+                            &FrmMain::fraWeakness,
+                            &FrmMain::fraOpportunity,
+                            &FrmMain::fraThreats,
+                            &FrmMain::fraAnalyze,
+                            &FrmMain::fraASSummary,
+                            &FrmMain::fraAWeakness,
+                            &FrmMain::fraAOpportunity,
+                            &FrmMain::fraAThreats,
+                            &FrmMain::fraAnalyzeOpportunity,
+                            &FrmMain::fraAnalyzeThreat};
 
-constexpr std::array labels{&FrmMain::lblSQuestion, &FrmMain::lblWQuestion,    &FrmMain::lblOQuestion,
-                            &FrmMain::lblTQuestion, &FrmMain::lblAStrength,    &FrmMain::lblAWeakness,
-                            &FrmMain::lblAOpportunity, &FrmMain::lblAThreats,  &FrmMain::lblAOMapping,
-                            &FrmMain::lblATMapping};
+constexpr std::array labels{&FrmMain::lblSQuestion,    &FrmMain::lblWQuestion,
+                            &FrmMain::lblOQuestion,    &FrmMain::lblTQuestion,
+                            &FrmMain::lblAStrength,    &FrmMain::lblAWeakness,
+                            &FrmMain::lblAOpportunity, &FrmMain::lblAThreats,
+                            &FrmMain::lblAOMapping,    &FrmMain::lblATMapping};
 
-constexpr std::array boxes{&FrmMain::txtName,      &FrmMain::txtStrength,  &FrmMain::txtWeakness,
-                           &FrmMain::txtOpportunity, &FrmMain::txtThreat,  &FrmMain::txtAStrength,
-                           &FrmMain::txtAWeakness, &FrmMain::txtAOpportunity, &FrmMain::txtAThreat};
+constexpr std::array boxes{
+    &FrmMain::txtName,        &FrmMain::txtStrength,     &FrmMain::txtWeakness,
+    &FrmMain::txtOpportunity, &FrmMain::txtThreat,       &FrmMain::txtAStrength,
+    &FrmMain::txtAWeakness,   &FrmMain::txtAOpportunity, &FrmMain::txtAThreat};
 
 Json visibleOf(const FrmMain& form) {
     return {{"picBBack", form.picBBack.isVisible()},
@@ -76,12 +86,8 @@ Json optionsOf(const FrmMain& form) {
 }
 
 Json rowOf(const Row& row) {
-    Json result{{"key", text(row.key)},
-                {"text", text(row.text)},
-                {"image", row.image},
-                {"subItem", text(row.subItem)},
-                {"colour", nullptr},
-                {"indent", row.indent}};
+    Json result{{"key", text(row.key)},         {"text", text(row.text)}, {"image", row.image},
+                {"subItem", text(row.subItem)}, {"colour", nullptr},      {"indent", row.indent}};
     if (row.colour) result["colour"] = {row.colour->red, row.colour->green, row.colour->blue};
     if (row.largeImage != row.image) result["largeImage"] = row.largeImage;
     return result;
@@ -89,14 +95,16 @@ Json rowOf(const Row& row) {
 
 Json listOf(const StatementList& list) {
     Json rows = Json::array();
-    for (int position = 1; position <= list.count(); ++position) rows.push_back(rowOf(list.row(position)));
+    for (int position = 1; position <= list.count(); ++position)
+        rows.push_back(rowOf(list.row(position)));
     return {{"selected", list.selected()}, {"rows", std::move(rows)}};
 }
 
 template <class Texts>
 Json textsOf(const Texts& texts, std::size_t count) {
     Json result = Json::array();
-    for (std::size_t i = 0; i < std::min(count, texts.size()); ++i) result.push_back(text(texts[i]));
+    for (std::size_t i = 0; i < std::min(count, texts.size()); ++i)
+        result.push_back(text(texts[i]));
     return result;
 }
 
@@ -130,9 +138,11 @@ Json questionsOf(const QuestionBanks& questions) {
     };
     return {{"strengthQuestions", counted(questions.strengthQuestions, questions.strengthCount)},
             {"weaknessQuestions", counted(questions.weaknessQuestions, questions.weaknessCount)},
-            {"opportunityQuestions", counted(questions.opportunityQuestions, questions.opportunityCount)},
+            {"opportunityQuestions",
+             counted(questions.opportunityQuestions, questions.opportunityCount)},
             {"threatQuestions", counted(questions.threatQuestions, questions.threatCount)},
-            {"analyzeQuestions", textsOf(questions.analyzeQuestions, questions.analyzeQuestions.size())}};
+            {"analyzeQuestions",
+             textsOf(questions.analyzeQuestions, questions.analyzeQuestions.size())}};
 }
 
 }  // namespace

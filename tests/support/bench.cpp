@@ -14,7 +14,8 @@ namespace {
 
 /// A settings file that no other test sees.
 std::string newSettingsFile() {
-    std::string path = (std::filesystem::temp_directory_path() / "orvanta-settings-XXXXXX").string();
+    std::string path =
+        (std::filesystem::temp_directory_path() / "orvanta-settings-XXXXXX").string();
     const int descriptor = ::mkstemp(path.data());
     EXPECT_GE(descriptor, 0);
     ::close(descriptor);
@@ -24,7 +25,8 @@ std::string newSettingsFile() {
 
 Texts nonEmpty(const JournalRecords& records) {
     Texts result;
-    std::ranges::copy_if(records, std::back_inserter(result), [](const std::string& entry) { return !entry.empty(); });
+    std::ranges::copy_if(records, std::back_inserter(result),
+                         [](const std::string& entry) { return !entry.empty(); });
     return result;
 }
 
@@ -35,16 +37,20 @@ Bench::Bench() : m_settingsFile(newSettingsFile()) {
     for (const char* code : {"gbs", "hrp", "mp", "psd", "sbd"})
         disk.files["app/" + std::string(code) + "questions.txt"] = bankOf(3);
     Texts headings;
-    for (int i = 1; i <= 6; ++i) headings.insert(headings.end(), {"<QUESTION>", "Heading " + std::to_string(i)});
+    for (int i = 1; i <= 6; ++i)
+        headings.insert(headings.end(), {"<QUESTION>", "Heading " + std::to_string(i)});
     headings.push_back("<QUESTION>");
     disk.files["app/analyzequestions.txt"] = lines(headings);
     makeDriver();
 }
 
+Bench::~Bench() { std::filesystem::remove(m_settingsFile); }
+
 void Bench::makeDriver() {
     m_driver.reset();
     m_stage = driver::makeModelStage();
-    m_driver = std::make_unique<driver::Driver>(*m_stage, disk, driver::Folders{"app", "docs", m_settingsFile});
+    m_driver = std::make_unique<driver::Driver>(*m_stage, disk,
+                                                driver::Folders{"app", "docs", m_settingsFile});
 }
 
 void Bench::start() {
@@ -76,7 +82,8 @@ Json Bench::events(std::string_view name) {
 
 Texts Bench::messages() {
     Texts texts;
-    for (const Json& event : events("message")) texts.push_back(windows1252From(event["text"].get<std::string>()));
+    for (const Json& event : events("message"))
+        texts.push_back(windows1252From(event["text"].get<std::string>()));
     return texts;
 }
 
@@ -100,14 +107,20 @@ void Bench::set(const std::string& box, const std::string& text) {
 }
 
 void Bench::click(const std::string& button) { play({{"do", "click"}, {"button", button}}); }
-void Bench::clickControl(const std::string& control) { play({{"do", "click"}, {"control", control}}); }
-void Bench::select(const std::string& list, int row) { play({{"do", "select"}, {"list", list}, {"row", row}}); }
+void Bench::clickControl(const std::string& control) {
+    play({{"do", "click"}, {"control", control}});
+}
+void Bench::select(const std::string& list, int row) {
+    play({{"do", "select"}, {"list", list}, {"row", row}});
+}
 
 void Bench::drag(const std::string& from, int row, const std::string& to, int at) {
     play({{"do", "drag"}, {"list", from}, {"row", row}, {"to", to}, {"at", at}});
 }
 
-void Bench::answerMessage(const std::string& button) { play({{"answer", "message"}, {"button", button}}); }
+void Bench::answerMessage(const std::string& button) {
+    play({{"answer", "message"}, {"button", button}});
+}
 
 void Bench::answerFile(const std::string& path) {
     play({{"answer", "fileDialog"}, {"path", utf8From1252(path)}});
@@ -118,15 +131,19 @@ void Bench::answerEdit(const std::string& text) {
     play({{"answer", "frmEdit"}, {"steps", steps}});
 }
 
-void Bench::addSource(const std::string& path, const std::string& name, const Texts& strengths, const Texts& weaknesses,
-                      const Texts& opportunities, const Texts& threats) {
+void Bench::addSource(const std::string& path, const std::string& name, const Texts& strengths,
+                      const Texts& weaknesses, const Texts& opportunities, const Texts& threats) {
     disk.files[path] = brainstormFile(name, "GBS", strengths, weaknesses, opportunities, threats);
     answerFile(path);
     click("AFAdd");
 }
 
-StatementList& Bench::list(const std::string& name) { return dynamic_cast<StatementList&>(*form().controls.find(name)); }
-TextBox& Bench::box(const std::string& name) { return dynamic_cast<TextBox&>(*form().controls.find(name)); }
+StatementList& Bench::list(const std::string& name) {
+    return dynamic_cast<StatementList&>(*form().controls.find(name));
+}
+TextBox& Bench::box(const std::string& name) {
+    return dynamic_cast<TextBox&>(*form().controls.find(name));
+}
 
 ShownRows Bench::rows(const std::string& name) {
     ShownRows result;
@@ -150,14 +167,16 @@ std::string bankOf(int questions) {
     for (const char* section : {"STRENGTH", "WEAKNESS", "OPPORTUNITY", "THREATS"}) {
         bank.push_back("<" + std::string(section) + ">");
         for (int i = 1; i <= questions; ++i)
-            bank.insert(bank.end(), {"<QUESTION>", std::string(1, *section) + " question " + std::to_string(i)});
+            bank.insert(bank.end(), {"<QUESTION>",
+                                     std::string(1, *section) + " question " + std::to_string(i)});
         bank.push_back("</" + std::string(section) + ">");
     }
     return lines(bank);
 }
 
-std::string brainstormFile(const std::string& name, const std::string& moduleWord, const Texts& strengths,
-                           const Texts& weaknesses, const Texts& opportunities, const Texts& threats) {
+std::string brainstormFile(const std::string& name, const std::string& moduleWord,
+                           const Texts& strengths, const Texts& weaknesses,
+                           const Texts& opportunities, const Texts& threats) {
     Texts file{"<NAME>", name, "</NAME>", "<MODULE>", moduleWord, "</MODULE>"};
     const auto section = [&](const std::string& word, const Texts& statements) {
         file.push_back("<" + word + ">");
@@ -177,10 +196,11 @@ std::string lines(const Texts& lines) {
     return bytes;
 }
 
-std::string record(const std::string& tag, int position, const std::string& key, const std::string& text,
-                   const std::string& extra) {
+std::string record(const std::string& tag, int position, const std::string& key,
+                   const std::string& text, const std::string& extra) {
     const std::string delimiter(journalDelimiter);
-    return tag + delimiter + std::to_string(position) + delimiter + key + delimiter + text + delimiter + extra;
+    return tag + delimiter + std::to_string(position) + delimiter + key + delimiter + text +
+           delimiter + extra;
 }
 
 }  // namespace orvanta::test

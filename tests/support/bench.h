@@ -32,6 +32,7 @@ using Texts = std::vector<std::string>;
 class Bench {
 public:
     Bench();
+    ~Bench();
 
     MemoryDisk disk;
     Program& program() { return m_driver->program(); }
@@ -55,11 +56,12 @@ public:
     Texts messages();
 
     // What a person does.
-    void openBrainstorm(const std::string& option = "optGBS", const std::string& name = "Dana Reyes");
+    void openBrainstorm(const std::string& option = "optGBS",
+                        const std::string& name = "Dana Reyes");
     void openAnalyze() { click("Analyze"); }
     void enter(const std::string& box, std::initializer_list<std::string> texts);
     void set(const std::string& box, const std::string& text);
-    void click(const std::string& button);         // a skinned button by its base name
+    void click(const std::string& button);          // a skinned button by its base name
     void clickControl(const std::string& control);  // cmdUndo, cmdRedo, lblDistribute
     void select(const std::string& list, int row);
     void drag(const std::string& from, int row, const std::string& to, int at);
@@ -68,8 +70,8 @@ public:
     /// Replaces the text in the Edit Statement dialog and presses OK.
     void answerEdit(const std::string& text);
     /// Puts a brainstorm file on the disk and in the list of source files.
-    void addSource(const std::string& path, const std::string& name, const Texts& strengths, const Texts& weaknesses,
-                   const Texts& opportunities, const Texts& threats);
+    void addSource(const std::string& path, const std::string& name, const Texts& strengths,
+                   const Texts& weaknesses, const Texts& opportunities, const Texts& threats);
 
     StatementList& list(const std::string& name);
     TextBox& box(const std::string& name);
@@ -92,14 +94,15 @@ private:
 std::string bankOf(int questions);
 
 /// A brainstorm file.
-std::string brainstormFile(const std::string& name, const std::string& moduleWord, const Texts& strengths,
-                           const Texts& weaknesses, const Texts& opportunities, const Texts& threats);
+std::string brainstormFile(const std::string& name, const std::string& moduleWord,
+                           const Texts& strengths, const Texts& weaknesses,
+                           const Texts& opportunities, const Texts& threats);
 
 /// The lines with CR LF behind each.
 std::string lines(const Texts& lines);
 
 /// One journal record.
-std::string record(const std::string& tag, int position, const std::string& key, const std::string& text,
-                   const std::string& extra = {});
+std::string record(const std::string& tag, int position, const std::string& key,
+                   const std::string& text, const std::string& extra = {});
 
 }  // namespace orvanta::test

@@ -14,7 +14,7 @@ class MemoryDisk : public Disk {
 public:
     std::map<std::string, std::string> files;
     std::set<std::string> folders;
-    std::map<std::string, ErrorNumber> unreadable, unwritable;  // by path: what fails, and how
+    std::map<std::string, ErrorNumber> unreadable, unwritable;       // by path: what fails, and how
     std::size_t capacity = std::numeric_limits<std::size_t>::max();  // bytes a file may have
 
     PathKind kindOf(const std::string& path) const override {
@@ -30,7 +30,8 @@ public:
     void replace(const std::string& path, std::string_view bytes) override {
         refuse(unwritable, path);
         if (folders.contains(path)) throw Failure(ErrorNumber::PathFileAccess);
-        if (!folders.contains(path.substr(0, path.rfind(pathSeparator)))) throw Failure(ErrorNumber::PathNotFound);
+        if (!folders.contains(path.substr(0, path.rfind(pathSeparator))))
+            throw Failure(ErrorNumber::PathNotFound);
         if (bytes.size() > capacity) throw Failure(ErrorNumber::DiskFull);
         files[path] = bytes;
     }
@@ -45,7 +46,8 @@ public:
 
 private:
     static void refuse(const std::map<std::string, ErrorNumber>& failing, const std::string& path) {
-        if (const auto found = failing.find(path); found != failing.end()) throw Failure(found->second);
+        if (const auto found = failing.find(path); found != failing.end())
+            throw Failure(found->second);
     }
 };
 
