@@ -4,6 +4,7 @@
 
 #include "analyze/list_marks.h"
 #include "analyze/mapping_keys.h"
+#include "core/kind_controls.h"
 #include "core/messages.h"
 #include "core/text.h"
 #include "journal/journal.h"
@@ -12,10 +13,8 @@ namespace orvanta {
 
 namespace {
 
-using List = StatementList FrmMain::*;
-
 struct Side {
-    List mappingList;
+    ListMember mappingList;
     std::string_view parentWord;
     int parentImage;
     std::string_view journalTag;
@@ -25,7 +24,7 @@ constexpr Side opportunitySide{&FrmMain::lvOpportunity, "opportunity", 3, "ADD_O
 constexpr Side threatSide{&FrmMain::lvThreat, "threat", 4, "ADD_TM"};
 
 struct PickingList {
-    List list;
+    ListMember list;
     const Side& side;
     std::string_view section;  // "S" or "W"
     int image;                 // of the mapped rows that go back to it
@@ -102,7 +101,7 @@ void dragOverList(Program& program, StatementList& list) {
 void mapDroppedStatement(Program& program, StatementList& mappingList, int position) {
     FrmMain& form = program.frmMain;
     const Side& side = sideOf(form, mappingList);
-    if (position == 0 || mappingList.row(position).image != side.parentImage) return;
+    if (!takesMapping(form, mappingList, position)) return;
     StatementList* source = draggedFrom(form, side);
     if (source && !source->selectedRow()) return;
     const std::string childKey = source ? source->selectedRow()->key : std::string();
@@ -117,10 +116,10 @@ void mapDroppedStatement(Program& program, StatementList& mappingList, int posit
 }
 
 void unmapDroppedRow(Program& program, StatementList& pickingList) {
+    if (!takesRowBack(program.frmMain, pickingList)) return;
     const PickingList* picking = pickingListOf(program.frmMain, pickingList);
     StatementList& mappingList = program.frmMain.*picking->side.mappingList;
-    const Row* row = mappingList.selectedRow();
-    if (row && row->image == picking->image) mappingList.remove(mappingList.selected());
+    mappingList.remove(mappingList.selected());
 }
 
 void insertMappingRow(StatementList& sourceList, StatementList& targetList,
@@ -154,6 +153,17 @@ bool isPickingList(const FrmMain& form, const StatementList& list) {
 
 bool isMappingList(const FrmMain& form, const StatementList& list) {
     return &list == &form.lvOpportunity || &list == &form.lvThreat;
+}
+
+bool takesMapping(const FrmMain& form, const StatementList& mappingList, int position) {
+    return position != 0 &&
+           mappingList.row(position).image == sideOf(form, mappingList).parentImage;
+}
+
+bool takesRowBack(const FrmMain& form, const StatementList& pickingList) {
+    const PickingList* picking = pickingListOf(form, pickingList);
+    const Row* row = (form.*picking->side.mappingList).selectedRow();
+    return row && row->image == picking->image;
 }
 
 }  // namespace orvanta

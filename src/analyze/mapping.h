@@ -32,4 +32,9 @@ bool isPickingList(const FrmMain& form, const StatementList& list);
 /// True for lvOpportunity and lvThreat.
 bool isMappingList(const FrmMain& form, const StatementList& list);
 
+/// True if the row at a position of a mapping list is one that statements are mapped to.
+bool takesMapping(const FrmMain& form, const StatementList& mappingList, int position);
+/// True if the selected row of the mapping list would go back to this picking list.
+bool takesRowBack(const FrmMain& form, const StatementList& pickingList);
+
 }  // namespace orvanta

@@ -4,6 +4,7 @@
 
 #include "core/constants.h"
 #include "core/failures.h"
+#include "core/kind_controls.h"
 #include "core/messages.h"
 #include "core/workspace.h"
 #include "sessionfiles/brainstorm_file.h"
@@ -12,40 +13,17 @@ namespace orvanta {
 
 namespace {
 
-using List = StatementList FrmMain::*;
-
-struct Copies {
-    StatementKind kind;
-    List source;
-    std::array<List, 2> targets;
-};
-
-constexpr List noList = nullptr;
-
-constexpr std::array<Copies, 4> consolidatedCopies{{
-    {StatementKind::Strength,
-     &FrmMain::lvAStrength,
-     {&FrmMain::lvStrengthOp, &FrmMain::lvStrengthTh}},
-    {StatementKind::Weakness,
-     &FrmMain::lvAWeakness,
-     {&FrmMain::lvWeaknessOp, &FrmMain::lvWeaknessTh}},
-    {StatementKind::Opportunity, &FrmMain::lvAOpportunity, {&FrmMain::lvOpportunity, noList}},
-    {StatementKind::Threat, &FrmMain::lvAThreat, {&FrmMain::lvThreat, noList}},
-}};
-
-void copyRows(FrmMain& form, const Copies& copies) {
-    const StatementList& source = form.*copies.source;
-    const int image = imageOf(copies.kind);
+void copyRows(FrmMain& form, const KindControls& controls) {
+    const StatementList& source = form.*controls.analyzeList;
+    const int image = imageOf(controls.kind);
     for (int position = 1; position <= source.count(); ++position) {
         const Row& row = source.row(position);
-        for (const List target : copies.targets)
-            if (target)
-                (form.*target)
-                    .add({.key = letterOf(copies.kind) + std::to_string(position),
-                          .text = row.text,
-                          .image = image,
-                          .largeImage = image,
-                          .subItem = row.subItem});
+        const Row copy{.key = letterOf(controls.kind) + std::to_string(position),
+                       .text = row.text,
+                       .image = image,
+                       .largeImage = image,
+                       .subItem = row.subItem};
+        forEachCompanion(form, controls, [&](StatementList& list) { list.add(copy); });
     }
 }
 
@@ -92,10 +70,9 @@ bool consolidateSourceFiles(Program& program) {
         form.lstFiles.clear();
         return false;
     }
-    for (const Copies& copies : consolidatedCopies)
-        for (const List target : copies.targets)
-            if (target) (form.*target).clear();
-    for (const Copies& copies : consolidatedCopies) copyRows(form, copies);
+    for (const KindControls& controls : kindControls)
+        forEachCompanion(form, controls, [](StatementList& list) { list.clear(); });
+    for (const KindControls& controls : kindControls) copyRows(form, controls);
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include "analyze/mapping.h"
 #include "analyze/mapping_keys.h"
 #include "core/failures.h"
+#include "core/kind_controls.h"
 #include "core/messages.h"
 #include "core/text.h"
 #include "journal/journal.h"
@@ -12,60 +13,15 @@ namespace orvanta {
 
 namespace {
 
-using List = StatementList FrmMain::*;
+constexpr std::array<ListMember, 2> mappingLists{&FrmMain::lvOpportunity, &FrmMain::lvThreat};
 
-/// What differs between the four kinds. The first two have picking lists, the other two a
-/// mapping list.
-struct AnalyzeKind {
-    StatementKind kind;
-    TextBox FrmMain::*box;
-    List main;
-    std::array<List, 2> pickingLists;
-    List mappingList;
-    std::string_view blankMessage;
-};
-
-constexpr List noList = nullptr;
-
-constexpr std::array<AnalyzeKind, 4> analyzeKinds{{
-    {StatementKind::Strength,
-     &FrmMain::txtAStrength,
-     &FrmMain::lvAStrength,
-     {&FrmMain::lvStrengthOp, &FrmMain::lvStrengthTh},
-     noList,
-     "Please enter strength."},
-    {StatementKind::Weakness,
-     &FrmMain::txtAWeakness,
-     &FrmMain::lvAWeakness,
-     {&FrmMain::lvWeaknessOp, &FrmMain::lvWeaknessTh},
-     noList,
-     "Please enter weakness."},
-    {StatementKind::Opportunity,
-     &FrmMain::txtAOpportunity,
-     &FrmMain::lvAOpportunity,
-     {noList, noList},
-     &FrmMain::lvOpportunity,
-     "Please enter opportunity."},
-    {StatementKind::Threat,
-     &FrmMain::txtAThreat,
-     &FrmMain::lvAThreat,
-     {noList, noList},
-     &FrmMain::lvThreat,
-     "Please enter threat."},
-}};
-static_assert(analyzeKinds[indexOf(StatementKind::Threat)].kind == StatementKind::Threat);
-
-constexpr std::array<List, 2> mappingLists{&FrmMain::lvOpportunity, &FrmMain::lvThreat};
-
-const AnalyzeKind& of(StatementKind kind) { return analyzeKinds[indexOf(kind)]; }
-
-std::string tag(std::string_view operation, const AnalyzeKind& kind) {
+std::string tag(std::string_view operation, const KindControls& kind) {
     return std::string(operation) + "_A_" + letterOf(kind.kind);
 }
 
-void addStatement(Program& program, const AnalyzeKind& kind) {
+void addStatement(Program& program, const KindControls& kind) {
     FrmMain& form = program.frmMain;
-    TextBox& box = form.*kind.box;
+    TextBox& box = form.*kind.reviewBox;
     const std::string text(trimBlanks(box.text()));
     if (text.empty()) {
         refuse(program.platform.messages, kind.blankMessage);
@@ -76,24 +32,23 @@ void addStatement(Program& program, const AnalyzeKind& kind) {
     const int image = imageOf(kind.kind);
     const Row row{
         .key = getNextKey(program, kind.kind), .text = text, .image = image, .largeImage = image};
-    for (const List list :
-         {kind.main, kind.pickingLists[0], kind.pickingLists[1], kind.mappingList})
-        if (list) (form.*list).add(row);
-    pushUserChange(program, tag("DEL", kind), (form.*kind.main).count(), row.key, text);
+    (form.*kind.analyzeList).add(row);
+    forEachCompanion(form, kind, [&](StatementList& list) { list.add(row); });
+    pushUserChange(program, tag("DEL", kind), (form.*kind.analyzeList).count(), row.key, text);
     box.setText({});
     box.giveFocus();
 }
 
-void carryText(FrmMain& form, const AnalyzeKind& kind) {
-    const StatementList& main = form.*kind.main;
+void carryText(FrmMain& form, const KindControls& kind) {
+    const StatementList& main = form.*kind.analyzeList;
     const Row& row = *main.selectedRow();
     if (kind.mappingList) return setTextOfKey(form.*kind.mappingList, row.key, row.text);
-    for (const List list : kind.pickingLists) (form.*list).setText(main.selected(), row.text);
-    for (const List list : mappingLists) setTextOfMappedRows(form.*list, row.key, row.text);
+    for (const ListMember list : kind.pickingLists) (form.*list).setText(main.selected(), row.text);
+    for (const ListMember list : mappingLists) setTextOfMappedRows(form.*list, row.key, row.text);
 }
 
-void editStatement(Program& program, const AnalyzeKind& kind) {
-    StatementList& list = program.frmMain.*kind.main;
+void editStatement(Program& program, const KindControls& kind) {
+    StatementList& list = program.frmMain.*kind.analyzeList;
     if (!list.selectedRow()) return;
     const std::string oldText = list.selectedRow()->text;
     showEditDialog(program, std::string("A") + letterOf(kind.kind), oldText);
@@ -113,26 +68,26 @@ void removeMappedRows(StatementList& mappingList, std::string_view childKey) {
     }
 }
 
-void removePicked(Program& program, const AnalyzeKind& kind) {
+void removePicked(Program& program, const KindControls& kind) {
     reportingFailures(program.platform.messages, [&] {
         FrmMain& form = program.frmMain;
-        StatementList& main = form.*kind.main;
+        StatementList& main = form.*kind.analyzeList;
         const Row* row = main.selectedRow();
         if (!row) return;
         // The rows mapped from the statement go with it, unasked and unrecorded.
-        for (const List list : mappingLists) removeMappedRows(form.*list, row->key);
+        for (const ListMember list : mappingLists) removeMappedRows(form.*list, row->key);
         const int position = main.selected();
         pushUserChange(program, tag("ADD", kind), position, row->key, trimBlanks(row->text));
-        for (const List list : kind.pickingLists) (form.*list).remove(position);
+        for (const ListMember list : kind.pickingLists) (form.*list).remove(position);
         main.remove(position);
         form.editAFlag = true;
     });
 }
 
-void removeParent(Program& program, const AnalyzeKind& kind) {
+void removeParent(Program& program, const KindControls& kind) {
     reportingFailures(program.platform.messages, [&] {
         FrmMain& form = program.frmMain;
-        StatementList& main = form.*kind.main;
+        StatementList& main = form.*kind.analyzeList;
         StatementList& mappingList = form.*kind.mappingList;
         const Row* row = main.selectedRow();
         if (!row) return;
@@ -150,8 +105,9 @@ void removeParent(Program& program, const AnalyzeKind& kind) {
 }
 
 // Uneven on purpose: adding and editing an opportunity report no failure of their own.
-void reporting(Program& program, void (*change)(Program&, const AnalyzeKind&), StatementKind kind) {
-    reportingFailures(program.platform.messages, [&] { change(program, of(kind)); });
+void reporting(Program& program, void (*change)(Program&, const KindControls&),
+               StatementKind kind) {
+    reportingFailures(program.platform.messages, [&] { change(program, controlsOf(kind)); });
 }
 
 }  // namespace
@@ -163,7 +119,7 @@ void addAnalyzeWeakness(Program& program) {
     reporting(program, addStatement, StatementKind::Weakness);
 }
 void addAnalyzeOpportunity(Program& program) {
-    addStatement(program, of(StatementKind::Opportunity));
+    addStatement(program, controlsOf(StatementKind::Opportunity));
 }
 void addAnalyzeThreat(Program& program) { reporting(program, addStatement, StatementKind::Threat); }
 void editAnalyzeStrength(Program& program) {
@@ -173,16 +129,28 @@ void editAnalyzeWeakness(Program& program) {
     reporting(program, editStatement, StatementKind::Weakness);
 }
 void editAnalyzeOpportunity(Program& program) {
-    editStatement(program, of(StatementKind::Opportunity));
+    editStatement(program, controlsOf(StatementKind::Opportunity));
 }
 void editAnalyzeThreat(Program& program) {
     reporting(program, editStatement, StatementKind::Threat);
 }
-void removeAnalyzeStrength(Program& program) { removePicked(program, of(StatementKind::Strength)); }
-void removeAnalyzeWeakness(Program& program) { removePicked(program, of(StatementKind::Weakness)); }
-void removeAnalyzeOpportunity(Program& program) {
-    removeParent(program, of(StatementKind::Opportunity));
+void removeAnalyzeStrength(Program& program) {
+    removePicked(program, controlsOf(StatementKind::Strength));
 }
-void removeAnalyzeThreat(Program& program) { removeParent(program, of(StatementKind::Threat)); }
+void removeAnalyzeWeakness(Program& program) {
+    removePicked(program, controlsOf(StatementKind::Weakness));
+}
+void removeAnalyzeOpportunity(Program& program) {
+    removeParent(program, controlsOf(StatementKind::Opportunity));
+}
+void removeAnalyzeThreat(Program& program) {
+    removeParent(program, controlsOf(StatementKind::Threat));
+}
+
+void addAnalyzeStatement(Program& program, StatementKind kind) {
+    constexpr std::array adds{addAnalyzeStrength, addAnalyzeWeakness, addAnalyzeOpportunity,
+                              addAnalyzeThreat};
+    adds[indexOf(kind)](program);
+}
 
 }  // namespace orvanta

@@ -8,6 +8,8 @@ namespace orvanta {
 // same position of two picking lists and may be mapped under any number of parents; an
 // opportunity or threat has one row of the same key in its mapping list.
 
+void addAnalyzeStatement(Program& program, StatementKind kind);
+
 void addAnalyzeStrength(Program& program);
 void addAnalyzeWeakness(Program& program);
 void addAnalyzeOpportunity(Program& program);

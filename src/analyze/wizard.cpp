@@ -4,8 +4,10 @@
 
 #include "analyze/source_files.h"
 #include "analyze/statements.h"
+#include "core/answer_prompt.h"
 #include "core/constants.h"
 #include "core/failures.h"
+#include "core/kind_controls.h"
 #include "core/main_window.h"
 #include "core/workspace.h"
 #include "questions/narration.h"
@@ -19,38 +21,23 @@ namespace {
 /// One of the six screens behind the source files, in the order of the wizard.
 struct Step {
     Panel FrmMain::*panel;
-    std::string_view clip;  // spoken when the step comes up
-    TextBox FrmMain::*box;  // null on the mapping steps
-    void (*add)(Program&);
+    std::string_view clip;        // spoken when the step comes up
+    const KindControls* reviews;  // the statements weeded here; null on the mapping steps
 };
 
 constexpr std::array<Step, 6> steps{{
-    {&FrmMain::fraASSummary, "analyze_S", &FrmMain::txtAStrength, addAnalyzeStrength},
-    {&FrmMain::fraAWeakness, "analyze_W", &FrmMain::txtAWeakness, addAnalyzeWeakness},
-    {&FrmMain::fraAOpportunity, "analyze_O", &FrmMain::txtAOpportunity, addAnalyzeOpportunity},
-    {&FrmMain::fraAThreats, "analyze_T", &FrmMain::txtAThreat, addAnalyzeThreat},
-    {&FrmMain::fraAnalyzeOpportunity, "analyze_OM", nullptr, nullptr},
-    {&FrmMain::fraAnalyzeThreat, "analyze_TM", nullptr, nullptr},
+    {&FrmMain::fraASSummary, "analyze_S", &controlsOf(StatementKind::Strength)},
+    {&FrmMain::fraAWeakness, "analyze_W", &controlsOf(StatementKind::Weakness)},
+    {&FrmMain::fraAOpportunity, "analyze_O", &controlsOf(StatementKind::Opportunity)},
+    {&FrmMain::fraAThreats, "analyze_T", &controlsOf(StatementKind::Threat)},
+    {&FrmMain::fraAnalyzeOpportunity, "analyze_OM", nullptr},
+    {&FrmMain::fraAnalyzeThreat, "analyze_TM", nullptr},
 }};
 
 constexpr std::size_t lastStatementStep = 3;
 constexpr std::size_t opportunityMappingStep = 4;
 
 bool isShown(const FrmMain& form, const Step& step) { return (form.*step.panel).isVisible(); }
-
-void offerAnswer(Program& program, const Step& step) {
-    TextBox& box = program.frmMain.*step.box;
-    if (box.text().empty()) return;
-    const MessageAnswer answer =
-        program.platform.messages.show({.text = "Do you want to add the answer?",
-                                        .icon = MessageIcon::Question,
-                                        .buttons = MessageButtons::YesNo,
-                                        .defaultAnswer = MessageAnswer::Yes});
-    if (answer == MessageAnswer::Yes)
-        step.add(program);
-    else
-        box.setText({});
-}
 
 void enter(Program& program, const Step& step) {
     (program.frmMain.*step.panel).show();
@@ -74,7 +61,8 @@ bool goOnFrom(Program& program, std::size_t index) {
     FrmMain& form = program.frmMain;
     if (index + 1 == steps.size()) return finish(program);
     const Step& step = steps[index];
-    if (step.box) offerAnswer(program, step);
+    if (step.reviews && wantsAnswerAdded(program, form.*step.reviews->reviewBox))
+        addAnalyzeStatement(program, step.reviews->kind);
     (form.*step.panel).hide();
     enter(program, steps[index + 1]);
     if (index == lastStatementStep) showUndoRedo(form, false);

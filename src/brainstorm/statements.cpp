@@ -1,6 +1,7 @@
 #include "brainstorm/statements.h"
 
 #include "core/failures.h"
+#include "core/kind_controls.h"
 #include "core/messages.h"
 #include "core/text.h"
 #include "journal/journal.h"
@@ -10,49 +11,24 @@ namespace orvanta {
 
 namespace {
 
-static_assert(brainstormKinds[indexOf(StatementKind::Threat)].kind == StatementKind::Threat);
-
-const BrainstormKind& of(StatementKind kind) { return brainstormKinds[indexOf(kind)]; }
-
-std::string tag(std::string_view operation, const BrainstormKind& kind) {
-    return std::string(operation) + "_B_" + letterOf(kind.kind);
+std::string tag(std::string_view operation, StatementKind kind) {
+    return std::string(operation) + "_B_" + letterOf(kind);
 }
 
-}  // namespace
-
-void addBrainstormStatement(Program& program, const BrainstormKind& kind) {
-    FrmMain& form = program.frmMain;
-    TextBox& box = form.*kind.answerBox;
-    StatementList& list = form.*kind.list;
-    const std::string text(trimBlanks(box.text()));
-    if (text.empty()) {
-        refuse(program.platform.messages, kind.blankMessage);
-        box.giveFocus();
-        return;
-    }
-    form.editFlag = true;
-    const std::string key = getNextKey(program, kind.kind);
-    const int image = imageOf(kind.kind);
-    list.add({.key = key, .text = text, .image = image, .largeImage = image});
-    pushUserChange(program, tag("DEL", kind), list.count(), key, text);
-    box.setText({});
-    box.giveFocus();
-}
-
-void editBrainstormStatement(Program& program, const BrainstormKind& kind) {
+void editStatement(Program& program, StatementKind kind) {
     reportingFailures(program.platform.messages, [&] {
-        StatementList& list = program.frmMain.*kind.list;
+        StatementList& list = program.frmMain.*controlsOf(kind).brainstormList;
         if (!list.selectedRow()) return;
         const std::string oldText = list.selectedRow()->text;
-        showEditDialog(program, std::string("B") + letterOf(kind.kind), oldText);
+        showEditDialog(program, std::string("B") + letterOf(kind), oldText);
         if (list.selectedRow()->text == oldText) return;
         pushUserChange(program, tag("EDIT", kind), list.selected(), {}, oldText);
     });
 }
 
-void removeBrainstormStatement(Program& program, const BrainstormKind& kind) {
+void removeStatement(Program& program, StatementKind kind) {
     FrmMain& form = program.frmMain;
-    StatementList& list = form.*kind.list;
+    StatementList& list = form.*controlsOf(kind).brainstormList;
     const Row* row = list.selectedRow();
     if (!row) return;
     const int position = list.selected();
@@ -61,42 +37,55 @@ void removeBrainstormStatement(Program& program, const BrainstormKind& kind) {
     form.editFlag = true;
 }
 
+}  // namespace
+
+void addBrainstormStatement(Program& program, StatementKind kind) {
+    FrmMain& form = program.frmMain;
+    const KindControls& controls = controlsOf(kind);
+    TextBox& box = form.*controls.answerBox;
+    StatementList& list = form.*controls.brainstormList;
+    const std::string text(trimBlanks(box.text()));
+    if (text.empty()) {
+        refuse(program.platform.messages, controls.blankMessage);
+        box.giveFocus();
+        return;
+    }
+    form.editFlag = true;
+    const std::string key = getNextKey(program, kind);
+    list.add({.key = key, .text = text, .image = imageOf(kind), .largeImage = imageOf(kind)});
+    pushUserChange(program, tag("DEL", kind), list.count(), key, text);
+    box.setText({});
+    box.giveFocus();
+}
+
 void addBrainstormStrength(Program& program) {
-    addBrainstormStatement(program, of(StatementKind::Strength));
+    addBrainstormStatement(program, StatementKind::Strength);
 }
 void addBrainstormWeakness(Program& program) {
-    addBrainstormStatement(program, of(StatementKind::Weakness));
+    addBrainstormStatement(program, StatementKind::Weakness);
 }
 void addBrainstormOpportunity(Program& program) {
-    addBrainstormStatement(program, of(StatementKind::Opportunity));
+    addBrainstormStatement(program, StatementKind::Opportunity);
 }
 void addBrainstormThreat(Program& program) {
-    addBrainstormStatement(program, of(StatementKind::Threat));
+    addBrainstormStatement(program, StatementKind::Threat);
 }
-void editBrainstormStrength(Program& program) {
-    editBrainstormStatement(program, of(StatementKind::Strength));
-}
-void editBrainstormWeakness(Program& program) {
-    editBrainstormStatement(program, of(StatementKind::Weakness));
-}
+void editBrainstormStrength(Program& program) { editStatement(program, StatementKind::Strength); }
+void editBrainstormWeakness(Program& program) { editStatement(program, StatementKind::Weakness); }
 void editBrainstormOpportunity(Program& program) {
-    editBrainstormStatement(program, of(StatementKind::Opportunity));
+    editStatement(program, StatementKind::Opportunity);
 }
-void editBrainstormThreat(Program& program) {
-    editBrainstormStatement(program, of(StatementKind::Threat));
-}
+void editBrainstormThreat(Program& program) { editStatement(program, StatementKind::Threat); }
 void removeBrainstormStrength(Program& program) {
-    removeBrainstormStatement(program, of(StatementKind::Strength));
+    removeStatement(program, StatementKind::Strength);
 }
 void removeBrainstormWeakness(Program& program) {
-    removeBrainstormStatement(program, of(StatementKind::Weakness));
+    removeStatement(program, StatementKind::Weakness);
 }
 void removeBrainstormOpportunity(Program& program) {
-    removeBrainstormStatement(program, of(StatementKind::Opportunity));
+    removeStatement(program, StatementKind::Opportunity);
 }
-void removeBrainstormThreat(Program& program) {
-    removeBrainstormStatement(program, of(StatementKind::Threat));
-}
+void removeBrainstormThreat(Program& program) { removeStatement(program, StatementKind::Threat); }
 
 bool isAllowedInName(char character) {
     return std::string_view("<|>/\\:*?\"").find(character) == std::string_view::npos;

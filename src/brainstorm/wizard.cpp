@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "brainstorm/statements.h"
+#include "core/answer_prompt.h"
 #include "core/failures.h"
+#include "core/kind_controls.h"
 #include "core/main_window.h"
 #include "core/messages.h"
 #include "core/modules.h"
@@ -22,10 +24,12 @@ constexpr Bounds topLeftCorner(Bounds bounds) {
 }
 
 /// The step on screen; null on the module choice screen.
-const BrainstormKind* stepOnScreen(const FrmMain& form) {
-    const auto isShown = [&](const BrainstormKind& kind) { return (form.*kind.panel).isVisible(); };
-    const auto found = std::ranges::find_if(brainstormKinds, isShown);
-    return found == brainstormKinds.end() ? nullptr : &*found;
+const KindControls* stepOnScreen(const FrmMain& form) {
+    const auto isShown = [&](const KindControls& kind) {
+        return (form.*kind.questionPanel).isVisible();
+    };
+    const auto found = std::ranges::find_if(kindControls, isShown);
+    return found == kindControls.end() ? nullptr : &*found;
 }
 
 void setNextToolTip(FrmMain& form, const std::string& toolTip) {
@@ -50,14 +54,15 @@ public:
         }
         if (!loadModuleQuestions(m_program, m_code)) return false;
         m_form.onLastQuestion = false;
-        enter(brainstormKinds.front());
+        enter(kindControls.front());
         return true;
     }
 
     /// False if the session was to be saved and was not.
-    bool goesOnFrom(const BrainstormKind& kind) {
-        offerAnswer(kind);
-        const bool last = &kind == &brainstormKinds.back();
+    bool goesOnFrom(const KindControls& kind) {
+        if (wantsAnswerAdded(m_program, m_form.*kind.answerBox))
+            addBrainstormStatement(m_program, kind.kind);
+        const bool last = &kind == &kindControls.back();
         const int count = countOf(kind);
         if (m_form.questionStep < count - 1) {
             announce(kind, ++m_form.questionStep);
@@ -70,7 +75,7 @@ public:
         return true;
     }
 
-    void goBackFrom(const BrainstormKind& kind) {
+    void goBackFrom(const KindControls& kind) {
         if (m_form.questionStep > 0) {
             m_form.onLastQuestion = false;
             --m_form.questionStep;
@@ -80,28 +85,27 @@ public:
                 goBackBeyond(kind);
         }
         // Only the last list ever turns the button into Save.
-        if (&kind == &brainstormKinds.back())
-            m_form.buttons[Button::BNext].label.setCaption("Next>>");
+        if (&kind == &kindControls.back()) m_form.buttons[Button::BNext].label.setCaption("Next>>");
     }
 
 private:
-    const std::vector<std::string>& questionsOf(const BrainstormKind& kind) const {
+    const std::vector<std::string>& questionsOf(const KindControls& kind) const {
         return m_program.questions.*bankListOf(kind.kind).questions;
     }
-    std::int16_t countOf(const BrainstormKind& kind) const {
+    std::int16_t countOf(const KindControls& kind) const {
         return m_program.questions.*bankListOf(kind.kind).count;
     }
-    std::string clipOf(const BrainstormKind& kind, int number) const {
+    std::string clipOf(const KindControls& kind, int number) const {
         return m_code + '_' + letterOf(kind.kind) + std::to_string(number);
     }
 
-    void showQuestion(const BrainstormKind& kind, int number) {
-        (m_form.*kind.questionLabel).setCaption(questionAt(questionsOf(kind), number));
+    void showQuestion(const KindControls& kind, int number) {
+        (m_form.*kind.question).setCaption(questionAt(questionsOf(kind), number));
     }
 
     /// Shows a question and speaks it the first time that it is reached. One that was passed
     /// with the sound off counts as not yet heard.
-    void announce(const BrainstormKind& kind, std::int16_t number) {
+    void announce(const KindControls& kind, std::int16_t number) {
         showQuestion(kind, number);
         std::int16_t& narrated = m_form.*kind.narrated;
         if (m_form.chkMute.isOn() || narrated >= number) return;
@@ -110,26 +114,12 @@ private:
     }
 
     /// Unlike on the way forward, a question speaks at every return to it.
-    void askAgain(const BrainstormKind& kind) {
+    void askAgain(const KindControls& kind) {
         showQuestion(kind, m_form.questionStep);
         narrate(m_program, clipOf(kind, m_form.questionStep));
     }
 
-    void offerAnswer(const BrainstormKind& kind) {
-        TextBox& box = m_form.*kind.answerBox;
-        if (box.text().empty()) return;
-        const MessageAnswer answer =
-            m_program.platform.messages.show({.text = "Do you want to add the answer?",
-                                              .icon = MessageIcon::Question,
-                                              .buttons = MessageButtons::YesNo,
-                                              .defaultAnswer = MessageAnswer::Yes});
-        if (answer == MessageAnswer::Yes)
-            addBrainstormStatement(m_program, kind);
-        else
-            box.setText({});
-    }
-
-    void reachLastQuestion(const BrainstormKind& kind, bool last) {
+    void reachLastQuestion(const KindControls& kind, bool last) {
         ++m_form.questionStep;
         m_form.onLastQuestion = true;
         announce(kind, countOf(kind));
@@ -138,8 +128,8 @@ private:
         setNextToolTip(m_form, "Browse to the location you would like to save this file.");
     }
 
-    void enter(const BrainstormKind& kind) {
-        Panel& panel = m_form.*kind.panel;
+    void enter(const KindControls& kind) {
+        Panel& panel = m_form.*kind.questionPanel;
         panel.show();
         clearJournal(m_program);
         panel.setBounds(topLeftCorner(panel.bounds()));
@@ -147,10 +137,10 @@ private:
         announce(kind, 1);
     }
 
-    bool leave(const BrainstormKind& kind) {
+    bool leave(const KindControls& kind) {
         m_form.onLastQuestion = false;
-        (m_form.*kind.panel).hide();
-        enter(brainstormKinds[indexOf(kind.kind) + 1]);
+        (m_form.*kind.questionPanel).hide();
+        enter(kindControls[indexOf(kind.kind) + 1]);
         return true;
     }
 
@@ -162,15 +152,15 @@ private:
         return true;
     }
 
-    void goBackBeyond(const BrainstormKind& kind) {
-        (m_form.*kind.panel).hide();
-        if (&kind == &brainstormKinds.front()) {
+    void goBackBeyond(const KindControls& kind) {
+        (m_form.*kind.questionPanel).hide();
+        if (&kind == &kindControls.front()) {
             m_form.picBBack.hide();
             clearJournal(m_program);
             return;
         }
-        const BrainstormKind& previous = brainstormKinds[indexOf(kind.kind) - 1];
-        (m_form.*previous.panel).show();
+        const KindControls& previous = kindControls[indexOf(kind.kind) - 1];
+        (m_form.*previous.questionPanel).show();
         clearJournal(m_program);
         m_form.questionStep = countOf(previous);
         m_form.onLastQuestion = true;
@@ -188,7 +178,7 @@ void brainstormNext(Program& program) {
     reportingFailures(program.platform.messages, [&] {
         stopNarration(program);
         Walk walk(program);
-        const BrainstormKind* step = stepOnScreen(program.frmMain);
+        const KindControls* step = stepOnScreen(program.frmMain);
         const bool moved = step ? walk.goesOnFrom(*step) : walk.startsQuestions();
         if (moved) program.frmMain.picBBack.show();
     });
@@ -199,7 +189,7 @@ void brainstormBack(Program& program) {
         Walk walk(program);
         stopNarration(program);
         setNextToolTip(program.frmMain, {});
-        if (const BrainstormKind* step = stepOnScreen(program.frmMain)) walk.goBackFrom(*step);
+        if (const KindControls* step = stepOnScreen(program.frmMain)) walk.goBackFrom(*step);
     });
 }
 

@@ -6,6 +6,7 @@
 #include "core/constants.h"
 #include "core/display_scaling.h"
 #include "core/failures.h"
+#include "core/kind_controls.h"
 #include "core/modules.h"
 #include "core/workspace.h"
 #include "questions/narration.h"
@@ -47,18 +48,6 @@ bool holdsRows(const FrmMain& form, std::initializer_list<StatementList FrmMain:
     return std::ranges::any_of(lists, [&](const auto list) { return (form.*list).count() > 0; });
 }
 
-struct FirstQuestion {
-    Label FrmMain::*label;
-    std::vector<std::string> QuestionBanks::*questions;
-};
-
-constexpr std::array<FirstQuestion, 4> firstQuestions{{
-    {&FrmMain::lblSQuestion, &QuestionBanks::strengthQuestions},
-    {&FrmMain::lblWQuestion, &QuestionBanks::weaknessQuestions},
-    {&FrmMain::lblOQuestion, &QuestionBanks::opportunityQuestions},
-    {&FrmMain::lblTQuestion, &QuestionBanks::threatQuestions},
-}};
-
 void showRecoveredBrainstorm(Program& program) {
     const CarryOn step;
     FrmMain& form = program.frmMain;
@@ -68,10 +57,10 @@ void showRecoveredBrainstorm(Program& program) {
         if (!bankIsWhole) return;
     }
     form.questionStep = 1;
-    for (const FirstQuestion& first : firstQuestions)
-        step([&] {
-            (form.*first.label).setCaption(questionAt(program.questions.*first.questions, 1));
-        });
+    for (const KindControls& controls : kindControls) {
+        const auto& questions = program.questions.*bankListOf(controls.kind).questions;
+        step([&] { (form.*controls.question).setCaption(questionAt(questions, 1)); });
+    }
     form.fraBrainstorm.show();
     form.editFlag = true;
     showUndoRedo(form, true);

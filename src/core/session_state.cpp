@@ -4,6 +4,7 @@
 
 #include "core/constants.h"
 #include "core/failures.h"
+#include "core/kind_controls.h"
 #include "core/modules.h"
 
 namespace orvanta {
@@ -12,18 +13,6 @@ namespace {
 
 constexpr std::array<std::int32_t FrmMain::*, 4> keyCounts{
     &FrmMain::keyCountS, &FrmMain::keyCountW, &FrmMain::keyCountO, &FrmMain::keyCountT};
-
-struct AnswerList {
-    TextBox FrmMain::*box;
-    StatementList FrmMain::*list;
-};
-
-constexpr std::array<AnswerList, 4> answerLists{{
-    {&FrmMain::txtStrength, &FrmMain::lvBStrength},
-    {&FrmMain::txtWeakness, &FrmMain::lvBWeakness},
-    {&FrmMain::txtOpportunity, &FrmMain::lvBOpportunity},
-    {&FrmMain::txtThreat, &FrmMain::lvBThreat},
-}};
 
 constexpr std::array<StatementList FrmMain::*, 10> analyzeLists{
     &FrmMain::lvAStrength,   &FrmMain::lvAWeakness,  &FrmMain::lvAOpportunity, &FrmMain::lvAThreat,
@@ -71,9 +60,9 @@ void clearBrainstorm(Program& program) {
     FrmMain& form = program.frmMain;
     form.txtName.setText({});
     for (const Module& module : modules) (form.*module.option).setOn(false);
-    for (const AnswerList& answers : answerLists) {
-        (form.*answers.box).setText({});
-        (form.*answers.list).clear();
+    for (const KindControls& controls : kindControls) {
+        (form.*controls.answerBox).setText({});
+        (form.*controls.brainstormList).clear();
     }
     form.buttons[Button::BNext].label.setCaption("Next>>");
     form.editFlag = false;

@@ -4,6 +4,7 @@
 #include "analyze/mapping.h"
 #include "analyze/statements.h"
 #include "brainstorm/statements.h"
+#include "core/kind_controls.h"
 #include "core/startup.h"
 #include "journal/journal.h"
 #include "presentation/skinned_buttons.h"
@@ -26,21 +27,14 @@ void handle(Program& program, Steps steps) {
     }
 }
 
-struct AnswerBox {
-    TextBox FrmMain::*box;
-    void (*add)(Program&);
-};
-
-constexpr std::array<AnswerBox, 8> answerBoxes{{
-    {&FrmMain::txtStrength, addBrainstormStrength},
-    {&FrmMain::txtWeakness, addBrainstormWeakness},
-    {&FrmMain::txtOpportunity, addBrainstormOpportunity},
-    {&FrmMain::txtThreat, addBrainstormThreat},
-    {&FrmMain::txtAStrength, addAnalyzeStrength},
-    {&FrmMain::txtAWeakness, addAnalyzeWeakness},
-    {&FrmMain::txtAOpportunity, addAnalyzeOpportunity},
-    {&FrmMain::txtAThreat, addAnalyzeThreat},
-}};
+/// Enter in an answer box adds what it holds; elsewhere it does nothing.
+void addAnswerIn(Program& program, const TextBox& box) {
+    FrmMain& form = program.frmMain;
+    for (const KindControls& controls : kindControls) {
+        if (&(form.*controls.answerBox) == &box) addBrainstormStatement(program, controls.kind);
+        if (&(form.*controls.reviewBox) == &box) addAnalyzeStatement(program, controls.kind);
+    }
+}
 
 constexpr char enterKey = 13;
 
@@ -96,10 +90,7 @@ bool characterTyped(Program& program, TextBox& box, char character) {
     FrmMain& form = program.frmMain;
     if (&box == &form.txtName) return isAllowedInName(character);
     if (character != enterKey) return true;
-    handle(program, [&] {
-        for (const AnswerBox& answer : answerBoxes)
-            if (&(form.*answer.box) == &box) answer.add(program);
-    });
+    handle(program, [&] { addAnswerIn(program, box); });
     return true;
 }
 
@@ -113,8 +104,22 @@ void droppedOn(Program& program, StatementList& list, int position) {
         if (isMappingList(form, list)) return mapDroppedStatement(program, list, position);
         if (isPickingList(form, list)) return unmapDroppedRow(program, list);
         for (const RankedList& ranked : rankedLists)
-            if (&(form.*ranked.list) == &list) moveListRow(list, list, position, ranked.keepsSource);
+            if (&(form.*ranked.list) == &list)
+                moveListRow(list, list, position, ranked.keepsSource);
     });
+}
+
+DropTarget dropTargetAt(const Program& program, const StatementList& from,
+                        const StatementList& list, int position) {
+    const FrmMain& form = program.frmMain;
+    if (isMappingList(form, list))
+        return takesMapping(form, list, position) ? DropTarget::Row : DropTarget::Nothing;
+    if (isPickingList(form, list))
+        return takesRowBack(form, list) ? DropTarget::WholeList : DropTarget::Nothing;
+    for (const RankedList& ranked : rankedLists)
+        if (&(form.*ranked.list) == &list && &from == &list && position != 0)
+            return DropTarget::Row;
+    return DropTarget::Nothing;
 }
 
 void hoveredOver(Program& program, StatementList& list, int position) {

@@ -27,6 +27,12 @@ bool characterTyped(Program& program, TextBox& box, char character);
 void draggedOver(Program& program, StatementList& list);
 /// A drag ends on a row of a list.
 void droppedOn(Program& program, StatementList& list, int position);
+/// What a drop would act on: it can light up while a drag is over it.
+enum class DropTarget { Nothing, Row, WholeList };
+/// What takes a drop on a list, at a row or at 0 beside all rows, of what was dragged from
+/// another or the same list.
+DropTarget dropTargetAt(const Program& program, const StatementList& from,
+                        const StatementList& list, int position);
 /// The mouse moves over a list.
 void hoveredOver(Program& program, StatementList& list, int position);
 

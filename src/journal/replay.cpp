@@ -7,6 +7,7 @@
 #include "analyze/mapping_keys.h"
 #include "core/constants.h"
 #include "core/failures.h"
+#include "core/kind_controls.h"
 #include "core/text.h"
 #include "journal/journal.h"
 
@@ -14,46 +15,44 @@ namespace orvanta {
 
 namespace {
 
-using List = StatementList FrmMain::*;
-constexpr List noList = nullptr;
-
-/// Where the records of one tag ending apply.
+/// Where the records of one tag ending, such as "A_S", apply.
 struct Target {
-    std::string_view ending;  // of the tags "ADD_", "DEL_" and "EDIT_"
-    List main;
-    std::array<List, 2> copies;  // rows in step with the main list
+    std::string ending;
+    std::array<ListMember, 3> lists;  // the main list, then those in step with it
     int image;
     bool restoresKey;
-    List parents;                    // holds the rows of the extra field and of equal key
-    bool reachesMappedRows = false;  // an edit goes on to the rows mapped from the statement
+    ListMember parents;      // holds the rows of the extra field and of equal key
+    bool reachesMappedRows;  // an edit goes on to the rows mapped from the statement
 };
 
-constexpr std::array<Target, 8> targets{{
-    {"B_S", &FrmMain::lvBStrength, {noList, noList}, 1, false, noList},
-    {"B_W", &FrmMain::lvBWeakness, {noList, noList}, 2, false, noList},
-    {"B_O", &FrmMain::lvBOpportunity, {noList, noList}, 3, false, noList},
-    {"B_T", &FrmMain::lvBThreat, {noList, noList}, 4, false, noList},
-    {"A_S",
-     &FrmMain::lvAStrength,
-     {&FrmMain::lvStrengthOp, &FrmMain::lvStrengthTh},
-     1,
-     true,
-     noList,
-     true},
-    {"A_W",
-     &FrmMain::lvAWeakness,
-     {&FrmMain::lvWeaknessOp, &FrmMain::lvWeaknessTh},
-     2,
-     true,
-     noList,
-     true},
-    {"A_O", &FrmMain::lvAOpportunity, {noList, noList}, 3, true, &FrmMain::lvOpportunity},
-    {"A_T", &FrmMain::lvAThreat, {noList, noList}, 4, true, &FrmMain::lvThreat},
-}};
+Target brainstormTarget(const KindControls& controls) {
+    return {.ending = std::string("B_") + letterOf(controls.kind),
+            .lists = {controls.brainstormList, noList, noList},
+            .image = imageOf(controls.kind),
+            .restoresKey = false,
+            .parents = noList,
+            .reachesMappedRows = false};
+}
+
+Target analyzeTarget(const KindControls& controls) {
+    return {.ending = std::string("A_") + letterOf(controls.kind),
+            .lists = {controls.analyzeList, controls.pickingLists[0], controls.pickingLists[1]},
+            .image = imageOf(controls.kind),
+            .restoresKey = true,
+            .parents = controls.mappingList,
+            .reachesMappedRows = controls.mappingList == noList};
+}
+
+std::optional<Target> targetOf(std::string_view ending) {
+    for (const KindControls& controls : kindControls)
+        for (const Target& target : {brainstormTarget(controls), analyzeTarget(controls)})
+            if (target.ending == ending) return target;
+    return std::nullopt;
+}
 
 struct MappingTarget {
     std::string_view ending;
-    List list;
+    ListMember list;
     int image;  // of a top row
 };
 
@@ -96,9 +95,7 @@ public:
         if (cut == std::string_view::npos) return;
         const std::string_view operation = m_record.tag.substr(0, cut);
         const std::string_view ending = m_record.tag.substr(cut + 1);
-        if (const auto target = std::ranges::find(targets, ending, &Target::ending);
-            target != targets.end())
-            return runStatement(operation, *target);
+        if (const auto target = targetOf(ending)) return runStatement(operation, *target);
         if (const auto target = std::ranges::find(mappingTargets, ending, &MappingTarget::ending);
             target != mappingTargets.end())
             runMapping(operation, *target);
@@ -118,7 +115,7 @@ private:
 
     template <class Change>
     void inEachList(const Target& target, Change change) {
-        for (const List list : {target.main, target.copies[0], target.copies[1]})
+        for (const ListMember list : target.lists)
             if (list) m_step([&] { change(m_form.*list); });
     }
 
@@ -136,7 +133,7 @@ private:
     }
 
     void removeStatement(const Target& target) {
-        if (standsElsewhere(m_form.*target.main)) return;
+        if (standsElsewhere(m_form.*target.lists.front())) return;
         inEachList(target, [&](StatementList& list) { list.remove(m_record.position()); });
         if (target.parents)
             forEachRemovedRow(
@@ -146,7 +143,7 @@ private:
 
     void editStatement(const Target& target) {
         std::string oldText;
-        m_step([&] { oldText = (m_form.*target.main).row(m_record.position()).text; });
+        m_step([&] { oldText = (m_form.*target.lists.front()).row(m_record.position()).text; });
         const std::string newText(m_record.text);
         inEachList(target,
                    [&](StatementList& list) { list.setText(m_record.position(), newText); });

@@ -2,6 +2,7 @@
 
 #include "core/design_grid.h"
 #include "core/display_scaling.h"
+#include "core/kind_controls.h"
 #include "core/messages.h"
 #include "core/text.h"
 
@@ -9,30 +10,18 @@ namespace orvanta {
 
 namespace {
 
-struct EditedList {
-    std::string_view code;
-    StatementList FrmMain::*list;
-    bool FrmMain::*flag;
-};
+void storeIn(StatementList& list, bool& flag, const std::string& text) {
+    list.setText(list.selected(), text);  // as typed, blanks at its ends included
+    flag = true;                          // also when the text is the same
+}
 
-constexpr std::array<EditedList, 8> editedLists{{
-    {"BS", &FrmMain::lvBStrength, &FrmMain::editFlag},
-    {"BW", &FrmMain::lvBWeakness, &FrmMain::editFlag},
-    {"BO", &FrmMain::lvBOpportunity, &FrmMain::editFlag},
-    {"BT", &FrmMain::lvBThreat, &FrmMain::editFlag},
-    {"AS", &FrmMain::lvAStrength, &FrmMain::editAFlag},
-    {"AW", &FrmMain::lvAWeakness, &FrmMain::editAFlag},
-    {"AO", &FrmMain::lvAOpportunity, &FrmMain::editAFlag},
-    {"AT", &FrmMain::lvAThreat, &FrmMain::editAFlag},
-}};
-
-void store(FrmMain& form, const std::string& code, const std::string& text) {
-    for (const EditedList& edited : editedLists) {
-        if (edited.code != code) continue;
-        StatementList& list = form.*edited.list;
-        list.setText(list.selected(), text);  // as typed, blanks at its ends included
-        form.*edited.flag = true;             // also when the text is the same
-        return;
+/// A code that names no list stores nothing.
+void store(FrmMain& form, std::string_view code, const std::string& text) {
+    if (code.size() != 2) return;
+    for (const KindControls& controls : kindControls) {
+        if (code[1] != letterOf(controls.kind)) continue;
+        if (code[0] == 'B') storeIn(form.*controls.brainstormList, form.editFlag, text);
+        if (code[0] == 'A') storeIn(form.*controls.analyzeList, form.editAFlag, text);
     }
 }
 

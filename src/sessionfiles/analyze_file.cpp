@@ -10,6 +10,7 @@
 #include "analyze/mapping_keys.h"
 #include "core/constants.h"
 #include "core/failures.h"
+#include "core/kind_controls.h"
 #include "core/modules.h"
 #include "core/section_tags.h"
 #include "core/text.h"
@@ -21,30 +22,10 @@ namespace orvanta {
 
 namespace {
 
-using List = StatementList FrmMain::*;
-constexpr List noList = nullptr;
-
-struct StatementSection {
-    Section section;
-    StatementKind kind;
-    std::array<List, 3> lists;  // the first one is written
-};
-
-constexpr std::array<StatementSection, 4> statementSections{{
-    {Section::Strength,
-     StatementKind::Strength,
-     {&FrmMain::lvAStrength, &FrmMain::lvStrengthOp, &FrmMain::lvStrengthTh}},
-    {Section::Weakness,
-     StatementKind::Weakness,
-     {&FrmMain::lvAWeakness, &FrmMain::lvWeaknessOp, &FrmMain::lvWeaknessTh}},
-    {Section::Opportunity, StatementKind::Opportunity, {&FrmMain::lvAOpportunity, noList, noList}},
-    {Section::Threats, StatementKind::Threat, {&FrmMain::lvAThreat, noList, noList}},
-}};
-
 struct MappingSection {
     Section section;
     StatementKind parentKind;
-    List list;
+    ListMember list;
 };
 
 constexpr std::array<MappingSection, 2> mappingSections{{
@@ -119,26 +100,25 @@ private:
         if (section == Section::Module) return chooseModuleByWord(m_form, trimmed);
         const auto fields = rowFieldsFrom(line);
         if (!fields) return;
-        for (const StatementSection& statements : statementSections)
-            if (statements.section == section) addStatement(statements, *fields);
+        if (const KindControls* controls = kindOfSection(section)) addStatement(*controls, *fields);
         for (std::size_t side = 0; side < mappingSections.size(); ++side)
             if (mappingSections[side].section == section)
                 addMappingRow(mappingSections[side], m_topRows[side], *fields);
     }
 
-    void addStatement(const StatementSection& section, const RowFields& fields) {
-        const int image = imageOf(section.kind);
-        for (const List list : section.lists)
-            if (list)
-                (m_form.*list)
-                    .add({.key = std::string(fields.key),
-                          .text = std::string(fields.text),
-                          .image = image,
-                          .largeImage = image,
-                          .subItem = std::string(fields.sourceLabel)});
+    void addStatement(const KindControls& controls, const RowFields& fields) {
+        const Row row{.key = std::string(fields.key),
+                      .text = std::string(fields.text),
+                      .image = imageOf(controls.kind),
+                      .largeImage = imageOf(controls.kind),
+                      .subItem = std::string(fields.sourceLabel)};
+        (m_form.*controls.analyzeList).add(row);
+        // Opportunities and threats have mapping sections of their own.
+        for (const ListMember list : controls.pickingLists)
+            if (list) (m_form.*list).add(row);
         if (fields.key.empty()) return;
         const double number = leadingNumber(fields.key.substr(1));
-        std::int32_t& count = keyCount(m_form, section.kind);
+        std::int32_t& count = keyCount(m_form, controls.kind);
         if (number > count) count = narrowed<std::int32_t>(std::nearbyint(number));
     }
 
@@ -177,8 +157,8 @@ std::string analyzeBytes(const FrmMain& form, bool withStep) {
     SectionWriter writer;
     if (withStep) writer.section(Section::Step, stepOnScreen(form, stepCodes));
     writer.section(Section::Module, chosenModuleWord(form));
-    for (const StatementSection& section : statementSections)
-        writeRows(writer, section.section, form.*section.lists.front());
+    for (const KindControls& controls : kindControls)
+        writeRows(writer, controls.section, form.*controls.analyzeList);
     for (const MappingSection& section : mappingSections)
         writeRows(writer, section.section, form.*section.list);
     return writer.bytes();

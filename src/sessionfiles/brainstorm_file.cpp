@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/failures.h"
+#include "core/kind_controls.h"
 #include "core/modules.h"
 #include "core/section_tags.h"
 #include "core/text.h"
@@ -14,29 +15,16 @@ namespace orvanta {
 
 namespace {
 
-using List = StatementList FrmMain::*;
-
-enum class Escape { None, LessThan };
-
-/// What differs between the four statement sections. Uneven on purpose: on writing only
-/// strengths are escaped, on reading all but threats are unescaped; the format is fixed.
-struct StatementSection {
-    Section section;
-    StatementKind kind;
-    List brainstormList, analyzeList;
-    Escape written, read;
+/// How a kind's statements stand in the file. Uneven on purpose: on writing only strengths are
+/// escaped, on reading all but threats are unescaped; the format is fixed.
+struct Escaping {
+    bool written, read;
 };
 
-constexpr std::array<StatementSection, 4> statementSections{{
-    {Section::Strength, StatementKind::Strength, &FrmMain::lvBStrength, &FrmMain::lvAStrength,
-     Escape::LessThan, Escape::LessThan},
-    {Section::Weakness, StatementKind::Weakness, &FrmMain::lvBWeakness, &FrmMain::lvAWeakness,
-     Escape::None, Escape::LessThan},
-    {Section::Opportunity, StatementKind::Opportunity, &FrmMain::lvBOpportunity,
-     &FrmMain::lvAOpportunity, Escape::None, Escape::LessThan},
-    {Section::Threats, StatementKind::Threat, &FrmMain::lvBThreat, &FrmMain::lvAThreat,
-     Escape::None, Escape::None},
-}};
+constexpr std::array<Escaping, 4> escapings{
+    {{true, true}, {false, true}, {false, true}, {false, false}}};
+
+const Escaping& escapingOf(StatementKind kind) { return escapings[indexOf(kind)]; }
 
 constexpr std::array knownSections{Section::Step,     Section::Name,     Section::Module,
                                    Section::Strength, Section::Weakness, Section::Opportunity,
@@ -49,9 +37,13 @@ constexpr std::array<StepCode, 4> stepCodes{{
     {"TH", &FrmMain::fraThreats},
 }};
 
-std::string writtenText(const StatementSection& section, const Row& row) {
+std::string writtenText(StatementKind kind, const Row& row) {
     const std::string_view text = trimBlanks(row.text);
-    return section.written == Escape::LessThan ? replaceAll(text, "<", "&lt;") : std::string(text);
+    return escapingOf(kind).written ? replaceAll(text, "<", "&lt;") : std::string(text);
+}
+
+std::string readText(StatementKind kind, std::string_view trimmed) {
+    return escapingOf(kind).read ? replaceAll(trimmed, "&lt;", "<") : std::string(trimmed);
 }
 
 class Reading {
@@ -79,21 +71,19 @@ private:
             m_sourceLabel = "[" + std::string(trimmed) + "]: ";
         } else if (section == Section::Module) {
             chooseModuleByWord(m_form, trimmed);
-        } else {
-            for (const StatementSection& statements : statementSections)
-                if (statements.section == section) addRow(statements, trimmed);
+        } else if (const KindControls* controls = kindOfSection(section)) {
+            addRow(*controls, trimmed);
         }
     }
 
-    void addRow(const StatementSection& section, std::string_view trimmed) {
-        Row row{.key = getNextKey(m_program, section.kind),
-                .text = section.read == Escape::LessThan ? replaceAll(trimmed, "&lt;", "<")
-                                                         : std::string(trimmed),
-                .image = imageOf(section.kind),
-                .largeImage = imageOf(section.kind)};
+    void addRow(const KindControls& controls, std::string_view trimmed) {
+        Row row{.key = getNextKey(m_program, controls.kind),
+                .text = readText(controls.kind, trimmed),
+                .image = imageOf(controls.kind),
+                .largeImage = imageOf(controls.kind)};
         if (!m_intoBrainstorm) row.subItem = m_sourceLabel;
-        (m_form.*(m_intoBrainstorm ? section.brainstormList : section.analyzeList))
-            .add(std::move(row));
+        const ListMember list = m_intoBrainstorm ? controls.brainstormList : controls.analyzeList;
+        (m_form.*list).add(std::move(row));
     }
 
     Program& m_program;
@@ -110,12 +100,12 @@ std::string brainstormBytes(const FrmMain& form, bool withStep) {
     if (withStep) writer.section(Section::Step, stepOnScreen(form, stepCodes));
     writer.section(Section::Name, form.txtName.text());
     writer.section(Section::Module, chosenModuleWord(form));
-    for (const StatementSection& section : statementSections) {
-        const StatementList& list = form.*section.brainstormList;
-        writer.open(section.section);
+    for (const KindControls& controls : kindControls) {
+        const StatementList& list = form.*controls.brainstormList;
+        writer.open(controls.section);
         for (int position = 1; position <= list.count(); ++position)
-            writer.line(writtenText(section, list.row(position)));
-        writer.close(section.section);
+            writer.line(writtenText(controls.kind, list.row(position)));
+        writer.close(controls.section);
     }
     return writer.bytes();
 }

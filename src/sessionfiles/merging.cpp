@@ -5,6 +5,7 @@
 
 #include "core/constants.h"
 #include "core/failures.h"
+#include "core/kind_controls.h"
 #include "core/messages.h"
 #include "core/section_tags.h"
 #include "core/text.h"
@@ -18,7 +19,6 @@ namespace {
 // Names and steps of the sources are no part of a merged file.
 constexpr std::array knownSections{Section::Module, Section::Strength, Section::Weakness,
                                    Section::Opportunity, Section::Threats};
-constexpr std::size_t firstStatementSection = 1;
 
 struct Merged {
     std::string moduleWord;
@@ -33,9 +33,7 @@ void takeData(Merged& merged, Section section, std::string_view line) {
     // Statements of blanks only are dropped.
     const std::string_view text = trimBlanks(line);
     if (text.empty()) return;
-    const auto place =
-        static_cast<std::size_t>(section) - static_cast<std::size_t>(Section::Strength);
-    merged.statements[place].emplace_back(text);
+    merged.statements[indexOf(kindOfSection(section)->kind)].emplace_back(text);
 }
 
 void readSource(std::string_view bytes, Merged& merged) {
@@ -52,11 +50,11 @@ void readSource(std::string_view bytes, Merged& merged) {
 std::string bytesOf(const Merged& merged) {
     SectionWriter writer;
     writer.section(Section::Module, merged.moduleWord);
-    for (std::size_t i = 0; i < merged.statements.size(); ++i) {
-        const Section section = knownSections[firstStatementSection + i];
-        writer.open(section);
-        for (const std::string& statement : merged.statements[i]) writer.line(statement);
-        writer.close(section);
+    for (const KindControls& controls : kindControls) {
+        writer.open(controls.section);
+        for (const std::string& statement : merged.statements[indexOf(controls.kind)])
+            writer.line(statement);
+        writer.close(controls.section);
     }
     return writer.bytes();
 }

@@ -1,0 +1,66 @@
+#include "desktop/control_area.h"
+
+#include <cmath>
+
+namespace orvanta::desktop {
+
+namespace {
+
+/// The place of one side of a control: its two edges, each moved by its share of the growth.
+struct Span {
+    int from, length;
+};
+
+Span stretched(double from, double length, double fromShare, double toShare, double growth) {
+    const auto first = std::lround(from + fromShare * growth);
+    const auto last = std::lround(from + length + toShare * growth);
+    return {static_cast<int>(first), static_cast<int>(std::max(0L, last - first))};
+}
+
+}  // namespace
+
+ControlArea::ControlArea(const PixelGrid& pixelGrid, QWidget* parent)
+    : QWidget(parent), m_pixelGrid(pixelGrid) {}
+
+void ControlArea::setDesignSize(Twips width, Twips height) {
+    m_designWidth = width;
+    m_designHeight = height;
+    placeAll();
+}
+
+QSize ControlArea::designSize() const {
+    return {m_pixelGrid.pixels(m_designWidth), m_pixelGrid.pixels(m_designHeight)};
+}
+
+void ControlArea::hold(Control& control, QWidget& widget) {
+    m_held.emplace_back(&control, &widget);
+    control.changed.subscribe([this, &control, &widget] { place(control, widget); });
+    place(control, widget);
+}
+
+void ControlArea::raiseUncovered() {
+    for (const auto& [control, widget] : m_held) {
+        const auto* panel = dynamic_cast<const Panel*>(control);
+        if (!control->coveredBy && !(panel && panel->stack())) widget->raise();
+    }
+}
+
+void ControlArea::resizeEvent(QResizeEvent*) { placeAll(); }
+
+void ControlArea::place(const Control& control, QWidget& widget) const {
+    const auto exact = [this](Twips length) { return m_pixelGrid.exact(length); };
+    const Bounds& bounds = control.bounds();
+    const Stretch& stretch = control.stretch;
+    const QSize growth = size() - designSize();
+    const Span across = stretched(exact(bounds.left), exact(bounds.width), stretch.left,
+                                  stretch.right, growth.width());
+    const Span down = stretched(exact(bounds.top), exact(bounds.height), stretch.top,
+                                stretch.bottom, growth.height());
+    widget.setGeometry(across.from, down.from, across.length, down.length);
+}
+
+void ControlArea::placeAll() const {
+    for (const auto& [control, widget] : m_held) place(*control, *widget);
+}
+
+}  // namespace orvanta::desktop

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QFont>
+#include <QString>
+#include <string>
+#include <string_view>
+
+#include "view/platform.h"
+#include "view/units.h"
+
+namespace orvanta::desktop {
+
+// The edge between the models and Qt.
+
+QString fromCp1252(std::string_view text);
+/// Each character that the code page does not hold becomes one "?".
+std::string toCp1252(const QString& text);
+/// True if the code page holds every character.
+bool fitsCp1252(const QString& text);
+
+/// A caption as a person reads it: "&&" stands for "&", blanks at its ends are left out.
+QString shownCaption(std::string_view caption);
+/// A tool tip that wraps and is never taken for markup.
+QString shownToolTip(std::string_view toolTip);
+
+/// Lengths and type sizes of a layout, in pixels of this screen.
+class PixelGrid {
+public:
+    /// The screen must outlive the grid.
+    explicit PixelGrid(const orvanta::Screen& screen) : m_screen(screen) {}
+
+    double exact(Twips length) const { return length.value / m_screen.twipsPerPixel(); }
+    int pixels(Twips length) const;
+    QFont font(Points size, bool bold = false) const;
+
+private:
+    const orvanta::Screen& m_screen;
+};
+
+}  // namespace orvanta::desktop

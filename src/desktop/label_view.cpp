@@ -1,0 +1,77 @@
+#include "desktop/label_view.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "desktop/theme.h"
+
+namespace orvanta::desktop {
+
+LabelView::LabelView(Label& model, const PixelGrid& pixelGrid, QWidget* parent)
+    : QLabel(parent), m_model(model), m_pixelGrid(pixelGrid) {
+    setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    setWordWrap(true);
+    const auto showModel = [this] {
+        setText(shownCaption(m_model.caption()));
+        fit();
+    };
+    model.changed.subscribe(showModel);
+    showModel();
+}
+
+void LabelView::resizeEvent(QResizeEvent* event) {
+    QLabel::resizeEvent(event);
+    fit();
+}
+
+void LabelView::fit() {
+    constexpr double smallest = 7, step = 0.75;
+    Points size = m_model.fontSize;
+    setFont(m_pixelGrid.font(size, m_model.bold));
+    while (size.value - step >= smallest && heightForWidth(width()) > height()) {
+        size.value -= step;
+        setFont(m_pixelGrid.font(size, m_model.bold));
+    }
+}
+
+LinkView::LinkView(Label& model, Ground ground, const PixelGrid& pixelGrid, QWidget* parent)
+    : QPushButton(parent), m_ground(ground) {
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::TabFocus);
+    setAutoDefault(false);
+    const auto showModel = [this, &model, pixelGrid] {
+        setFont(pixelGrid.font(model.fontSize, model.bold));
+        setText(shownCaption(model.caption()));
+    };
+    model.changed.subscribe(showModel);
+    showModel();
+}
+
+void LinkView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        return QPushButton::keyPressEvent(event);
+    click();
+}
+
+void LinkView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool onCard = m_ground == Ground::Card;
+    if (onCard) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(theme::deepBlue);
+        painter.drawRoundedRect(rect(), 4, 4);
+    }
+    QFont linkFont = font();
+    linkFont.setUnderline(true);
+    painter.setFont(linkFont);
+    painter.setPen(onCard ? theme::paper : theme::deepBlue);
+    const auto alignment = onCard ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter;
+    painter.drawText(rect(), static_cast<int>(alignment), text());
+    if (!hasFocus()) return;
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 3, 3);
+}
+
+}  // namespace orvanta::desktop

@@ -1,0 +1,89 @@
+#include "desktop/skinned_button_view.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <utility>
+
+#include "desktop/art.h"
+#include "desktop/theme.h"
+
+namespace orvanta::desktop {
+
+namespace {
+
+Art pressedArt(Art art) {
+    if (art == Art::SmallNormal) return Art::SmallDown;
+    if (art == Art::LargeNormal) return Art::LargeDown;
+    return art;
+}
+
+}  // namespace
+
+ButtonPictureView::ButtonPictureView(SkinnedButton& model, ButtonActs acts, QWidget* parent)
+    : QPushButton(parent), m_image(model.image), m_acts(std::move(acts)) {
+    setFocusPolicy(Qt::TabFocus);
+    setAutoDefault(false);
+    connect(this, &QPushButton::clicked, [this] {
+        m_acts.press();
+        m_acts.release();
+    });
+    const auto showName = [this, &model] { setAccessibleName(shownCaption(model.label.caption())); };
+    model.label.changed.subscribe(showName);
+    showName();
+    m_image.changed.subscribe([this] { update(); });
+}
+
+void ButtonPictureView::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    m_acts.press();
+}
+
+void ButtonPictureView::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    m_acts.release();
+}
+
+void ButtonPictureView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        return QPushButton::keyPressEvent(event);
+    click();
+}
+
+void ButtonPictureView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    drawPicture(painter, rect(), artName(isDown() ? pressedArt(m_image.art()) : m_image.art()));
+    if (!hasFocus()) return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(theme::paper, 1.5));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(3, 3, -3, -3), 2, 2);
+}
+
+ButtonCaptionView::ButtonCaptionView(SkinnedButton& model, ButtonActs acts,
+                                     const PixelGrid& pixelGrid, QWidget* parent)
+    : QLabel(parent), m_acts(std::move(acts)) {
+    setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignCenter);
+    QPalette white = palette();
+    white.setColor(QPalette::WindowText, theme::paper);
+    setPalette(white);
+    const auto showModel = [this, &label = model.label, pixelGrid] {
+        setFont(pixelGrid.font(label.fontSize, label.bold));
+        setText(shownCaption(label.caption()));
+        setAccessibleName(text());
+    };
+    model.label.changed.subscribe(showModel);
+    showModel();
+}
+
+void ButtonCaptionView::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    m_acts.press();
+}
+
+void ButtonCaptionView::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    m_acts.release();
+}
+
+}  // namespace orvanta::desktop

@@ -1,0 +1,69 @@
+#include "desktop/theme.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+
+#include "desktop/art.h"
+
+namespace orvanta::desktop {
+
+namespace {
+
+QPalette lightPalette() {
+    QPalette palette(theme::sideGround, theme::paper);
+    palette.setColor(QPalette::WindowText, theme::ink);
+    palette.setColor(QPalette::Base, theme::paper);
+    palette.setColor(QPalette::AlternateBase, theme::sideGround);
+    palette.setColor(QPalette::Text, theme::ink);
+    palette.setColor(QPalette::ButtonText, theme::ink);
+    palette.setColor(QPalette::Highlight, theme::deepBlue);
+    palette.setColor(QPalette::HighlightedText, theme::paper);
+    palette.setColor(QPalette::Link, theme::deepBlue);
+    palette.setColor(QPalette::PlaceholderText, theme::quietInk);
+    palette.setColor(QPalette::ToolTipBase, theme::paper);
+    palette.setColor(QPalette::ToolTipText, theme::ink);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, theme::quietInk);
+    return palette;
+}
+
+constexpr auto flatLook = R"(
+QLineEdit { background: #ffffff; border: 1px solid #b9c5de; border-radius: 4px; padding: 0 8px; }
+QLineEdit:focus { border: 2px solid #003399; padding: 0 7px; }
+QListView { background: #ffffff; border: 1px solid #b9c5de; border-radius: 4px; padding: 2px; }
+QListView:focus { border: 1px solid #003399; }
+QPushButton { background: #ffffff; color: #003399; border: 1px solid #b9c5de; border-radius: 4px;
+              padding: 5px 16px; min-height: 18px; }
+QPushButton:hover { background: #f3f6fc; border-color: #003399; }
+QPushButton:pressed { background: #e3ebfb; }
+QPushButton:focus { border: 2px solid #003399; padding: 4px 15px; }
+QPushButton:default { background: #003399; color: #ffffff; border-color: #003399; }
+QPushButton:default:hover { background: #0b409f; }
+QPushButton:default:focus { border: 2px solid #8fb0f0; }
+QPushButton:disabled { color: #8a94a8; background: #f3f6fc; border-color: #e4e9f3; }
+QMessageBox QPushButton { min-width: 72px; }
+QToolTip { background: #ffffff; color: #1b253b; border: 1px solid #b9c5de; padding: 4px; }
+QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
+QScrollBar::handle:vertical { background: #b9c5de; border-radius: 4px; min-height: 32px; margin: 2px; }
+QScrollBar::handle:vertical:hover { background: #8fa3c8; }
+QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; }
+QScrollBar::handle:horizontal { background: #b9c5de; border-radius: 4px; min-width: 32px; margin: 2px; }
+QScrollBar::handle:horizontal:hover { background: #8fa3c8; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+)";
+
+}  // namespace
+
+void dressApplication(QApplication& application) {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(lightPalette());
+    QFont font(QStringList{QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans")});
+    font.setPointSizeF(9);
+    QApplication::setFont(font);
+    application.setStyleSheet(QString::fromLatin1(flatLook));
+    QApplication::setWindowIcon(pictureIcon(QStringLiteral("logo")));
+}
+
+}  // namespace orvanta::desktop
