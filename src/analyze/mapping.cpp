@@ -85,8 +85,8 @@ void removeMappingRow(Program& program, const Side& side) {
         extra = parts[1].starts_with('S') ? "S" : "W";
     else if (hasMappedRows(list, parts.front()))
         return refuseMappedRows(program);
-    pushUserChange(program, side.journalTag, list.selected(), row->key, trimBlanks(row->text),
-                   extra);
+    pushUserChange(program, side.journalTag, recordedPosition(list.selected()), row->key,
+                   trimBlanks(row->text), extra);
     list.remove(list.selected());
     form.editAFlag = true;
 }

@@ -32,9 +32,10 @@ void addStatement(Program& program, const KindControls& kind) {
     const int image = imageOf(kind.kind);
     const Row row{
         .key = getNextKey(program, kind.kind), .text = text, .image = image, .largeImage = image};
+    const std::int16_t position = recordedPosition((form.*kind.analyzeList).count() + 1);
     (form.*kind.analyzeList).add(row);
     forEachCompanion(form, kind, [&](StatementList& list) { list.add(row); });
-    pushUserChange(program, tag("DEL", kind), (form.*kind.analyzeList).count(), row.key, text);
+    pushUserChange(program, tag("DEL", kind), position, row.key, text);
     box.setText({});
     box.giveFocus();
 }
@@ -50,11 +51,11 @@ void carryText(FrmMain& form, const KindControls& kind) {
 void editStatement(Program& program, const KindControls& kind) {
     StatementList& list = program.frmMain.*kind.analyzeList;
     if (!list.selectedRow()) return;
+    const std::int16_t position = recordedPosition(list.selected());
     const std::string oldText = list.selectedRow()->text;
     showEditDialog(program, std::string("A") + letterOf(kind.kind), oldText);
     if (list.selectedRow()->text != oldText)
-        pushUserChange(program, tag("EDIT", kind), list.selected(), list.selectedRow()->key,
-                       oldText);
+        pushUserChange(program, tag("EDIT", kind), position, list.selectedRow()->key, oldText);
     carryText(program.frmMain, kind);
 }
 
@@ -76,7 +77,7 @@ void removePicked(Program& program, const KindControls& kind) {
         if (!row) return;
         // The rows mapped from the statement go with it, unasked and unrecorded.
         for (const ListMember list : mappingLists) removeMappedRows(form.*list, row->key);
-        const int position = main.selected();
+        const std::int16_t position = recordedPosition(main.selected());
         pushUserChange(program, tag("ADD", kind), position, row->key, trimBlanks(row->text));
         for (const ListMember list : kind.pickingLists) (form.*list).remove(position);
         main.remove(position);
@@ -97,8 +98,8 @@ void removeParent(Program& program, const KindControls& kind) {
             removedRows = removedRowEntry(row->key, position);
             mappingList.remove(position);
         }
-        pushUserChange(program, tag("ADD", kind), main.selected(), row->key, trimBlanks(row->text),
-                       removedRows);
+        pushUserChange(program, tag("ADD", kind), recordedPosition(main.selected()), row->key,
+                       trimBlanks(row->text), removedRows);
         main.remove(main.selected());
         form.editAFlag = true;
     });

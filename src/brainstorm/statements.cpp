@@ -19,10 +19,11 @@ void editStatement(Program& program, StatementKind kind) {
     reportingFailures(program.platform.messages, [&] {
         StatementList& list = program.frmMain.*controlsOf(kind).brainstormList;
         if (!list.selectedRow()) return;
+        const std::int16_t position = recordedPosition(list.selected());
         const std::string oldText = list.selectedRow()->text;
         showEditDialog(program, std::string("B") + letterOf(kind), oldText);
         if (list.selectedRow()->text == oldText) return;
-        pushUserChange(program, tag("EDIT", kind), list.selected(), {}, oldText);
+        pushUserChange(program, tag("EDIT", kind), position, {}, oldText);
     });
 }
 
@@ -31,7 +32,7 @@ void removeStatement(Program& program, StatementKind kind) {
     StatementList& list = form.*controlsOf(kind).brainstormList;
     const Row* row = list.selectedRow();
     if (!row) return;
-    const int position = list.selected();
+    const std::int16_t position = recordedPosition(list.selected());
     pushUserChange(program, tag("ADD", kind), position, row->key, trimBlanks(row->text));
     list.remove(position);
     form.editFlag = true;
@@ -52,8 +53,9 @@ void addBrainstormStatement(Program& program, StatementKind kind) {
     }
     form.editFlag = true;
     const std::string key = getNextKey(program, kind);
+    const std::int16_t position = recordedPosition(list.count() + 1);
     list.add({.key = key, .text = text, .image = imageOf(kind), .largeImage = imageOf(kind)});
-    pushUserChange(program, tag("DEL", kind), list.count(), key, text);
+    pushUserChange(program, tag("DEL", kind), position, key, text);
     box.setText({});
     box.giveFocus();
 }

@@ -1,7 +1,6 @@
 #include "core/text.h"
 
 #include <charconv>
-#include <cstdint>
 
 namespace orvanta {
 
@@ -32,7 +31,7 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
 }
 
 std::optional<int> positionFrom(std::string_view text) {
-    std::int16_t value = 0;
+    int value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
     return value;

@@ -45,9 +45,11 @@ void pushJournalRecord(Program& program, bool toUndo, std::string_view tag, std:
     });
 }
 
-void pushUserChange(Program& program, std::string_view tag, int position, std::string_view key,
-                    std::string_view text, std::string_view extra) {
-    pushJournalRecord(program, true, tag, narrowed<std::int16_t>(position), key, text, true, extra);
+std::int16_t recordedPosition(int position) { return narrowed<std::int16_t>(position); }
+
+void pushUserChange(Program& program, std::string_view tag, std::int16_t position,
+                    std::string_view key, std::string_view text, std::string_view extra) {
+    pushJournalRecord(program, true, tag, position, key, text, true, extra);
 }
 
 std::string removedRowEntry(std::string_view key, int position) {

@@ -17,10 +17,13 @@ void pushJournalRecord(Program& program, bool toUndo, std::string_view tag, std:
                        std::string_view key, std::string_view text, bool clearRedo,
                        std::string_view extra);
 
-/// Records a change that a person made. `position` is the row's, from 1. Fails with Overflow
-/// beyond 32,767, nothing recorded.
-void pushUserChange(Program& program, std::string_view tag, int position, std::string_view key,
-                    std::string_view text, std::string_view extra = {});
+/// The position of a row as a record holds it. Fails with Overflow beyond 32,767; ask for it
+/// before the row is touched.
+std::int16_t recordedPosition(int position);
+
+/// Records a change that a person made.
+void pushUserChange(Program& program, std::string_view tag, std::int16_t position,
+                    std::string_view key, std::string_view text, std::string_view extra = {});
 
 /// Undo (true) or redo (false) of the newest record, if there is one. Carries on past failures.
 void replayJournal(Program& program, bool replayDirection);

@@ -1,5 +1,6 @@
 #include "presentation/question_sheets.h"
 
+#include "core/failures.h"
 #include "core/messages.h"
 #include "core/modules.h"
 #include "core/text.h"
@@ -12,7 +13,8 @@ namespace {
 
 QuestionSheets sheetsOf(const Program& program, const Module& module) {
     QuestionBanks banks;  // a copy of its own: the wizard's questions stay as they are
-    loadQuestionBank(program, module.code, banks);
+    const CarryOn step;   // what can be read of a damaged bank is printed all the same
+    step([&] { loadQuestionBank(program, module.code, banks); });
     QuestionSheets sheets{std::string(module.code),
                           replaceAll((program.frmMain.*module.option).caption(), "&&", "&"),
                           {}};

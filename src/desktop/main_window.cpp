@@ -1,0 +1,218 @@
+#include "desktop/main_window.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QIcon>
+#include <QListWidget>
+#include <QPainter>
+#include <QPushButton>
+#include <QTimer>
+#include <algorithm>
+
+#include "desktop/art.h"
+#include "desktop/home_view.h"
+#include "desktop/label_view.h"
+#include "desktop/mirrors.h"
+#include "desktop/text_box_view.h"
+#include "desktop/theme.h"
+
+namespace orvanta::desktop {
+
+namespace {
+
+constexpr int autoSaveMilliseconds = 30'000;
+constexpr double smallestShare = 0.8;  // of the design size
+constexpr int bandHeight = 64, markSize = 40;
+
+/// A panel: an opaque area of its own.
+class PanelView : public ControlArea {
+public:
+    PanelView(Panel& model, ControlArea& parent) : ControlArea(parent.pixelGrid(), &parent) {
+        QPalette white = palette();
+        white.setColor(QPalette::Window, theme::paper);
+        setPalette(white);
+        setAutoFillBackground(true);
+        mirrorControl(model, *this, parent);
+        const auto showSize = [this, &model] { setDesignSize(model.bounds().width, model.bounds().height); };
+        model.changed.subscribe(showSize);
+        showSize();
+        if (!model.stack()) return;
+        model.raised.subscribe([this, &parent] {
+            raise();
+            parent.raiseUncovered();
+        });
+    }
+};
+
+bool isFocusable(const QWidget* widget) { return widget->focusPolicy() & Qt::TabFocus; }
+
+}  // namespace
+
+MainWindow::MainWindow(Program& program, Input input)
+    : ControlArea(PixelGrid(program.platform.screen), nullptr), m_program(program), m_input(input) {
+    FrmMain& form = program.frmMain;
+    setObjectName(QStringLiteral("frmMain"));
+    makePanels();
+    makeButtons();
+    makeOthers();
+    makeListCommands();
+    raiseUncovered();
+    orderTabs();
+    const auto showCaption = [this, &form] { setWindowTitle(fromCp1252(form.caption)); };
+    form.captionChanged.subscribe(showCaption);
+    form.sizeChanged.subscribe([this] { showSize(); });
+    form.shownChanged.subscribe([this] { showShown(); });
+    showCaption();
+    showSize();
+    if (input == Input::Person) startTimer(autoSaveMilliseconds);
+}
+
+ControlArea& MainWindow::areaOf(const Control& control) {
+    return control.container ? *m_panels.at(control.container) : *this;
+}
+
+void MainWindow::makePanels() {
+    new HomeView(m_program.frmMain.fraBrainstorm, *this);
+    for (Control* control : m_program.frmMain.controls.all())
+        if (auto* panel = dynamic_cast<Panel*>(control)) {
+            m_panels[panel] = new PanelView(*panel, areaOf(*panel));
+            panel->changed.subscribe([this] { screenMayDiffer(); });
+        }
+}
+
+void MainWindow::makeButtons() {
+    for (std::size_t i = 0; i < buttonCount; ++i) {
+        const auto button = static_cast<Button>(i);
+        SkinnedButton& model = m_program.frmMain.buttons[button];
+        makeSkinnedButton(model, areaOf(model.image),
+                          {[this, button] { buttonPressed(m_program, button); },
+                           [this, button] { buttonReleased(m_program, button); }});
+    }
+}
+
+void MainWindow::makeOthers() {
+    FrmMain& form = m_program.frmMain;
+    makeCheckBox(form.chkMute, *this, [this](bool on) { muteClicked(m_program, on); });
+    QPushButton* undo = makePushButton(form.cmdUndo, *this, [this] { undoClicked(m_program); });
+    undo->setIcon(pictureIcon(QStringLiteral("undo")));
+    QPushButton* redo = makePushButton(form.cmdRedo, *this, [this] { redoClicked(m_program); });
+    redo->setIcon(pictureIcon(QStringLiteral("redo")));
+    auto* distribute = new LinkView(form.lblDistribute, LinkView::Ground::Card, pixelGrid(),
+                                    &areaOf(form.lblDistribute));
+    connect(distribute, &QPushButton::clicked, [this] { distributeClicked(m_program); });
+    mirrorControl(form.lblDistribute, *distribute, areaOf(form.lblDistribute));
+    makeListBox(form.lstFiles, areaOf(form.lstFiles));
+
+    for (Control* control : form.controls.all()) {
+        ControlArea& area = areaOf(*control);
+        if (area.findChild<QWidget*>(fromCp1252(control->name()), Qt::FindDirectChildrenOnly)) continue;
+        if (auto* list = dynamic_cast<StatementList*>(control)) {
+            mirrorControl(*list, *new StatementListView(m_program, *list, m_input, &area), area);
+        } else if (auto* box = dynamic_cast<TextBox*>(control)) {
+            auto* view = new TextBoxView(
+                *box, [this, box](char character) { return characterTyped(m_program, *box, character); },
+                &area);
+            mirrorControl(*box, *view, area);
+        } else if (auto* option = dynamic_cast<Option*>(control)) {
+            makeOption(*option, area);
+        } else if (auto* label = dynamic_cast<Label*>(control)) {
+            mirrorControl(*label, *new LabelView(*label, pixelGrid(), &area), area);
+        } else if (dynamic_cast<Image*>(control)) {
+            mirrorControl(*control, *new QWidget(&area), area);  // only holds the art of others
+        }
+    }
+}
+
+/// Commands that have no button of their own are in the lists' menus.
+void MainWindow::makeListCommands() {
+    struct Command {
+        Control& list;
+        const char* caption;
+        void (*chosen)(Program&);
+    };
+    FrmMain& form = m_program.frmMain;
+    const Command commands[] = {
+        {form.lstFiles, "Merge Brainstorm Files...", mergeChosen},
+        {form.lvOpportunity, "Remove", removeOpportunityMappingChosen},
+        {form.lvThreat, "Remove", removeThreatMappingChosen},
+    };
+    for (const Command& command : commands) {
+        auto* list = findChild<QWidget*>(fromCp1252(command.list.name()));
+        auto* action = new QAction(QLatin1String(command.caption), list);
+        connect(action, &QAction::triggered, [this, chosen = command.chosen] { chosen(m_program); });
+        list->addAction(action);
+        list->setContextMenuPolicy(Qt::ActionsContextMenu);
+    }
+}
+
+/// Tab goes as the eye does: the column at the left, then each panel row by row.
+void MainWindow::orderTabs() {
+    std::vector<QWidget*> stops;
+    for (QWidget* widget : findChildren<QWidget*>())
+        if (isFocusable(widget) && !widget->objectName().isEmpty()) stops.push_back(widget);
+    std::ranges::stable_sort(stops, {}, [this](const QWidget* widget) {
+        const QPoint place = widget->mapTo(this, QPoint());
+        const bool inColumn = widget->parentWidget() == this;
+        return std::tuple(!inColumn, place.y(), place.x());
+    });
+    for (std::size_t i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
+}
+
+void MainWindow::showSize() {
+    const FrmMain& form = m_program.frmMain;
+    setDesignSize(form.width, form.height);
+    setMinimumSize(designSize() * smallestShare);
+    resize(designSize());
+}
+
+void MainWindow::showShown() {
+    setVisible(m_program.frmMain.shown);
+    if (m_input == Input::Person) windowActivated(m_program);
+}
+
+void MainWindow::screenMayDiffer() {
+    if (std::exchange(m_focusPending, true)) return;
+    QTimer::singleShot(0, this, [this] { focusScreen(); });
+}
+
+/// The screen that a person works on; null for none.
+const Panel* MainWindow::screen() const {
+    const FrmMain& form = m_program.frmMain;
+    const Panel* module = form.moduleScreens.top();
+    if (!module) return nullptr;
+    const PanelStack& steps = module == &form.fraBrainstorm ? form.brainstormSteps : form.analyzeSteps;
+    return steps.top() ? steps.top() : module;
+}
+
+/// A new screen gets the keyboard in its text box, else in its first list.
+void MainWindow::focusScreen() {
+    m_focusPending = false;
+    const Panel* shown = screen();
+    if (std::exchange(m_focusedScreen, shown) == shown || !shown) return;
+    const auto& controls = m_program.frmMain.controls.all();
+    for (const ControlKind kind : {ControlKind::TextBox, ControlKind::List})
+        for (const Control* control : controls)
+            if (control->kind() == kind && control->container == shown)
+                return findChild<QWidget*>(fromCp1252(control->name()))->setFocus();
+}
+
+bool MainWindow::event(QEvent* event) {
+    const bool counts = m_input == Input::Person || !event->spontaneous();
+    if (event->type() == QEvent::WindowActivate && counts) windowActivated(m_program);
+    return ControlArea::event(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(windowClosing(m_program)); }
+
+void MainWindow::timerEvent(QTimerEvent*) { autoSaveTicked(m_program); }
+
+void MainWindow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), theme::sideGround);
+    const QRect band(0, 0, width(), bandHeight);
+    drawPicture(painter, band, QStringLiteral("banner_fill"));
+    drawPicture(painter, QRect(width() - 320, 0, 320, bandHeight), QStringLiteral("banner_pattern"));
+    drawPicture(painter, QRect(20, (bandHeight - 32) / 2, 160, 32), QStringLiteral("wordmark"));
+}
+
+}  // namespace orvanta::desktop

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <unordered_map>
+
+#include "core/session_state.h"
+#include "desktop/control_area.h"
+#include "desktop/statement_list_view.h"
+
+namespace orvanta::desktop {
+
+/// frmMain as a person sees it: every control of the model as a widget of the same name.
+class MainWindow : public ControlArea {
+public:
+    /// The program must outlive the window's use. Under Input::Driver neither real mouse
+    /// moves nor real activation nor the clock reach the program.
+    MainWindow(Program& program, Input input);
+
+protected:
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void makePanels();
+    void makeButtons();
+    void makeOthers();
+    void makeListCommands();
+    void orderTabs();
+    ControlArea& areaOf(const Control& control);
+
+    void showSize();
+    void showShown();
+    void screenMayDiffer();
+    void focusScreen();
+    const Panel* screen() const;
+
+    Program& m_program;
+    Input m_input;
+    std::unordered_map<const Panel*, ControlArea*> m_panels;
+    const Panel* m_focusedScreen = nullptr;
+    bool m_focusPending = false;
+};
+
+}  // namespace orvanta::desktop

@@ -1,0 +1,128 @@
+#include "desktop/mirrors.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <utility>
+
+namespace orvanta::desktop {
+
+namespace {
+
+/// Shows a model now and after each change.
+template <class Show>
+void follow(Control& model, Show show) {
+    model.changed.subscribe(show);
+    show();
+}
+
+void showFiles(const ListBox& model, QListWidget& widget) {
+    const QSignalBlocker silence(widget);
+    widget.clear();
+    for (const std::string& path : model.items()) {
+        auto* item = new QListWidgetItem(fromCp1252(path), &widget);
+        item->setToolTip(shownToolTip(path));
+    }
+    widget.setCurrentRow(model.selectedIndex());
+}
+
+}  // namespace
+
+void mirrorControl(Control& model, QWidget& widget, ControlArea& area) {
+    widget.setObjectName(fromCp1252(model.name()));
+    area.hold(model, widget);
+    follow(model, [&model, &widget] {
+        widget.setVisible(model.isVisible());
+        widget.setEnabled(model.isEnabled());
+        widget.setToolTip(shownToolTip(model.toolTip()));
+        widget.setAccessibleDescription(fromCp1252(model.toolTip()));
+        if (!model.accessibleName.empty()) widget.setAccessibleName(fromCp1252(model.accessibleName));
+    });
+    model.focusGiven.subscribe([&widget] { widget.setFocus(); });
+}
+
+QRadioButton* makeOption(Option& model, ControlArea& area) {
+    auto* widget = new QRadioButton(&area);
+    const auto show = [&model, widget, &area] {
+        const QSignalBlocker silence(widget);
+        widget->setFont(area.pixelGrid().font(model.fontSize));
+        widget->setText(fromCp1252(model.caption()));
+        widget->setAccessibleName(shownCaption(model.caption()));
+        widget->setAutoExclusive(false);  // else the last one on can't be turned off
+        widget->setChecked(model.isOn());
+        widget->setAutoExclusive(true);
+    };
+    follow(model, show);
+    QObject::connect(widget, &QRadioButton::clicked, widget, [&model, show] {
+        model.setOn(true);
+        show();
+    });
+    mirrorControl(model, *widget, area);
+    return widget;
+}
+
+QCheckBox* makeCheckBox(CheckBox& model, ControlArea& area, std::function<void(bool)> clicked) {
+    auto* widget = new QCheckBox(&area);
+    widget->setText(fromCp1252(model.caption()));
+    widget->setAccessibleName(shownCaption(model.caption()));
+    const auto show = [&model, widget, &area] {
+        const QSignalBlocker silence(widget);
+        widget->setFont(area.pixelGrid().font(model.fontSize));
+        widget->setChecked(model.isOn());
+    };
+    follow(model, show);
+    QObject::connect(widget, &QCheckBox::clicked, widget, [clicked = std::move(clicked), show](bool on) {
+        clicked(on);
+        show();
+    });
+    mirrorControl(model, *widget, area);
+    return widget;
+}
+
+QPushButton* makePushButton(PushButton& model, ControlArea& area, std::function<void()> clicked) {
+    auto* widget = new QPushButton(fromCp1252(model.caption()), &area);
+    widget->setAutoDefault(false);
+    widget->setAccessibleName(shownCaption(model.caption()));
+    follow(model, [&model, widget, &area] { widget->setFont(area.pixelGrid().font(model.fontSize)); });
+    QObject::connect(widget, &QPushButton::clicked, widget, std::move(clicked));
+    mirrorControl(model, *widget, area);
+    return widget;
+}
+
+QComboBox* makeComboBox(ComboBox& model, ControlArea& area) {
+    auto* widget = new QComboBox(&area);
+    follow(model, [&model, widget, &area] {
+        const QSignalBlocker silence(widget);
+        widget->setFont(area.pixelGrid().font(model.fontSize));
+        for (auto i = static_cast<std::size_t>(widget->count()); i < model.items().size(); ++i)
+            widget->addItem(fromCp1252(model.items()[i]));
+        widget->setCurrentIndex(model.selectedIndex());
+    });
+    QObject::connect(widget, &QComboBox::currentIndexChanged, widget,
+                     [&model](int index) { model.setSelectedIndex(index); });
+    mirrorControl(model, *widget, area);
+    return widget;
+}
+
+QListWidget* makeListBox(ListBox& model, ControlArea& area) {
+    auto* widget = new QListWidget(&area);
+    widget->setTextElideMode(Qt::ElideMiddle);
+    widget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    follow(model, [&model, widget] { showFiles(model, *widget); });
+    QObject::connect(widget, &QListWidget::itemSelectionChanged, widget, [&model, widget] {
+        const auto chosen = widget->selectedItems();
+        model.setSelectedIndex(chosen.isEmpty() ? -1 : widget->row(chosen.front()));
+    });
+    mirrorControl(model, *widget, area);
+    return widget;
+}
+
+void makeSkinnedButton(SkinnedButton& model, ControlArea& area, const ButtonActs& acts) {
+    mirrorControl(model.image, *new ButtonPictureView(model, acts, &area), area);
+    mirrorControl(model.label, *new ButtonCaptionView(model, acts, area.pixelGrid(), &area), area);
+}
+
+}  // namespace orvanta::desktop

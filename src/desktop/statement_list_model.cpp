@@ -1,0 +1,89 @@
+#include "desktop/statement_list_model.h"
+
+#include <array>
+
+#include "desktop/art.h"
+#include "desktop/conversions.h"
+
+namespace orvanta::desktop {
+
+namespace {
+
+/// What a picture says to those who do not see it.
+QString kindName(int image) {
+    static constexpr std::array<const char*, 5> names{"", "Strength", "Weakness", "Opportunity",
+                                                      "Threat"};
+    return QLatin1String(names[image >= 1 && image <= 4 ? static_cast<std::size_t>(image) : 0]);
+}
+
+}  // namespace
+
+StatementListModel::StatementListModel(StatementList& list, QObject* parent)
+    : QAbstractListModel(parent), selectionMayDiffer([] {}), rowCameIn([](int) {}), m_list(list) {
+    list.watch(*this);
+}
+
+int StatementListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : m_list.count();
+}
+
+QVariant StatementListModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid() || index.row() >= m_list.count()) return {};
+    const Row& row = m_list.row(index.row() + 1);
+    switch (role) {
+        case Qt::DisplayRole:
+            return fromCp1252(row.text);
+        case Qt::DecorationRole:
+            return rowIcon(row.image);
+        case Qt::AccessibleDescriptionRole:
+            return QString(kindName(row.image) + u' ' + fromCp1252(row.subItem)).trimmed();
+        default:
+            return {};
+    }
+}
+
+Qt::ItemFlags StatementListModel::flags(const QModelIndex& index) const {
+    if (!index.isValid()) return Qt::ItemIsDropEnabled;
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled |
+           Qt::ItemNeverHasChildren;
+}
+
+void StatementListModel::rowAboutToBeInserted(int position) {
+    m_changing = true;
+    beginInsertRows({}, position - 1, position - 1);
+}
+
+void StatementListModel::rowInserted(int position) {
+    endInsertRows();
+    m_changing = false;
+    rowCameIn(position);
+}
+
+void StatementListModel::rowAboutToBeRemoved(int position) {
+    m_changing = true;
+    beginRemoveRows({}, position - 1, position - 1);
+}
+
+void StatementListModel::rowRemoved(int) {
+    endRemoveRows();
+    m_changing = false;
+    selectionMayDiffer();
+}
+
+void StatementListModel::rowChanged(int position) {
+    const QModelIndex changed = index(position - 1);
+    emit dataChanged(changed, changed);
+}
+
+void StatementListModel::aboutToBeCleared() {
+    m_changing = true;
+    beginResetModel();
+}
+
+void StatementListModel::cleared() {
+    endResetModel();
+    m_changing = false;
+    selectionMayDiffer();
+}
+
+}  // namespace orvanta::desktop

@@ -1,0 +1,171 @@
+#include "desktop/statement_list_view.h"
+
+#include <QDrag>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QTimer>
+#include <QToolTip>
+
+#include "desktop/statement_row_painter.h"
+#include "desktop/theme.h"
+
+namespace orvanta::desktop {
+
+namespace {
+
+/// The drag of a statement; null for whatever else may be dragged here.
+const StatementDrag* statementDragIn(const QDropEvent& event) {
+    return dynamic_cast<const StatementDrag*>(event.mimeData());
+}
+
+}  // namespace
+
+void StatementDrag::dropOn(StatementList& list, int position) const {
+    m_target = &list;
+    m_position = position;
+}
+
+void StatementDrag::finish(Program& program) const {
+    if (m_target) droppedOn(program, *m_target, m_position);
+}
+
+StatementListView::StatementListView(Program& program, StatementList& list, Input input, QWidget* parent)
+    : QListView(parent), m_program(program), m_list(list), m_input(input), m_model(list) {
+    setModel(&m_model);
+    setItemDelegate(new StatementRowPainter(list, *this));
+    setUniformItemSizes(true);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(ScrollPerPixel);
+    setDragDropMode(DragDrop);
+    setMouseTracking(true);
+    m_model.selectionMayDiffer = [this] { showSelection(); };
+    m_model.rowCameIn = [this](int position) {
+        m_lastCameIn = position;
+        if (m_rowsCameIn++ == 0) QTimer::singleShot(0, this, [this] { reveal(); });
+    };
+    showSelection();
+}
+
+void StatementListView::showSelection() {
+    if (m_model.isChanging()) return;
+    m_showing = true;
+    const QModelIndex index = indexAtPosition(m_list.selected());
+    if (index.isValid())
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+    else
+        selectionModel()->clear();
+    m_showing = false;
+}
+
+/// Brings a row that a person has just added into view. A list that was filled stays at its top.
+void StatementListView::reveal() {
+    if (m_rowsCameIn == 1) scrollTo(indexAtPosition(m_lastCameIn));
+    m_rowsCameIn = 0;
+}
+
+void StatementListView::selectionChanged(const QItemSelection& selected,
+                                         const QItemSelection& deselected) {
+    QListView::selectionChanged(selected, deselected);
+    if (m_showing || m_model.isChanging()) return;
+    const QModelIndexList chosen = selectionModel()->selectedIndexes();
+    m_list.select(chosen.isEmpty() ? 0 : chosen.front().row() + 1);
+}
+
+void StatementListView::mouseMoveEvent(QMouseEvent* event) {
+    if (m_input == Input::Driver && event->spontaneous()) return;
+    hoveredOver(m_program, m_list, positionAt(event->position().toPoint()));
+    QListView::mouseMoveEvent(event);
+}
+
+bool StatementListView::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QListView::viewportEvent(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTip(), viewport());
+    return true;
+}
+
+void StatementListView::startDrag(Qt::DropActions) {
+    const Row* row = m_list.selectedRow();
+    if (!row) return;
+    auto* load = new StatementDrag(m_list);
+    auto* drag = new QDrag(this);
+    drag->setMimeData(load);
+    const QPixmap card = dragCard(*row, font(), devicePixelRatioF());
+    drag->setPixmap(card);
+    drag->setHotSpot({-14, -6});  // the card leaves the row below the pointer in sight
+    drag->exec(Qt::MoveAction);
+    load->finish(m_program);
+}
+
+void StatementListView::dragEnterEvent(QDragEnterEvent* event) { passOver(*event); }
+void StatementListView::dragMoveEvent(QDragMoveEvent* event) { passOver(*event); }
+
+void StatementListView::passOver(QDragMoveEvent& event) {
+    const StatementDrag* drag = statementDragIn(event);
+    if (!drag) return event.ignore();
+    draggedOver(m_program, m_list);
+    const QPoint point = event.position().toPoint();
+    const int row = positionAt(point);
+    lightUp(dropTargetAt(m_program, drag->from(), m_list, row), row);
+    scrollAtEdge(point);
+    event.setDropAction(Qt::MoveAction);
+    // The whole list is asked again and again while the pointer moves within it.
+    event.setAccepted(m_target != DropTarget::Nothing || event.type() == QEvent::DragEnter);
+}
+
+void StatementListView::dragLeaveEvent(QDragLeaveEvent*) {
+    m_edgeTimer.stop();
+    lightUp(DropTarget::Nothing, 0);
+}
+
+void StatementListView::dropEvent(QDropEvent* event) {
+    m_edgeTimer.stop();
+    lightUp(DropTarget::Nothing, 0);
+    const StatementDrag* drag = statementDragIn(*event);
+    if (!drag) return event->ignore();
+    drag->dropOn(m_list, positionAt(event->position().toPoint()));
+    event->setDropAction(Qt::MoveAction);
+    event->accept();
+}
+
+void StatementListView::lightUp(DropTarget target, int row) {
+    if (target == m_target && row == m_targetRow) return;
+    m_target = target;
+    m_targetRow = row;
+    viewport()->update();
+}
+
+/// Scrolls on while a drag rests at the upper or lower edge.
+void StatementListView::scrollAtEdge(const QPoint& point) {
+    constexpr int edge = 20, step = 8, milliseconds = 30;
+    if (m_input == Input::Driver) return;
+    m_edgeStep = 0;
+    if (point.y() < edge) m_edgeStep = -step;
+    if (point.y() > viewport()->height() - edge) m_edgeStep = step;
+    if (m_edgeStep == 0)
+        m_edgeTimer.stop();
+    else if (!m_edgeTimer.isActive())
+        m_edgeTimer.start(milliseconds, this);
+}
+
+void StatementListView::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != m_edgeTimer.timerId()) return QListView::timerEvent(event);
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + m_edgeStep);
+}
+
+void StatementListView::paintEvent(QPaintEvent* event) {
+    QListView::paintEvent(event);
+    if (m_target != DropTarget::WholeList) return;
+    QPainter painter(viewport());
+    painter.setRenderHint(QPainter::Antialiasing);
+    QColor veil = theme::dropGround;
+    veil.setAlpha(110);
+    painter.setBrush(veil);
+    painter.setPen(QPen(theme::deepBlue, 2));
+    painter.drawRoundedRect(QRectF(viewport()->rect()).adjusted(1, 1, -1, -1), 4, 4);
+}
+
+}  // namespace orvanta::desktop

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QPixmap>
+#include <QStyledItemDelegate>
+
+#include "view/statement_list.h"
+
+namespace orvanta::desktop {
+
+class StatementListView;
+
+/// Draws the rows of a statement list, all of one height.
+class StatementRowPainter : public QStyledItemDelegate {
+public:
+    StatementRowPainter(const StatementList& list, StatementListView& view);
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+
+private:
+    const StatementList& m_list;
+    const StatementListView& m_view;
+};
+
+/// The small card that hangs at the pointer while a row is dragged.
+QPixmap dragCard(const Row& row, const QFont& font, qreal pixelRatio);
+
+}  // namespace orvanta::desktop
