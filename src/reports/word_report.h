@@ -6,8 +6,9 @@
 
 namespace orvanta {
 
-/// Has a word processor write the document of an analysis under the target name. What fails in
-/// there is not told.
+/// Builds the document of an analysis, both correlation tables and the four plain lists, through
+/// a word processor and saves it under the target name. Carries on past every failing operation
+/// and tells of none; where there is no word processor nothing is saved.
 void generateWordReport(Program& program, const std::string& analyzeFile,
                         const std::string& targetFile);
 

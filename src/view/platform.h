@@ -129,13 +129,7 @@ public:
     virtual void print(const QuestionSheets& sheets) = 0;
 };
 
-class WordProcessors {
-public:
-    virtual ~WordProcessors() = default;
-    /// Writes the document of an analysis under the target name. Where there is no word
-    /// processor nothing is written and nothing is said.
-    virtual void writeReport(const std::string& analyzeFile, const std::string& targetFile) = 0;
-};
+class WordProcessors;  // in reports/, with the object model that it opens
 
 /// The run of the program itself.
 class Lifetime {

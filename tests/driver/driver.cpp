@@ -50,6 +50,7 @@ const Json& stepsIn(const Json& line) {
 
 EditStep editStepFrom(const Json& step) {
     if (step.contains("text")) return {EditStep::Act::Text, singleLineFrom(stringIn(step, "text"))};
+    if (step.contains("picture")) return {EditStep::Act::Picture, stringIn(step, "picture")};
     const std::string press = stringIn(step, "press");
     if (press == "ok") return {EditStep::Act::Ok};
     if (press == "cancel") return {EditStep::Act::Cancel};
@@ -60,6 +61,7 @@ EditStep editStepFrom(const Json& step) {
 ReportStep reportStepFrom(const Json& step) {
     if (step.contains("text"))
         return {ReportStep::Act::Text, 0, singleLineFrom(stringIn(step, "text"))};
+    if (step.contains("picture")) return {ReportStep::Act::Picture, 0, stringIn(step, "picture")};
     if (step.contains("format")) {
         const int format = integerIn(step, "format");
         if (format != 0 && format != 1) throw Refused("no such format");
@@ -93,8 +95,9 @@ Driver::Driver(Stage& stage, Disk& disk, const Folders& folders)
       m_settings(m_log, utf8From1252(folders.settings)),
       m_forms(m_log, m_answers, stage),
       m_world(m_log, folders.documents),
-      m_platform{disk,    m_messages, m_fileDialogs, m_settings, m_world, m_world,
-                 m_world, m_forms,    m_world,       m_world,    m_world, m_world},
+      m_wordProcessors(disk),
+      m_platform{disk,    m_messages, m_fileDialogs, m_settings,       m_world, m_world,
+                 m_world, m_forms,    m_world,       m_wordProcessors, m_world, m_world},
       m_program(m_platform, folders.app, folders.app) {
     watchMainWindow();
 }

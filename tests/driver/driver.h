@@ -5,6 +5,7 @@
 #include <string>
 
 #include "driver_platform.h"
+#include "reports/document_writer.h"
 
 namespace orvanta::driver {
 
@@ -69,6 +70,7 @@ private:
     RecordedSettings m_settings;
     RecordedForms m_forms;
     RecordedWorld m_world;
+    DocumentWriter m_wordProcessors;
     Platform m_platform;
     Program m_program;
     std::array<Art, buttonCount> m_artSeen{};

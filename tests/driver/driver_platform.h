@@ -79,8 +79,7 @@ class RecordedWorld : public Shell,
                       public QuestionPrinter,
                       public Screen,
                       public Folders,
-                      public Lifetime,
-                      public WordProcessors {
+                      public Lifetime {
 public:
     RecordedWorld(EventLog& log, std::string documents)
         : m_log(log), m_documents(std::move(documents)) {}
@@ -93,7 +92,6 @@ public:
     std::string documents() const override { return m_documents; }
     void end() override;
     void reportUnhandled(const Failure& failure) override;
-    void writeReport(const std::string&, const std::string&) override {}
 
     void setTwipsPerPixel(double value) { m_twipsPerPixel = value; }
     bool hasEnded() const { return m_ended; }

@@ -92,6 +92,8 @@ private:
             case EditStep::Act::Enter:
                 commitEdit(*m_program, form);
                 break;
+            case EditStep::Act::Picture:
+                break;
         }
     }
 
@@ -111,6 +113,8 @@ private:
                 break;
             case ReportStep::Act::Cancel:
                 closeReportDialog(form);
+                break;
+            case ReportStep::Act::Picture:
                 break;
         }
     }

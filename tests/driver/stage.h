@@ -15,15 +15,17 @@ namespace orvanta::driver {
 
 /// One thing that a person does in the Edit Statement dialog.
 struct EditStep {
-    enum class Act { Text, Ok, Cancel, Enter } act;
-    std::string text{};  // for Text: what replaces the box's text, cut to what the box takes
+    enum class Act { Text, Ok, Cancel, Enter, Picture } act;
+    // For Text: what replaces the box's text, cut to what the box takes. For Picture: the path
+    // (UTF-8) of the picture that is taken of the dialog; without a window none is.
+    std::string text{};
 };
 
 /// One thing that a person does in the report dialog.
 struct ReportStep {
-    enum class Act { Format, Text, Browse, Ok, Cancel } act;
+    enum class Act { Format, Text, Browse, Ok, Cancel, Picture } act;
     int format = 0;      // for Format: the index of the item
-    std::string text{};  // for Text
+    std::string text{};  // for Text; for Picture: as in an EditStep
 };
 
 /// Where the program is played: behind the toolkit-free view, or in the real window. What a
