@@ -47,7 +47,7 @@ void placeHeld(SkinnedButton& button, Panel& holder, Panel& container, Bounds bo
 void placeTopLevel(FrmMain& form) {
     constexpr Button column[] = {Button::Overview, Button::Brainstorm, Button::Analyze,
                                  Button::Report,   Button::About,      Button::Quit};
-    double top = 88;
+    double top = 80;
     for (const Button button : column) {
         placeButton(form.buttons[button], nullptr, grid(16, top, largeWidth, largeHeight));
         top += 48;
@@ -70,9 +70,9 @@ void placeTopLevel(FrmMain& form) {
     form.imgBtnLDown.setArt(Art::LargeDown);
 }
 
-constexpr Bounds moduleArea = grid(200, 72, 760, 568);
-constexpr Bounds stepArea = grid(0, 0, 760, 508);
-constexpr double buttonRow = 520;
+constexpr Bounds moduleArea = grid(200, 64, 760, 576);
+constexpr Bounds stepArea = grid(0, 0, 760, 516);
+constexpr double buttonRow = 524;
 
 void placeWizardButtons(FrmMain& form) {
     const Stretch left = atBottom, right = atBottomRight;
@@ -96,7 +96,8 @@ void placeModuleChoice(FrmMain& form) {
     Panel& panel = form.fraBrainstorm;
     place(form.lblName, &panel, grid(24, 20, 400, 20));
     form.lblName.bold = true;
-    place(form.txtName, &panel, grid(24, 44, 480, 30), wide);
+    place(form.txtName, &panel, grid(24, 44, 480, 32), wide);
+    form.txtName.accessibleName = form.lblName.caption();
     place(form.lblModules, &panel, grid(24, 100, 480, 20), wide);
     form.lblModules.bold = true;
     place(form.lblSelectModule, &panel, grid(24, 124, 480, 40), wide);
@@ -152,14 +153,14 @@ constexpr double listWidth = 608, sideButtons = 648;
 void placeListScreen(FrmMain& form, const ListScreen& screen) {
     Panel& panel = form.*screen.panel;
     Label& heading = form.*screen.heading;
-    place(heading, &panel, grid(24, 16, 712, 72), wide);
+    place(heading, &panel, grid(24, 20, 712, 56), wide);
     heading.fontSize = {11.25};
     heading.bold = true;
-    place(form.*screen.box, &panel, grid(24, 96, listWidth, 32), wide);
-    placeSmall(form.buttons[screen.add], panel, sideButtons, 96, atRight);
-    place(form.*screen.list, &panel, grid(24, 144, listWidth, 356), whole);
-    placeSmall(form.buttons[screen.edit], panel, sideButtons, 144, atRight);
-    placeSmall(form.buttons[screen.remove], panel, sideButtons, 184, atRight);
+    place(form.*screen.box, &panel, grid(24, 88, listWidth, 32), wide);
+    placeSmall(form.buttons[screen.add], panel, sideButtons, 88, atRight);
+    place(form.*screen.list, &panel, grid(24, 136, listWidth, 372), whole);
+    placeSmall(form.buttons[screen.edit], panel, sideButtons, 136, atRight);
+    placeSmall(form.buttons[screen.remove], panel, sideButtons, 176, atRight);
     (form.*screen.box).accessibleName = "New " + std::string(screen.kind);
     (form.*screen.list).accessibleName = std::string(screen.kind) + " list";
 }
@@ -192,15 +193,15 @@ void placeHeadedList(Label& heading, StatementList& list, Panel& panel, Bounds a
 void placeMappingScreen(FrmMain& form, const MappingScreen& screen) {
     Panel& panel = form.*screen.panel;
     Label& instruction = form.*screen.instruction;
-    place(instruction, &panel, grid(24, 16, 712, 72), wide);
+    place(instruction, &panel, grid(24, 20, 712, 56), wide);
     instruction.fontSize = {11.25};
     instruction.bold = true;
-    placeHeadedList(form.*screen.parents, form.*screen.parentList, panel, grid(24, 96, 396, 404),
+    placeHeadedList(form.*screen.parents, form.*screen.parentList, panel, grid(24, 88, 396, 420),
                     {0, 0, 0.5, 1});
     placeHeadedList(form.*screen.strengths, form.*screen.strengthList, panel,
-                    grid(436, 96, 300, 196), {0.5, 0, 1, 0.5});
+                    grid(436, 88, 300, 204), {0.5, 0, 1, 0.5});
     placeHeadedList(form.*screen.weaknesses, form.*screen.weaknessList, panel,
-                    grid(436, 304, 300, 196), {0.5, 0.5, 1, 1});
+                    grid(436, 304, 300, 204), {0.5, 0.5, 1, 1});
 }
 
 void placeSourceFiles(FrmMain& form) {
@@ -209,7 +210,7 @@ void placeSourceFiles(FrmMain& form) {
     form.Label16.fontSize = {11.25};
     form.Label16.bold = true;
     place(form.Label10, &panel, grid(24, 48, 608, 20));
-    place(form.lstFiles, &panel, grid(24, 80, listWidth, 420), whole);
+    place(form.lstFiles, &panel, grid(24, 80, listWidth, 428), whole);
     form.lstFiles.accessibleName = form.Label16.caption();
     placeSmall(form.buttons[Button::AFAdd], panel, sideButtons, 80, atRight);
     placeSmall(form.buttons[Button::AFRemove], panel, sideButtons, 120, atRight);

@@ -22,7 +22,7 @@ namespace {
 
 constexpr int autoSaveMilliseconds = 30'000;
 constexpr double smallestShare = 0.8;  // of the design size
-constexpr int bandHeight = 64, markSize = 40;
+constexpr int bandHeight = 64;
 
 /// A panel: an opaque area of its own.
 class PanelView : public ControlArea {
@@ -58,6 +58,7 @@ MainWindow::MainWindow(Program& program, Input input)
     makeListCommands();
     raiseUncovered();
     orderTabs();
+    setFocus();  // no button seems chosen at first
     const auto showCaption = [this, &form] { setWindowTitle(fromCp1252(form.caption)); };
     form.captionChanged.subscribe(showCaption);
     form.sizeChanged.subscribe([this] { showSize(); });

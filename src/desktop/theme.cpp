@@ -1,6 +1,7 @@
 #include "desktop/theme.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QPalette>
 #include <QStyleFactory>
 
@@ -33,16 +34,20 @@ QLineEdit { background: #ffffff; border: 1px solid #b9c5de; border-radius: 4px; 
 QLineEdit:focus { border: 2px solid #003399; padding: 0 7px; }
 QListView { background: #ffffff; border: 1px solid #b9c5de; border-radius: 4px; padding: 2px; }
 QListView:focus { border: 1px solid #003399; }
-QPushButton { background: #ffffff; color: #003399; border: 1px solid #b9c5de; border-radius: 4px;
-              padding: 5px 16px; min-height: 18px; }
+QListWidget::item { padding: 6px 8px; border-bottom: 1px solid #e4e9f3; color: #1b253b; }
+QListWidget::item:selected { background: #e3ebfb; border-left: 4px solid #003399; padding-left: 4px; }
+QPushButton { background: #ffffff; color: #003399; border: 1px solid #b9c5de; border-radius: 4px; padding: 3px 7px; }
 QPushButton:hover { background: #f3f6fc; border-color: #003399; }
 QPushButton:pressed { background: #e3ebfb; }
-QPushButton:focus { border: 2px solid #003399; padding: 4px 15px; }
+QPushButton:focus { border: 2px solid #003399; padding: 2px 6px; }
 QPushButton:default { background: #003399; color: #ffffff; border-color: #003399; }
 QPushButton:default:hover { background: #0b409f; }
 QPushButton:default:focus { border: 2px solid #8fb0f0; }
 QPushButton:disabled { color: #8a94a8; background: #f3f6fc; border-color: #e4e9f3; }
-QMessageBox QPushButton { min-width: 72px; }
+QMessageBox QPushButton, QFileDialog QPushButton, QPrintPreviewDialog QPushButton { min-width: 72px; min-height: 22px; }
+QRadioButton::indicator { width: 14px; height: 14px; border: 1px solid #8fa3c8; border-radius: 8px; background: #ffffff; }
+QRadioButton::indicator:hover { border-color: #003399; }
+QRadioButton::indicator:checked { width: 6px; height: 6px; border: 5px solid #003399; }
 QToolTip { background: #ffffff; color: #1b253b; border: 1px solid #b9c5de; padding: 4px; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
 QScrollBar::handle:vertical { background: #b9c5de; border-radius: 4px; min-height: 32px; margin: 2px; }

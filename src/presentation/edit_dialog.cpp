@@ -26,7 +26,7 @@ void store(FrmMain& form, std::string_view code, const std::string& text) {
 }
 
 void placeButton(SkinnedButton& button, double left, const std::string& caption) {
-    const Bounds bounds = grid(left, 108, 88, 32);
+    const Bounds bounds = grid(left, 112, 88, 32);
     button.image.setBounds(bounds);
     button.image.setArt(Art::SmallNormal);
     button.label.setBounds(bounds);

@@ -74,7 +74,12 @@ double leadingNumber(std::string_view text) {
     if (text.starts_with('+')) text.remove_prefix(1);
     double value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (result.ec == std::errc::result_out_of_range) return std::numeric_limits<double>::infinity();
+    if (result.ec == std::errc::result_out_of_range) {
+        const std::string_view number =
+            text.substr(0, static_cast<std::size_t>(result.ptr - text.data()));
+        const bool huge = number.find('-') == std::string_view::npos;  // neither negative nor tiny
+        return huge ? std::numeric_limits<double>::infinity() : 0;
+    }
     const bool digits = text.find_first_of("0123456789") == text.find_first_not_of("-.");
     return result.ec == std::errc{} && digits ? value : 0;
 }

@@ -1,6 +1,7 @@
 #include "view/control.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "view/failure.h"
 
@@ -123,9 +124,9 @@ Image::Image(ControlSet& owner, std::string name)
     : Control(owner, std::move(name), ControlKind::Image) {}
 
 void Image::setArt(Art art) {
-    if (art == m_art) return;
-    m_art = art;
-    changed();
+    const bool differs = art != std::exchange(m_art, art);
+    artAssigned();
+    if (differs) changed();
 }
 
 PushButton::PushButton(ControlSet& owner, std::string name, std::string caption)

@@ -204,6 +204,7 @@ public:
 
     Art art() const { return m_art; }
     void setArt(Art art);
+    Notice artAssigned;  // each time, also with the art that is shown
 
 private:
     Art m_art = Art::None;

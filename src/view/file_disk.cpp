@@ -163,6 +163,7 @@ std::string FileDisk::read(const std::string& path) const {
 }
 
 void FileDisk::replace(const std::string& path, std::string_view bytes) {
+    if (path.empty()) throw Failure(ErrorNumber::PathFileAccess);
     const std::string target = targetOf(utf8From1252(path));
     struct stat status {};
     const bool there = ::stat(target.c_str(), &status) == 0;

@@ -109,10 +109,8 @@ void Driver::watchMainWindow() {
         });
     for (std::size_t i = 0; i < buttonCount; ++i) {
         SkinnedButton& button = m_program.frmMain.buttons[static_cast<Button>(i)];
-        m_artSeen[i] = button.image.art();
-        button.image.changed.subscribe([this, i, &button] {
+        button.image.artAssigned.subscribe([this, &button] {
             const Art art = button.image.art();
-            if (art == std::exchange(m_artSeen[i], art)) return;
             const bool pressed = art == Art::SmallDown || art == Art::LargeDown;
             m_log.add({{"event", "art"}, {"button", button.baseName}, {"pressed", pressed}});
         });

@@ -73,7 +73,6 @@ private:
     DocumentWriter m_wordProcessors;
     Platform m_platform;
     Program m_program;
-    std::array<Art, buttonCount> m_artSeen{};
     std::optional<Button> m_held;
     bool m_started = false;
 };

@@ -44,10 +44,8 @@ int play(driver::Stage& stage, const driver::Folders& folders) {
     FileDisk disk;
     driver::Driver driver(stage, disk, folders);
     std::string line;
-    while (!driver.hasEnded() && std::getline(std::cin, line)) {
-        if (line.find_first_not_of(" \t\r") == std::string::npos) continue;
+    while (!driver.hasEnded() && std::getline(std::cin, line))
         std::cout << driver.answer(line).dump() << std::endl;
-    }
     return 0;
 }
 

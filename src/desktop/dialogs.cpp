@@ -1,0 +1,188 @@
+#include "desktop/dialogs.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+#include <algorithm>
+
+#include "desktop/art.h"
+#include "desktop/label_view.h"
+#include "desktop/mirrors.h"
+#include "desktop/text_box_view.h"
+#include "desktop/theme.h"
+
+namespace orvanta::desktop {
+
+namespace {
+
+/// A picture behind the controls, above a light foot for the buttons; or plain paper.
+class DialogGround : public ControlArea {
+public:
+    DialogGround(const PixelGrid& pixelGrid, QWidget* parent) : ControlArea(pixelGrid, parent) {}
+
+    void setPicture(const QString& name) { m_picture = name; }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        constexpr double footShare = 0.38, mostFoot = 64;
+        QPainter painter(this);
+        painter.fillRect(rect(), m_picture.isEmpty() ? theme::paper : theme::sideGround);
+        if (m_picture.isEmpty()) return;
+        const int foot = static_cast<int>(std::min(mostFoot, height() * footShare));
+        drawPicture(painter, rect().adjusted(0, 0, 0, -foot), m_picture);
+    }
+
+private:
+    QString m_picture;
+};
+
+/// Runs what a person does in a dialog. A failure that nothing has caught ends the act alone.
+template <class Act>
+void handle(Program& program, Act act) {
+    try {
+        act();
+    } catch (const Failure& failure) {
+        program.platform.lifetime.reportUnhandled(failure);
+    }
+}
+
+void putLabel(Label& model, ControlArea& area, const QColor& ink) {
+    auto* view = new LabelView(model, area.pixelGrid(), &area);
+    QPalette coloured = view->palette();
+    coloured.setColor(QPalette::WindowText, ink);
+    view->setPalette(coloured);
+    mirrorControl(model, *view, area);
+}
+
+/// The picture of the About box: it keeps its proportions above a ground of its own colour.
+class PictureView : public QWidget {
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        constexpr QSize drawn(200, 260);
+        QPainter painter(this);
+        painter.fillRect(rect(), theme::deepBlue);
+        QRect place(QPoint(), drawn.scaled(size(), Qt::KeepAspectRatio));
+        place.moveBottomLeft(rect().bottomLeft());
+        drawPicture(painter, place, QStringLiteral("about"));
+    }
+};
+
+}  // namespace
+
+FormDialog::FormDialog(Program& program, QWidget* owner)
+    : QDialog(owner),
+      m_program(program),
+      m_area(new DialogGround(PixelGrid(program.platform.screen), this)) {
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    setModal(true);
+}
+
+void FormDialog::dress(const std::string& caption, Twips width, Twips height) {
+    setWindowTitle(fromCp1252(caption));
+    m_area->setDesignSize(width, height);
+    m_area->resize(m_area->designSize());
+    setFixedSize(m_area->designSize());
+}
+
+void FormDialog::closeEvent(QCloseEvent* event) {
+    closeForm();
+    event->accept();
+}
+
+EditDialog::EditDialog(Program& program, FrmEdit& form, QWidget* owner)
+    : FormDialog(program, owner), m_form(form) {
+    setObjectName(QStringLiteral("frmEdit"));
+    static_cast<DialogGround*>(m_area)->setPicture(QStringLiteral("dialog_background"));
+    putLabel(form.Label1, *m_area, theme::paper);
+    constexpr char enterKey = 13;
+    const auto typed = [this](char character) {
+        if (character == enterKey) handle(m_program, [&] { commitEdit(m_program, m_form); });
+        return true;
+    };
+    auto* box = new TextBoxView(form.txtEdit, typed, m_area);
+    mirrorControl(form.txtEdit, *box, *m_area);
+    const auto pressed = [this](SkinnedButton& button) {
+        return [this, &button] { pressEditButton(m_program, button); };
+    };
+    makeSkinnedButton(form.btnCancel, *m_area,
+                      {pressed(form.btnCancel), [this] { releaseEditCancel(m_program, m_form); }});
+    makeSkinnedButton(form.btnOk, *m_area, {pressed(form.btnOk), [this] {
+                          handle(m_program, [&] { releaseEditOk(m_program, m_form); });
+                      }});
+    form.closed.subscribe([this] { done(Accepted); });
+    dress(form.caption, form.width, form.height);
+    box->setFocus();
+}
+
+void EditDialog::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape) FormDialog::keyPressEvent(event);  // it does not cancel
+}
+
+ReportDialog::ReportDialog(Program& program, FrmReportType& form, QWidget* owner)
+    : FormDialog(program, owner), m_form(form) {
+    setObjectName(QStringLiteral("frmReportType"));
+    static_cast<DialogGround*>(m_area)->setPicture(QStringLiteral("dialog_background"));
+    for (Label* label : {&form.Label1, &form.Label2, &form.lblGenerating})
+        putLabel(*label, *m_area, theme::paper);
+    makeComboBox(form.cboFormat, *m_area);
+    auto* box = new TextBoxView(form.txtEdit, [](char) { return true; }, m_area);
+    mirrorControl(form.txtEdit, *box, *m_area);
+    makePushButton(form.cmdBrowse, *m_area, [this] {
+        handle(m_program, [&] { browseForAnalyzeFile(m_program, m_form); });
+    });
+    makePushButton(form.OKButton, *m_area, [this] {
+        handle(m_program, [&] { acceptReport(m_program, m_form); });
+    })->setDefault(true);
+    makePushButton(form.CancelButton, *m_area, [this] { closeReportDialog(m_form); });
+    const auto showEnabled = [this] { m_area->setEnabled(m_form.enabled); };  // the close box stays
+    form.enabledChanged.subscribe(showEnabled);
+    showEnabled();
+    form.closed.subscribe([this] { done(Accepted); });
+    dress(form.caption, form.width, form.height);
+    box->setFocus();
+}
+
+AboutDialog::AboutDialog(Program& program, FrmAbout& form, QWidget* owner)
+    : FormDialog(program, owner), m_form(form) {
+    setObjectName(QStringLiteral("frmAbout"));
+    mirrorControl(form.Image1, *new PictureView(m_area), *m_area);
+    putLabel(form.lblTitle, *m_area, theme::deepBlue);
+    putLabel(form.lblR, *m_area, theme::deepBlue);
+    for (Label* label : {&form.lblVersion, &form.Label1}) putLabel(*label, *m_area, theme::ink);
+    putLabel(form.lblDisclaimer, *m_area, theme::quietInk);
+    auto* link = new LinkView(form.lblSupport, LinkView::Ground::Plain, m_area->pixelGrid(), m_area);
+    connect(link, &QPushButton::clicked, [this] { openSupportPage(m_program); });
+    mirrorControl(form.lblSupport, *link, *m_area);
+    QPushButton* ok = makePushButton(form.cmdOK, *m_area, [this] { closeAboutBox(m_form); });
+    ok->setDefault(true);
+    form.closed.subscribe([this] { done(Accepted); });
+    dress(form.caption, form.width, form.height);
+    ok->setFocus();
+}
+
+SplashDialog::SplashDialog(Program& program, const FrmSplash& form)
+    : QDialog(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint) {
+    setObjectName(QStringLiteral("frmSplash"));
+    const PixelGrid pixelGrid(program.platform.screen);
+    setFixedSize(pixelGrid.pixels(form.width), pixelGrid.pixels(form.height));
+    setWindowTitle(QStringLiteral("Orvanta"));
+    move(screen()->availableGeometry().center() - rect().center());
+    QTimer::singleShot(splashMilliseconds, this, &QDialog::accept);
+}
+
+void SplashDialog::keyPressEvent(QKeyEvent*) { accept(); }
+
+void SplashDialog::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    drawPicture(painter, rect(), QStringLiteral("splash"));
+}
+
+}  // namespace orvanta::desktop

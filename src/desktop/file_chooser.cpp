@@ -1,0 +1,49 @@
+#include "desktop/file_chooser.h"
+
+#include <QLineEdit>
+#include <QStandardPaths>
+
+#include "desktop/conversions.h"
+
+namespace orvanta::desktop {
+
+namespace {
+
+/// "All Files (*.x)|*.x" as Qt writes it, "All Files (*.x)".
+QString filterFrom(const std::string& filter) {
+    const QString whole = fromCp1252(filter);
+    const QString description = whole.section(u'|', 0, 0), pattern = whole.section(u'|', 1, 1);
+    if (pattern.isEmpty() || description.contains(u'(' + pattern + u')')) return description;
+    return description + QStringLiteral(" (") + pattern + u')';
+}
+
+/// The folder to begin in: the path itself or, if that names a file, the folder that holds it.
+QString startFolder(const std::string& initialPath) {
+    const QFileInfo info(fromCp1252(initialPath));
+    if (!initialPath.empty() && info.isDir()) return info.filePath();
+    if (!initialPath.empty() && info.absoluteDir().exists()) return info.absolutePath();
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+}  // namespace
+
+FileChooser::FileChooser(const FileDialogRequest& request, QWidget* owner)
+    : QFileDialog(owner, {}, startFolder(request.initialPath), filterFrom(request.filter)) {
+    setOption(DontUseNativeDialog);
+    setOption(DontConfirmOverwrite);
+    setFileMode(AnyFile);
+    setAcceptMode(request.mode == FileDialogMode::Open ? AcceptOpen : AcceptSave);
+    if (!request.fileName.empty()) selectFile(fromCp1252(request.fileName));
+}
+
+QLineEdit* FileChooser::nameBox() const {
+    return findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+}
+
+void FileChooser::accept() {
+    m_typed = nameBox()->text();
+    if (m_typed.isEmpty()) return QFileDialog::accept();  // a folder is selected: opens it
+    QDialog::accept();
+}
+
+}  // namespace orvanta::desktop

@@ -1,0 +1,110 @@
+#include "desktop/platform.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include "core/failures.h"
+#include "desktop/conversions.h"
+#include "desktop/file_chooser.h"
+#include "desktop/message_box.h"
+
+namespace orvanta::desktop {
+
+namespace {
+
+/// The window that a new dialog belongs to: the dialog in front or else the main window.
+QWidget* owner() {
+    if (QWidget* dialog = QApplication::activeModalWidget()) return dialog;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == QLatin1String("frmMain") && window->isVisible()) return window;
+    return nullptr;
+}
+
+QString settingName(std::string_view section, std::string_view key) {
+    return fromCp1252(section) + u'/' + fromCp1252(key);
+}
+
+QUrl urlOf(const std::string& target) {
+    const QString text = fromCp1252(target);
+    for (const char* scheme : {"http:", "https:", "mailto:"})
+        if (text.startsWith(QLatin1String(scheme)))
+            return QUrl(QString(text).replace(u' ', QLatin1String("%20")));
+    return QUrl::fromLocalFile(text);
+}
+
+}  // namespace
+
+MessageAnswer DesktopMessageBoxes::show(const Message& message) {
+    MessageBox box(message, owner());
+    box.exec();
+    return box.answer();
+}
+
+std::optional<std::string> DesktopFileDialogs::choose(const FileDialogRequest& request) {
+    FileChooser chooser(request, owner());
+    while (chooser.exec() == QDialog::Accepted) {
+        if (fitsCp1252(chooser.path())) return toCp1252(chooser.path());
+        MessageBox box({.text = "This name holds characters that Orvanta can't use. "
+                                "Please choose another file or folder name.",
+                        .icon = MessageIcon::Stop},
+                       owner());
+        box.exec();
+    }
+    return std::nullopt;
+}
+
+std::string DesktopSettings::read(std::string_view section, std::string_view key) const {
+    return toCp1252(m_settings.value(settingName(section, key)).toString());
+}
+
+void DesktopSettings::write(std::string_view section, std::string_view key, const std::string& value) {
+    m_settings.setValue(settingName(section, key), fromCp1252(value));
+    m_settings.sync();
+}
+
+void DesktopShell::open(const std::string& target) { QDesktopServices::openUrl(urlOf(target)); }
+
+double DesktopScreen::twipsPerPixel() const {
+    constexpr double twipsPerInch = 1440;
+    return twipsPerInch / QGuiApplication::primaryScreen()->logicalDotsPerInchX();
+}
+
+void DesktopForms::run(FrmSplash& form) { SplashDialog(*m_program, form).exec(); }
+void DesktopForms::run(FrmEdit& form) { EditDialog(*m_program, form, owner()).exec(); }
+void DesktopForms::run(FrmAbout& form) { AboutDialog(*m_program, form, owner()).exec(); }
+
+void DesktopForms::run(FrmReportType& form) {
+    ReportDialog dialog(*m_program, form, owner());
+    m_report = &dialog;
+    dialog.exec();
+}
+
+void DesktopForms::repaint(FrmReportType& form) {
+    if (m_report && m_report->shows(form)) m_report->repaint();
+}
+
+void DesktopForms::setWaitCursor(bool on) {
+    if (on)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+// Quitting would close the windows first, and so ask again what has been asked.
+void DesktopLifetime::end() { QCoreApplication::exit(); }
+
+void DesktopLifetime::reportUnhandled(const Failure& failure) { reportFailure(m_messages, failure); }
+
+std::string DesktopFolders::documents() const {
+    return toCp1252(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+}
+
+DesktopPlatform::DesktopPlatform(Disk& disk)
+    : m_lifetime(m_messages),
+      m_platform{disk,     m_messages, m_fileDialogs, m_settings,      m_shell,    m_player,
+                 m_screen, m_forms,    m_printer,     m_wordProcessor, m_lifetime, m_folders} {}
+
+}  // namespace orvanta::desktop

@@ -1,0 +1,115 @@
+#pragma once
+
+#include <QPointer>
+#include <QSettings>
+#include <QWidget>
+
+#include "desktop/dialogs.h"
+#include "desktop/question_printer.h"
+#include "reports/word_processor.h"
+#include "view/platform.h"
+
+namespace orvanta::desktop {
+
+// What the program needs of the world, as the desktop has it.
+
+class DesktopMessageBoxes : public MessageBoxes {
+public:
+    MessageAnswer show(const Message& message) override;
+};
+
+class DesktopFileDialogs : public FileDialogs {
+public:
+    std::optional<std::string> choose(const FileDialogRequest& request) override;
+};
+
+/// One file for each user.
+class DesktopSettings : public Settings {
+public:
+    std::string read(std::string_view section, std::string_view key) const override;
+    void write(std::string_view section, std::string_view key, const std::string& value) override;
+
+private:
+    QSettings m_settings;
+};
+
+class DesktopShell : public Shell {
+public:
+    void open(const std::string& target) override;
+};
+
+class SilentPlayer : public Player {
+public:
+    void setMovie(const std::string&) override {}
+    void play() override {}
+};
+
+class DesktopScreen : public orvanta::Screen {
+public:
+    double twipsPerPixel() const override;
+};
+
+class DesktopForms : public ModalForms {
+public:
+    void setProgram(Program& program) { m_program = &program; }
+
+    void run(FrmSplash& form) override;
+    void run(FrmEdit& form) override;
+    void run(FrmReportType& form) override;
+    void run(FrmAbout& form) override;
+    void repaint(FrmReportType& form) override;
+    void setWaitCursor(bool on) override;
+
+private:
+    Program* m_program = nullptr;
+    QPointer<ReportDialog> m_report;
+};
+
+/// For a system without a word processor.
+class NoWordProcessor : public WordProcessors {
+public:
+    WordObjectPtr createApplication() override { throw Failure(ErrorNumber::CannotCreateObject); }
+};
+
+class DesktopLifetime : public Lifetime {
+public:
+    explicit DesktopLifetime(MessageBoxes& messages) : m_messages(messages) {}
+
+    void end() override;
+    void reportUnhandled(const Failure& failure) override;
+
+private:
+    MessageBoxes& m_messages;
+};
+
+class DesktopFolders : public orvanta::Folders {
+public:
+    std::string documents() const override;
+};
+
+/// All of it together.
+class DesktopPlatform {
+public:
+    /// The disk must outlive the platform.
+    explicit DesktopPlatform(Disk& disk);
+
+    Platform& platform() { return m_platform; }
+    /// Called before the program starts.
+    void setProgram(Program& program) { m_forms.setProgram(program); }
+
+private:
+    DesktopMessageBoxes m_messages;
+    DesktopFileDialogs m_fileDialogs;
+    DesktopSettings m_settings;
+    DesktopShell m_shell;
+    SilentPlayer m_player;
+    DesktopScreen m_screen;
+    DesktopForms m_forms;
+    PreviewingPrinter m_printer;
+    NoWordProcessor m_wordProcessor;
+    DesktopLifetime m_lifetime;
+    DesktopFolders m_folders;
+    Platform m_platform;
+};
+
+}  // namespace orvanta::desktop
