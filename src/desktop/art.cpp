@@ -51,11 +51,10 @@ QString artName(Art art) {
 }
 
 const QIcon& rowIcon(int image) {
-    static const std::array<QIcon, 5> icons{
-        QIcon(), pictureIcon(QStringLiteral("row_strength")),
-        pictureIcon(QStringLiteral("row_weakness")),
-        pictureIcon(QStringLiteral("row_opportunity")),
-        pictureIcon(QStringLiteral("row_threat"))};
+    static const std::array<QIcon, 5> icons{QIcon(), pictureIcon(QStringLiteral("row_strength")),
+                                            pictureIcon(QStringLiteral("row_weakness")),
+                                            pictureIcon(QStringLiteral("row_opportunity")),
+                                            pictureIcon(QStringLiteral("row_threat"))};
     return icons[image >= 1 && image <= 4 ? static_cast<std::size_t>(image) : 0];
 }
 

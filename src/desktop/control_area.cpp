@@ -19,6 +19,13 @@ Span stretched(double from, double length, double fromShare, double toShare, dou
 
 }  // namespace
 
+bool isUncovered(const Control& control) {
+    if (!control.isVisible() || (control.coveredBy && control.coveredBy->hasVisible()))
+        return false;
+    const auto* panel = dynamic_cast<const Panel*>(&control);
+    return !panel || !panel->stack() || panel->stack()->top() == panel;
+}
+
 ControlArea::ControlArea(const PixelGrid& pixelGrid, QWidget* parent)
     : QWidget(parent), m_pixelGrid(pixelGrid) {}
 
@@ -36,6 +43,10 @@ void ControlArea::hold(Control& control, QWidget& widget) {
     m_held.emplace_back(&control, &widget);
     control.changed.subscribe([this, &control, &widget] { place(control, widget); });
     place(control, widget);
+}
+
+void ControlArea::showUncovered() {
+    for (const auto& [control, widget] : m_held) widget->setVisible(isUncovered(*control));
 }
 
 void ControlArea::raiseUncovered() {
@@ -57,6 +68,8 @@ void ControlArea::place(const Control& control, QWidget& widget) const {
     const Span down = stretched(exact(bounds.top), exact(bounds.height), stretch.top,
                                 stretch.bottom, growth.height());
     widget.setGeometry(across.from, down.from, across.length, down.length);
+    // Qt tells a hidden area of its new size only when it shows.
+    if (const auto* area = dynamic_cast<const ControlArea*>(&widget)) area->placeAll();
 }
 
 void ControlArea::placeAll() const {

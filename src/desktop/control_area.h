@@ -9,6 +9,9 @@
 
 namespace orvanta::desktop {
 
+/// True if a control is switched on and no panel of its own container covers it.
+bool isUncovered(const Control& control);
+
 /// Holds the widgets of a form or a panel, each at the place that its model tells. What the
 /// area has grown beyond its design size is shared out by the controls' stretch.
 class ControlArea : public QWidget {
@@ -22,15 +25,17 @@ public:
     /// Takes a widget in and keeps it in its place. The model must outlive the area's use.
     void hold(Control& control, QWidget& widget);
 
+    /// Hides what a panel covers, so that neither the keyboard nor a screen reader gets there.
+    void showUncovered();
     /// Puts what no panel covers above the panels.
     void raiseUncovered();
 
 protected:
+    void placeAll() const;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void place(const Control& control, QWidget& widget) const;
-    void placeAll() const;
 
     PixelGrid m_pixelGrid;
     Twips m_designWidth, m_designHeight;

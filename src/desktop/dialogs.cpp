@@ -114,12 +114,14 @@ EditDialog::EditDialog(Program& program, FrmEdit& form, QWidget* owner)
     };
     makeSkinnedButton(form.btnCancel, *m_area,
                       {pressed(form.btnCancel), [this] { releaseEditCancel(m_program, m_form); }});
-    makeSkinnedButton(form.btnOk, *m_area, {pressed(form.btnOk), [this] {
-                          handle(m_program, [&] { releaseEditOk(m_program, m_form); });
-                      }});
+    makeSkinnedButton(form.btnOk, *m_area,
+                      {pressed(form.btnOk),
+                       [this] { handle(m_program, [&] { releaseEditOk(m_program, m_form); }); }});
     form.closed.subscribe([this] { done(Accepted); });
     dress(form.caption, form.width, form.height);
     box->setFocus();
+    // Showing the dialog selects the whole text; a statement is to be reworded, not replaced.
+    QTimer::singleShot(0, box, [box] { box->end(false); });
 }
 
 void EditDialog::keyPressEvent(QKeyEvent* event) {
@@ -133,11 +135,11 @@ ReportDialog::ReportDialog(Program& program, FrmReportType& form, QWidget* owner
     for (Label* label : {&form.Label1, &form.Label2, &form.lblGenerating})
         putLabel(*label, *m_area, theme::paper);
     makeComboBox(form.cboFormat, *m_area);
-    auto* box = new TextBoxView(form.txtEdit, [](char) { return true; }, m_area);
+    auto* box = new TextBoxView(
+        form.txtEdit, [](char) { return true; }, m_area);
     mirrorControl(form.txtEdit, *box, *m_area);
-    makePushButton(form.cmdBrowse, *m_area, [this] {
-        handle(m_program, [&] { browseForAnalyzeFile(m_program, m_form); });
-    });
+    makePushButton(form.cmdBrowse, *m_area,
+                   [this] { handle(m_program, [&] { browseForAnalyzeFile(m_program, m_form); }); });
     makePushButton(form.OKButton, *m_area, [this] {
         handle(m_program, [&] { acceptReport(m_program, m_form); });
     })->setDefault(true);
@@ -158,7 +160,8 @@ AboutDialog::AboutDialog(Program& program, FrmAbout& form, QWidget* owner)
     putLabel(form.lblR, *m_area, theme::deepBlue);
     for (Label* label : {&form.lblVersion, &form.Label1}) putLabel(*label, *m_area, theme::ink);
     putLabel(form.lblDisclaimer, *m_area, theme::quietInk);
-    auto* link = new LinkView(form.lblSupport, LinkView::Ground::Plain, m_area->pixelGrid(), m_area);
+    auto* link =
+        new LinkView(form.lblSupport, LinkView::Ground::Plain, m_area->pixelGrid(), m_area);
     connect(link, &QPushButton::clicked, [this] { openSupportPage(m_program); });
     mirrorControl(form.lblSupport, *link, *m_area);
     QPushButton* ok = makePushButton(form.cmdOK, *m_area, [this] { closeAboutBox(m_form); });

@@ -22,7 +22,8 @@ QString startFolder(const std::string& initialPath) {
     const QFileInfo info(fromCp1252(initialPath));
     if (!initialPath.empty() && info.isDir()) return info.filePath();
     if (!initialPath.empty() && info.absoluteDir().exists()) return info.absolutePath();
-    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo::exists(documents) ? documents : QDir::homePath();
 }
 
 }  // namespace

@@ -10,7 +10,6 @@
 #include <algorithm>
 
 #include "desktop/art.h"
-#include "desktop/home_view.h"
 #include "desktop/label_view.h"
 #include "desktop/mirrors.h"
 #include "desktop/text_box_view.h"
@@ -33,16 +32,41 @@ public:
         setPalette(white);
         setAutoFillBackground(true);
         mirrorControl(model, *this, parent);
-        const auto showSize = [this, &model] { setDesignSize(model.bounds().width, model.bounds().height); };
+        const auto showSize = [this, &model] {
+            setDesignSize(model.bounds().width, model.bounds().height);
+        };
         model.changed.subscribe(showSize);
         showSize();
         if (!model.stack()) return;
+        model.changed.subscribe([&parent] { parent.showUncovered(); });
         model.raised.subscribe([this, &parent] {
+            parent.showUncovered();
             raise();
             parent.raiseUncovered();
         });
     }
 };
+
+void drawBand(QPainter& painter, int width) {
+    constexpr QSize pattern(320, bandHeight), wordmark(160, 32);
+    constexpr int left = 20;
+    drawPicture(painter, {0, 0, width, bandHeight}, QStringLiteral("banner_fill"));
+    drawPicture(painter, {QPoint(width - pattern.width(), 0), pattern},
+                QStringLiteral("banner_pattern"));
+    drawPicture(painter, {QPoint(left, (bandHeight - wordmark.height()) / 2), wordmark},
+                QStringLiteral("wordmark"));
+}
+
+/// What stands in the place of the module panels while none is open: the mark of the product.
+void drawHome(QPainter& painter, const QRect& place) {
+    constexpr QSize splash(480, 300);
+    constexpr QRect emblem(150, 36, 300, 228);  // mark and name, without the ornament beside them
+    painter.fillRect(place, theme::paper);
+    QRect shown = emblem;
+    shown.moveCenter(place.center());
+    painter.setClipRect(shown);
+    drawPicture(painter, {shown.topLeft() - emblem.topLeft(), splash}, QStringLiteral("splash"));
+}
 
 bool isFocusable(const QWidget* widget) { return widget->focusPolicy() & Qt::TabFocus; }
 
@@ -73,7 +97,6 @@ ControlArea& MainWindow::areaOf(const Control& control) {
 }
 
 void MainWindow::makePanels() {
-    new HomeView(m_program.frmMain.fraBrainstorm, *this);
     for (Control* control : m_program.frmMain.controls.all())
         if (auto* panel = dynamic_cast<Panel*>(control)) {
             m_panels[panel] = new PanelView(*panel, areaOf(*panel));
@@ -106,12 +129,14 @@ void MainWindow::makeOthers() {
 
     for (Control* control : form.controls.all()) {
         ControlArea& area = areaOf(*control);
-        if (area.findChild<QWidget*>(fromCp1252(control->name()), Qt::FindDirectChildrenOnly)) continue;
+        if (area.findChild<QWidget*>(fromCp1252(control->name()), Qt::FindDirectChildrenOnly))
+            continue;
         if (auto* list = dynamic_cast<StatementList*>(control)) {
             mirrorControl(*list, *new StatementListView(m_program, *list, m_input, &area), area);
         } else if (auto* box = dynamic_cast<TextBox*>(control)) {
             auto* view = new TextBoxView(
-                *box, [this, box](char character) { return characterTyped(m_program, *box, character); },
+                *box,
+                [this, box](char character) { return characterTyped(m_program, *box, character); },
                 &area);
             mirrorControl(*box, *view, area);
         } else if (auto* option = dynamic_cast<Option*>(control)) {
@@ -140,7 +165,8 @@ void MainWindow::makeListCommands() {
     for (const Command& command : commands) {
         auto* list = findChild<QWidget*>(fromCp1252(command.list.name()));
         auto* action = new QAction(QLatin1String(command.caption), list);
-        connect(action, &QAction::triggered, [this, chosen = command.chosen] { chosen(m_program); });
+        connect(action, &QAction::triggered,
+                [this, chosen = command.chosen] { chosen(m_program); });
         list->addAction(action);
         list->setContextMenuPolicy(Qt::ActionsContextMenu);
     }
@@ -164,6 +190,7 @@ void MainWindow::showSize() {
     setDesignSize(form.width, form.height);
     setMinimumSize(designSize() * smallestShare);
     resize(designSize());
+    placeAll();
 }
 
 void MainWindow::showShown() {
@@ -181,7 +208,8 @@ const Panel* MainWindow::screen() const {
     const FrmMain& form = m_program.frmMain;
     const Panel* module = form.moduleScreens.top();
     if (!module) return nullptr;
-    const PanelStack& steps = module == &form.fraBrainstorm ? form.brainstormSteps : form.analyzeSteps;
+    const PanelStack& steps =
+        module == &form.fraBrainstorm ? form.brainstormSteps : form.analyzeSteps;
     return steps.top() ? steps.top() : module;
 }
 
@@ -210,10 +238,8 @@ void MainWindow::timerEvent(QTimerEvent*) { autoSaveTicked(m_program); }
 void MainWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), theme::sideGround);
-    const QRect band(0, 0, width(), bandHeight);
-    drawPicture(painter, band, QStringLiteral("banner_fill"));
-    drawPicture(painter, QRect(width() - 320, 0, 320, bandHeight), QStringLiteral("banner_pattern"));
-    drawPicture(painter, QRect(20, (bandHeight - 32) / 2, 160, 32), QStringLiteral("wordmark"));
+    drawBand(painter, width());
+    drawHome(painter, m_panels.at(&m_program.frmMain.fraBrainstorm)->geometry());
 }
 
 }  // namespace orvanta::desktop

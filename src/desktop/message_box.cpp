@@ -24,7 +24,8 @@ QMessageBox::Icon iconFor(MessageIcon icon) {
 }
 
 QMessageBox::StandardButton standardButtonFor(MessageAnswer answer) {
-    constexpr std::array buttons{QMessageBox::Ok, QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
+    constexpr std::array buttons{QMessageBox::Ok, QMessageBox::Yes, QMessageBox::No,
+                                 QMessageBox::Cancel};
     return buttons[static_cast<std::size_t>(answer)];
 }
 
@@ -40,7 +41,8 @@ ButtonSet buttonSetFor(MessageButtons buttons) {
         case MessageButtons::YesNo:
             return {QMessageBox::Yes | QMessageBox::No, MessageAnswer::No};
         case MessageButtons::YesNoCancel:
-            return {QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, MessageAnswer::Cancel};
+            return {QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+                    MessageAnswer::Cancel};
     }
     return {QMessageBox::Ok, MessageAnswer::Ok};
 }
@@ -55,7 +57,8 @@ MessageBox::MessageBox(const Message& message, QWidget* owner) : QMessageBox(own
     setStandardButtons(set.buttons);
     setEscapeButton(standardButtonFor(set.onEscape));
     setDefaultButton(standardButtonFor(message.defaultAnswer));
-    setWindowTitle(message.title ? fromCp1252(*message.title) : QCoreApplication::applicationName());
+    setWindowTitle(message.title ? fromCp1252(*message.title)
+                                 : QCoreApplication::applicationName());
 }
 
 QAbstractButton* MessageBox::buttonFor(MessageAnswer answer) const {

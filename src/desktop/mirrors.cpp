@@ -35,11 +35,12 @@ void mirrorControl(Control& model, QWidget& widget, ControlArea& area) {
     widget.setObjectName(fromCp1252(model.name()));
     area.hold(model, widget);
     follow(model, [&model, &widget] {
-        widget.setVisible(model.isVisible());
+        widget.setVisible(isUncovered(model));
         widget.setEnabled(model.isEnabled());
         widget.setToolTip(shownToolTip(model.toolTip()));
         widget.setAccessibleDescription(fromCp1252(model.toolTip()));
-        if (!model.accessibleName.empty()) widget.setAccessibleName(fromCp1252(model.accessibleName));
+        if (!model.accessibleName.empty())
+            widget.setAccessibleName(fromCp1252(model.accessibleName));
     });
     model.focusGiven.subscribe([&widget] { widget.setFocus(); });
 }
@@ -74,10 +75,11 @@ QCheckBox* makeCheckBox(CheckBox& model, ControlArea& area, std::function<void(b
         widget->setChecked(model.isOn());
     };
     follow(model, show);
-    QObject::connect(widget, &QCheckBox::clicked, widget, [clicked = std::move(clicked), show](bool on) {
-        clicked(on);
-        show();
-    });
+    QObject::connect(widget, &QCheckBox::clicked, widget,
+                     [clicked = std::move(clicked), show](bool on) {
+                         clicked(on);
+                         show();
+                     });
     mirrorControl(model, *widget, area);
     return widget;
 }
@@ -86,7 +88,8 @@ QPushButton* makePushButton(PushButton& model, ControlArea& area, std::function<
     auto* widget = new QPushButton(fromCp1252(model.caption()), &area);
     widget->setAutoDefault(false);
     widget->setAccessibleName(shownCaption(model.caption()));
-    follow(model, [&model, widget, &area] { widget->setFont(area.pixelGrid().font(model.fontSize)); });
+    follow(model,
+           [&model, widget, &area] { widget->setFont(area.pixelGrid().font(model.fontSize)); });
     QObject::connect(widget, &QPushButton::clicked, widget, std::move(clicked));
     mirrorControl(model, *widget, area);
     return widget;

@@ -60,7 +60,8 @@ std::string DesktopSettings::read(std::string_view section, std::string_view key
     return toCp1252(m_settings.value(settingName(section, key)).toString());
 }
 
-void DesktopSettings::write(std::string_view section, std::string_view key, const std::string& value) {
+void DesktopSettings::write(std::string_view section, std::string_view key,
+                            const std::string& value) {
     m_settings.setValue(settingName(section, key), fromCp1252(value));
     m_settings.sync();
 }
@@ -96,15 +97,17 @@ void DesktopForms::setWaitCursor(bool on) {
 // Quitting would close the windows first, and so ask again what has been asked.
 void DesktopLifetime::end() { QCoreApplication::exit(); }
 
-void DesktopLifetime::reportUnhandled(const Failure& failure) { reportFailure(m_messages, failure); }
+void DesktopLifetime::reportUnhandled(const Failure& failure) {
+    reportFailure(m_messages, failure);
+}
 
 std::string DesktopFolders::documents() const {
     return toCp1252(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
 }
 
 DesktopPlatform::DesktopPlatform(Disk& disk)
-    : m_lifetime(m_messages),
-      m_platform{disk,     m_messages, m_fileDialogs, m_settings,      m_shell,    m_player,
-                 m_screen, m_forms,    m_printer,     m_wordProcessor, m_lifetime, m_folders} {}
+    : m_lifetime(m_messages), m_platform{disk,      m_messages,      m_fileDialogs, m_settings,
+                                         m_shell,   m_player,        m_screen,      m_forms,
+                                         m_printer, m_wordProcessor, m_lifetime,    m_folders} {}
 
 }  // namespace orvanta::desktop

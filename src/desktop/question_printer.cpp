@@ -1,11 +1,11 @@
 #include "desktop/question_printer.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QApplication>
 #include <QPainter>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <array>
-#include <cmath>
 
 #include "core/statement_kind.h"
 #include "desktop/conversions.h"
@@ -15,7 +15,8 @@ namespace orvanta::desktop {
 
 namespace {
 
-constexpr std::array<const char*, 4> headings{"Strengths", "Weaknesses", "Opportunities", "Threats"};
+constexpr std::array<const char*, 4> headings{"Strengths", "Weaknesses", "Opportunities",
+                                              "Threats"};
 constexpr auto ruledLine =
     "<table width='100%' cellspacing='0' cellpadding='0'><tr><td style='border-bottom:1px solid "
     "#8a94a8'><p style='font-size:15pt'>&nbsp;</p></td></tr></table>";
@@ -76,8 +77,9 @@ void printOn(QPrinter& printer, QTextDocument& document) {
 std::unique_ptr<QTextDocument> questionDocument(const QuestionSheets& sheets) {
     QString html = headHtml(sheets);
     for (const StatementKind kind : statementKinds) {
-        html += QStringLiteral("<h2 style='color:#003399; margin-top:22px; margin-bottom:0'>%1</h2>")
-                    .arg(QLatin1String(headings[indexOf(kind)]));
+        html +=
+            QStringLiteral("<h2 style='color:#003399; margin-top:22px; margin-bottom:0'>%1</h2>")
+                .arg(QLatin1String(headings[indexOf(kind)]));
         int number = 0;
         for (const std::string& question : sheets.questions[indexOf(kind)])
             html += questionHtml(++number, question);
@@ -95,7 +97,8 @@ void PreviewingPrinter::print(const QuestionSheets& sheets) {
     const auto document = questionDocument(sheets);
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(fromCp1252(sheets.title));
-    QPrintPreviewDialog preview(&printer, m_owner);
+    printer.setPageMargins({20, 18, 20, 14}, QPageLayout::Millimeter);
+    QPrintPreviewDialog preview(&printer, QApplication::activeWindow());
     preview.setWindowTitle(fromCp1252(sheets.title));
     preview.resize(900, 760);
     QObject::connect(&preview, &QPrintPreviewDialog::paintRequested,

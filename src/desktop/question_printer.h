@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QTextDocument>
-#include <QWidget>
 #include <memory>
 
 #include "presentation/question_sheets.h"
@@ -14,11 +13,7 @@ std::unique_ptr<QTextDocument> questionDocument(const QuestionSheets& sheets);
 /// Shows the sheets as they will be on paper; printing starts from there.
 class PreviewingPrinter : public QuestionPrinter {
 public:
-    void setOwner(QWidget* owner) { m_owner = owner; }
     void print(const QuestionSheets& sheets) override;
-
-private:
-    QWidget* m_owner = nullptr;
 };
 
 }  // namespace orvanta::desktop

@@ -28,7 +28,9 @@ ButtonPictureView::ButtonPictureView(SkinnedButton& model, ButtonActs acts, QWid
         m_acts.press();
         m_acts.release();
     });
-    const auto showName = [this, &model] { setAccessibleName(shownCaption(model.label.caption())); };
+    const auto showName = [this, &model] {
+        setAccessibleName(shownCaption(model.label.caption()));
+    };
     model.label.changed.subscribe(showName);
     showName();
     m_image.changed.subscribe([this] { update(); });

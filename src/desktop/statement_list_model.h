@@ -19,7 +19,7 @@ public:
     /// True while the rows change: what Qt then says of the selection is not a person's act.
     bool isChanging() const { return m_changing; }
 
-    std::function<void()> selectionMayDiffer;         // the view's is to follow the list's
+    std::function<void()> selectionMayDiffer;  // the view's is to follow the list's
     std::function<void(int position)> rowCameIn;
 
 private:

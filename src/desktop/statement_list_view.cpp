@@ -31,7 +31,8 @@ void StatementDrag::finish(Program& program) const {
     if (m_target) droppedOn(program, *m_target, m_position);
 }
 
-StatementListView::StatementListView(Program& program, StatementList& list, Input input, QWidget* parent)
+StatementListView::StatementListView(Program& program, StatementList& list, Input input,
+                                     QWidget* parent)
     : QListView(parent), m_program(program), m_list(list), m_input(input), m_model(list) {
     setModel(&m_model);
     setItemDelegate(new StatementRowPainter(list, *this));

@@ -43,7 +43,8 @@ public:
     int litRow() const { return m_target == DropTarget::Row ? m_targetRow : 0; }
 
 protected:
-    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void startDrag(Qt::DropActions actions) override;

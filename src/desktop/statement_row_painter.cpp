@@ -46,12 +46,14 @@ void drawDropGround(QPainter& painter, const QRect& place) {
 
 void drawContent(QPainter& painter, const QRect& place, const Row& row, const QFont& font) {
     const int left = place.left() + leftMargin + row.indent * indentStep;
-    const QRect picture(left, place.top() + (place.height() - pictureSize) / 2, pictureSize, pictureSize);
+    const QRect picture(left, place.top() + (place.height() - pictureSize) / 2, pictureSize,
+                        pictureSize);
     rowIcon(row.image).paint(&painter, picture);
     const QRect room = place.adjusted(picture.right() + 1 + gap - place.left(), 0, -gap, 0);
     painter.setFont(font);
     painter.setPen(inkOf(row));
-    const QString shown = painter.fontMetrics().elidedText(lineOf(row), Qt::ElideRight, room.width());
+    const QString shown =
+        painter.fontMetrics().elidedText(lineOf(row), Qt::ElideRight, room.width());
     painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
 }
 
@@ -81,8 +83,8 @@ void StatementRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& o
 QPixmap dragCard(const Row& row, const QFont& font, qreal pixelRatio) {
     constexpr int widest = 280;
     const QFontMetrics metrics(font);
-    const int width = std::min(widest, leftMargin + pictureSize + 2 * gap + 4 +
-                                           metrics.horizontalAdvance(lineOf(row)));
+    const int width = std::min(
+        widest, leftMargin + pictureSize + 2 * gap + 4 + metrics.horizontalAdvance(lineOf(row)));
     const QSize size(width, rowHeight(metrics));
     QPixmap card(size * pixelRatio);
     card.setDevicePixelRatio(pixelRatio);

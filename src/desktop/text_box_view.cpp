@@ -29,8 +29,10 @@ void cutEntered(QString& text, int& cursor, const QString& before, qsizetype lim
     const qsizetype excess = text.size() - limit;
     if (limit == 0 || excess <= 0 || text.size() <= before.size()) return;
     const qsizetype tail = text.size() - cursor;
-    const qsizetype sharedMost = std::min<qsizetype>(cursor, std::max<qsizetype>(0, before.size() - tail));
-    const auto [end, ignored] = std::mismatch(text.begin(), text.begin() + sharedMost, before.begin());
+    const qsizetype sharedMost =
+        std::min<qsizetype>(cursor, std::max<qsizetype>(0, before.size() - tail));
+    const auto [end, ignored] =
+        std::mismatch(text.begin(), text.begin() + sharedMost, before.begin());
     const qsizetype entered = cursor - (end - text.begin());
     const qsizetype cut = std::min(entered, excess);
     text.remove(cursor - cut, cut);
@@ -62,7 +64,8 @@ TextBoxView::TextBoxView(TextBox& model, Typed typed, QWidget* parent)
     : QLineEdit(parent), m_model(model), m_typed(std::move(typed)) {
     setMaxLength(1'000'000);
     setValidator(new Entry(*this));
-    connect(this, &QLineEdit::textEdited, [this](const QString& text) { m_model.setText(toCp1252(text)); });
+    connect(this, &QLineEdit::textEdited,
+            [this](const QString& text) { m_model.setText(toCp1252(text)); });
     model.changed.subscribe([this] { showModel(); });
     showModel();
 }

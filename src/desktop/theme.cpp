@@ -2,14 +2,54 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QPainter>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
 
 #include "desktop/art.h"
 
 namespace orvanta::desktop {
 
 namespace {
+
+/// A sign in a disc, for message boxes.
+QIcon discIcon(const QColor& disc, QChar sign) {
+    constexpr int size = 160;  // more than any screen shows; Qt scales it down
+    QPixmap drawn(size, size);
+    drawn.fill(Qt::transparent);
+    QPainter painter(&drawn);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(disc);
+    painter.drawEllipse(drawn.rect().adjusted(8, 8, -8, -8));
+    QFont font = QApplication::font();
+    font.setPixelSize(size * 5 / 8);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(theme::paper);
+    painter.drawText(drawn.rect(), Qt::AlignCenter, sign);
+    return QIcon(drawn);
+}
+
+/// Fusion with flat signs in its message boxes.
+class FlatStyle : public QProxyStyle {
+public:
+    FlatStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                       const QWidget* widget) const override {
+        switch (icon) {
+            case SP_MessageBoxCritical:
+                return discIcon(theme::alarm, u'!');
+            case SP_MessageBoxQuestion:
+                return discIcon(theme::deepBlue, u'?');
+            case SP_MessageBoxInformation:
+                return discIcon(theme::deepBlue, u'i');
+            default:
+                return QProxyStyle::standardIcon(icon, option, widget);
+        }
+    }
+};
 
 QPalette lightPalette() {
     QPalette palette(theme::sideGround, theme::paper);
@@ -32,6 +72,7 @@ QPalette lightPalette() {
 constexpr auto flatLook = R"(
 QLineEdit { background: #ffffff; border: 1px solid #b9c5de; border-radius: 4px; padding: 0 8px; }
 QLineEdit:focus { border: 2px solid #003399; padding: 0 7px; }
+QFileDialog QLineEdit { min-height: 22px; }
 QListView { background: #ffffff; border: 1px solid #b9c5de; border-radius: 4px; padding: 2px; }
 QListView:focus { border: 1px solid #003399; }
 QListWidget::item { padding: 6px 8px; border-bottom: 1px solid #e4e9f3; color: #1b253b; }
@@ -48,6 +89,7 @@ QMessageBox QPushButton, QFileDialog QPushButton, QPrintPreviewDialog QPushButto
 QRadioButton::indicator { width: 14px; height: 14px; border: 1px solid #8fa3c8; border-radius: 8px; background: #ffffff; }
 QRadioButton::indicator:hover { border-color: #003399; }
 QRadioButton::indicator:checked { width: 6px; height: 6px; border: 5px solid #003399; }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QToolTip { background: #ffffff; color: #1b253b; border: 1px solid #b9c5de; padding: 4px; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
 QScrollBar::handle:vertical { background: #b9c5de; border-radius: 4px; min-height: 32px; margin: 2px; }
@@ -62,7 +104,7 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 }  // namespace
 
 void dressApplication(QApplication& application) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new FlatStyle);
     QApplication::setPalette(lightPalette());
     QFont font(QStringList{QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans")});
     font.setPointSizeF(9);

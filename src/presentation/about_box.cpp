@@ -15,10 +15,10 @@ std::string supportPage() { return "http://" + std::string(webHost) + "/support/
 FrmAbout::FrmAbout() {
     Image1.setBounds(grid(0, 0, 180, 310));
     Image1.accessibleName = caption;
-    lblTitle.setBounds(grid(204, 24, 140, 32));
+    lblTitle.setBounds(grid(204, 24, 130, 32));
     lblTitle.fontSize = {18};
     lblTitle.bold = true;
-    lblR.setBounds(grid(345, 24, 24, 16));
+    lblR.setBounds(grid(335, 24, 24, 16));
     lblVersion.setBounds(grid(204, 64, 290, 20));
     Label1.setBounds(grid(204, 100, 290, 20));
     Label1.bold = true;

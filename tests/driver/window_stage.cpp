@@ -14,13 +14,13 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "core/window_events.h"
 #include "desktop/conversions.h"
 #include "desktop/dialogs.h"
 #include "desktop/file_chooser.h"
 #include "desktop/main_window.h"
 #include "desktop/message_box.h"
 #include "desktop/theme.h"
-#include "core/window_events.h"
 
 namespace orvanta::driver {
 
@@ -190,8 +190,8 @@ public:
         mouseClick(*files.viewport(), files.visualItemRect(files.item(index)).center());
     }
 
-    void drag(StatementList& from, int row, const std::vector<StatementList*>& over, StatementList& to,
-              int position) override {
+    void drag(StatementList& from, int row, const std::vector<StatementList*>& over,
+              StatementList& to, int position) override {
         StatementListView& source = viewOf(from);
         const QPoint start = pointAt(source, row);
         mousePress(*source.viewport(), start);
@@ -246,9 +246,8 @@ public:
             return std::nullopt;
         }
         paste(*chooser.nameBox(), *path);
-        QPushButton* accept = buttons->button(request.mode == FileDialogMode::Open
-                                                  ? QDialogButtonBox::Open
-                                                  : QDialogButtonBox::Save);
+        QPushButton* accept = buttons->button(
+            request.mode == FileDialogMode::Open ? QDialogButtonBox::Open : QDialogButtonBox::Save);
         if (accept->isEnabled())
             mouseClick(*accept, accept->rect().center());
         else
@@ -302,7 +301,8 @@ public:
         QPainter painter(&picture);
         for (QWidget* window : QApplication::topLevelWidgets())
             if (window != m_window.get() && window->isVisible() && window->isModal())
-                painter.drawPixmap(m_window->rect().center() - window->rect().center(), window->grab());
+                painter.drawPixmap(m_window->rect().center() - window->rect().center(),
+                                   window->grab());
         painter.end();
         return picture.save(QString::fromStdString(path), "PNG");
     }
@@ -313,7 +313,9 @@ private:
         return *static_cast<Widget*>(m_window->findChild<QWidget*>(fromCp1252(control.name())));
     }
 
-    StatementListView& viewOf(const StatementList& list) { return widgetOf<StatementListView>(list); }
+    StatementListView& viewOf(const StatementList& list) {
+        return widgetOf<StatementListView>(list);
+    }
 
     QWidget& pictureOf(Button button) {
         return widgetOf<QWidget>(m_program->frmMain.buttons[button].image);
@@ -356,7 +358,8 @@ private:
         };
         switch (step.act) {
             case ReportStep::Act::Format:
-                chooseFormat(*dialog.findChild<QComboBox*>(QStringLiteral("cboFormat")), step.format);
+                chooseFormat(*dialog.findChild<QComboBox*>(QStringLiteral("cboFormat")),
+                             step.format);
                 break;
             case ReportStep::Act::Text:
                 paste(*dialog.findChild<QLineEdit*>(QStringLiteral("txtEdit")), step.text);

@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Keeps the answers that the scenarios get now, played behind the toolkit-free view, as the
+# expected ones. Read the difference like code before committing it.
+#   scripts/accept_outputs.sh [AREA/CLAIM ...]     all scenarios when none is named
+set -euo pipefail
+cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
+
+if command -v ccache >/dev/null; then export CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
+cmake --preset headless >/dev/null
+cmake --build --preset headless --target orvanta_driver orvanta_scenarios
+build/headless/bin/orvanta_scenarios --driver build/headless/bin/orvanta_driver \
+    --scenarios tests/scenarios --accept "$@"
+git --no-pager diff --stat -- tests/scenarios

@@ -1,0 +1,80 @@
+#!/usr/bin/env bash
+# Looks over the source without running it: layout, clang-tidy, line ends, words. Needs no
+# network; a tool that is not here is a failure.
+set -euo pipefail
+cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
+
+failures=0
+fail() {
+    echo "FAILED: $*" >&2
+    failures=$((failures + 1))
+}
+
+have() {
+    command -v "$1" >/dev/null || fail "$1 is not here; scripts/install.sh check installs it"
+    command -v "$1" >/dev/null
+}
+
+# Of the tree as it stands: what is tracked and what would be added.
+files() { git ls-files --cached --others --exclude-standard --deduplicate -- "$@"; }
+
+check_layout() {
+    have clang-format || return 0
+    echo "-- layout"
+    files 'src/*.h' 'src/*.cpp' 'tests/*.h' 'tests/*.cpp' | tr '\n' '\0' |
+        xargs -0 clang-format --dry-run --Werror || fail "clang-format wants another layout"
+}
+
+check_tidy() {
+    if ! { have clang-tidy && have cmake && have ninja; }; then return 0; fi
+    echo "-- clang-tidy"
+    # Built as far as the headers that the toolkit's own tools write.
+    cmake --preset dev -B build/check -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >/dev/null
+    local generated
+    generated=$(ninja -C build/check -t targets all | sed -n 's/^\([^:]*_autogen\): .*/\1/p')
+    # shellcheck disable=SC2086  # one word a target
+    ninja -C build/check $generated >/dev/null
+    files 'src/*.cpp' 'tests/*.cpp' | tr '\n' '\0' |
+        xargs -0 -n 4 -P "$(nproc)" clang-tidy -p build/check --quiet \
+            --extra-arg=-Wno-unknown-warning-option || fail "clang-tidy found something"
+}
+
+check_line_ends() {
+    echo "-- line ends"
+    local wrong
+    wrong=$(git ls-files --eol --cached --others --exclude-standard |
+        awk '$3 != "attr/-text" && ($2 == "w/crlf" || $2 == "w/mixed")')
+    [[ -z $wrong ]] || fail "these files hold CR LF:"$'\n'"$wrong"
+    wrong=$(files '*.jsonl' '*.md' '*.h' '*.cpp' '*.sh' | xargs -r grep -l $'\r$' || true)
+    [[ -z $wrong ]] || fail "these files hold CR LF:"$'\n'"$wrong"
+    wrong=$(files '*.h' '*.cpp' '*.sh' '*.txt' '*.jsonl' | while read -r file; do
+        [[ ! -s $file || -z $(tail -c 1 -- "$file") ]] || echo "$file"
+    done)
+    [[ -z $wrong ]] || fail "these files lack the last line's end:"$'\n'"$wrong"
+}
+
+# The letters in brackets keep this file from finding itself.
+check_words() {
+    echo "-- words"
+    local kept_out='(^|[^A-Za-z])(the sp[e]c|sp[e]cification|P[a]rts? [1-8]\.[1-4]|[Ll]eft to the impl[e]menter|[Ee]dge cases worth t[e]sting|[Oo]rder of b[u]ilding)([^A-Za-z]|$)'
+    local of_a_machine='(^|[^A-Za-z0-9_.$])/(w[o]rk|f[a]rm|r[o]ot|h[o]me/[a-z]+/w[o]rk)/|d[e]b\.debian|r[e]gistry\.npmjs|s[u]bagent'
+    local unfinished='T[O]DO|F[I]XME|(^|[^X])XX[X]([^X]|$)|not impl[e]mented|GTEST_S[K]IP|D[I]SABLED_'
+    local found
+    found=$(files | xargs -d '\n' grep -nIE "$kept_out|$of_a_machine|$unfinished" | cut -c1-160 || true)
+    [[ -z $found ]] || fail "these words have no place here:"$'\n'"$found"
+}
+
+check_scripts() {
+    have shellcheck || return 0
+    echo "-- shellcheck"
+    files 'scripts/*.sh' .ci/run | xargs shellcheck || fail "shellcheck found something"
+}
+
+have git || exit 1
+check_layout
+check_line_ends
+check_words
+check_scripts
+check_tidy
+((failures == 0)) || { echo "$failures of the checks failed" >&2; exit 1; }
+echo "All checks passed."

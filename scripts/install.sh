@@ -1,0 +1,51 @@
+#!/usr/bin/env bash
+# Installs what the build, the tests, the tour and the checks need and this system lacks.
+#   scripts/install.sh [run|test|tour|check ...]     all of them when none is named
+set -euo pipefail
+
+declare -A packages=(
+    [run]="g++ cmake ninja-build qt6-base-dev libqt6svg6 fonts-dejavu-core xdg-utils"
+    [test]="g++ cmake ninja-build qt6-base-dev libqt6svg6 fonts-dejavu-core libgtest-dev
+            libbenchmark-dev nlohmann-json3-dev xvfb xauth dbus ccache"
+    [tour]="g++ cmake ninja-build qt6-base-dev libqt6svg6 fonts-dejavu-core nlohmann-json3-dev
+            libgtest-dev libbenchmark-dev xvfb xauth openbox dbus chromium"
+    [check]="clang-format clang-tidy git shellcheck g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev
+             libgtest-dev libbenchmark-dev"
+)
+
+wanted=()
+for purpose in "${@:-run test tour check}"; do
+    for name in $purpose; do
+        [[ -n ${packages[$name]:-} ]] || { echo "usage: $0 [run|test|tour|check ...]" >&2; exit 2; }
+        read -r -d '' -a words <<<"${packages[$name]}" || true
+        wanted+=("${words[@]}")
+    done
+done
+mapfile -t wanted < <(printf '%s\n' "${wanted[@]}" | sort -u)
+
+if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
+    echo "There is no apt here, so nothing is installed. These packages, named as on Debian, are" \
+         "needed: ${wanted[*]}. Going on with what is here."
+    exit 0
+fi
+
+installed=$(dpkg-query -W -f='${db:Status-Status} ${binary:Package}\n' | sed -n 's/^installed //p' |
+    sed 's/:.*//')
+missing=()
+for package in "${wanted[@]}"; do
+    grep -qxF -- "$package" <<<"$installed" || missing+=("$package")
+done
+((${#missing[@]})) || exit 0
+
+as_root=()
+if ((EUID != 0)); then
+    if ! command -v sudo >/dev/null; then
+        echo "Missing packages: ${missing[*]}. Install them as root; there is no sudo here." >&2
+        exit 1
+    fi
+    as_root=(sudo)
+fi
+echo "Installing: ${missing[*]}"
+"${as_root[@]}" apt-get -q update
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get -q install -y --no-install-recommends "${missing[@]}"

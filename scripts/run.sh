@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# Builds the program and starts it. Where no window can be shown, the tour is run instead.
+set -euo pipefail
+cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
+
+scripts/install.sh run
+if [[ -z ${DISPLAY:-} && -z ${WAYLAND_DISPLAY:-} ]]; then
+    echo "There is no display here (neither DISPLAY nor WAYLAND_DISPLAY is set), so no window can" \
+         "be shown. Running the tour instead: it plays the program in a window nobody sees and" \
+         "leaves pictures in build/tour/."
+    exec scripts/tour.sh
+fi
+if command -v ccache >/dev/null; then export CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
+cmake --preset release
+cmake --build --preset release
+exec build/release/bin/orvanta "$@"

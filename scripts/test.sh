@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# Builds the program and runs all tests: first without the window, then with it, then with the
+# address and undefined behaviour sanitizers.
+#   scripts/test.sh [headless|dev|asan ...]     all three when none is named
+set -euo pipefail
+cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
+
+scripts/install.sh test
+if command -v ccache >/dev/null; then export CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
+export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1:strict_string_checks=1:detect_stack_use_after_return=1}
+export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1}
+
+presets=("$@")
+((${#presets[@]})) || presets=(headless dev asan)
+for preset in "${presets[@]}"; do
+    echo "== $preset: configure"
+    cmake --preset "$preset"
+    echo "== $preset: build"
+    cmake --build --preset "$preset"
+    echo "== $preset: test"
+    ctest --preset "$preset" --parallel "$(nproc)"
+done

@@ -1,0 +1,109 @@
+#include "desktop/statement_list_view.h"
+
+#include <gtest/gtest.h>
+
+#include <QScrollBar>
+#include <QtTest>
+
+#include "window_bench.h"
+
+namespace orvanta::test {
+
+namespace {
+
+using namespace orvanta::desktop;
+
+Texts shownTexts(const QListView& view) {
+    Texts texts;
+    for (int row = 0; row < view.model()->rowCount(); ++row)
+        texts.push_back(toCp1252(view.model()->index(row, 0).data().toString()));
+    return texts;
+}
+
+/// Position of the row that is shown as selected; 0 for none.
+int shownSelection(const QListView& view) {
+    const QModelIndexList chosen = view.selectionModel()->selectedIndexes();
+    return chosen.isEmpty() ? 0 : chosen.front().row() + 1;
+}
+
+class StatementListViewTest : public testing::Test {
+protected:
+    StatementListViewTest() {
+        bench.start();
+        bench.openBrainstorm();
+        bench.enter("txtStrength", {"A", "B", "C", "D"});
+        bench.window().show();
+        QCoreApplication::processEvents();
+    }
+
+    StatementList& list() { return bench.form().lvBStrength; }
+    StatementListView& view() { return bench.widget<StatementListView>("lvBStrength"); }
+
+    WindowBench<> bench;
+};
+
+}  // namespace
+
+TEST_F(StatementListViewTest, ShowsRowsThatComeGoAndChange) {
+    list().insert(2, {.key = "S9", .text = "New", .image = 1});
+    list().remove(4);
+    list().setText(1, "First");
+    EXPECT_EQ(shownTexts(view()), (Texts{"First", "New", "B", "D"}));
+}
+
+TEST_F(StatementListViewTest, ShowsAMovedRowInItsNewPlace) {
+    for (int press = 0; press < 6; ++press)
+        bench.click("BNext");  // three strengths, three weaknesses
+    bench.enter("txtOpportunity", {"A", "B", "C", "D"});
+    bench.drag("lvBOpportunity", 1, "lvBOpportunity", 3);
+    auto& opportunities = bench.widget<StatementListView>("lvBOpportunity");
+    EXPECT_EQ(shownTexts(opportunities), (Texts{"B", "C", "A", "D"}));
+    EXPECT_EQ(shownSelection(opportunities), 3);
+}
+
+TEST_F(StatementListViewTest, FollowsTheSelectionOfTheList) {
+    list().select(3);
+    EXPECT_EQ(shownSelection(view()), 3);
+    list().remove(3);
+    EXPECT_EQ(shownSelection(view()), 3);
+    list().select(0);
+    EXPECT_EQ(shownSelection(view()), 0);
+}
+
+TEST_F(StatementListViewTest, TellsTheListOfAClickOnARow) {
+    QTest::mouseClick(view().viewport(), Qt::LeftButton, {},
+                      view().visualRect(view().indexAtPosition(2)).center());
+    EXPECT_EQ(list().selected(), 2);
+}
+
+TEST_F(StatementListViewTest, KeepsTheListsChoiceWhenQtWouldSelectAnotherRow) {
+    WindowBench<AnalysisBench> analysis;
+    analysis.goTo(mappingSides()[0]);
+    analysis.select("lvOpportunity", 1);
+    analysis.form().lvOpportunity.remove(1);
+    EXPECT_EQ(analysis.form().lvOpportunity.selected(), 0);
+    EXPECT_EQ(shownSelection(analysis.widget<StatementListView>("lvOpportunity")), 0);
+}
+
+TEST_F(StatementListViewTest, MakesNoObjectForARow) {
+    const auto objectCount = [this] { return view().findChildren<QObject*>().size(); };
+    const auto before = objectCount();
+    for (int i = 0; i < 100'000; ++i) list().add({.key = {}, .text = "Row", .image = 1});
+    QCoreApplication::processEvents();
+    view().scrollToBottom();
+    view().grab();
+    EXPECT_EQ(objectCount(), before);
+    EXPECT_EQ(view().model()->rowCount(), 100'004);
+}
+
+TEST_F(StatementListViewTest, BringsAnAddedRowIntoView) {
+    for (int i = 0; i < 100; ++i) list().add({.key = {}, .text = "Row", .image = 1});
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view().verticalScrollBar()->value(), 0);  // a list that is filled stays at its top
+    bench.enter("txtStrength", {"Last"});
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(view().viewport()->rect().contains(
+        view().visualRect(view().indexAtPosition(105)).center()));
+}
+
+}  // namespace orvanta::test

@@ -1,0 +1,86 @@
+#include "desktop/text_box_view.h"
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QtTest>
+
+#include "desktop/conversions.h"
+
+namespace orvanta::test {
+
+namespace {
+
+using namespace orvanta::desktop;
+
+class TextBoxViewTest : public testing::Test {
+protected:
+    void paste(const QString& text) {
+        QGuiApplication::clipboard()->setText(text);
+        QTest::keyClick(&view, Qt::Key_V, Qt::ControlModifier);
+    }
+
+    ControlSet controls;
+    TextBox model{controls, "txtAny", 10};
+    std::string typed;
+    char refused = 0;
+    TextBoxView view{model, [this](char character) {
+                         typed += character;
+                         return character != refused;
+                     }};
+};
+
+}  // namespace
+
+TEST_F(TextBoxViewTest, AsksAboutEachTypedCharacter) {
+    refused = '/';
+    QTest::keyClicks(&view, "a/b");
+    EXPECT_EQ(typed, "a/b");
+    EXPECT_EQ(model.text(), "ab");
+}
+
+TEST_F(TextBoxViewTest, DoesNotAskAboutPastedText) {
+    refused = '/';
+    paste("a/b");
+    EXPECT_EQ(typed, "");
+    EXPECT_EQ(model.text(), "a/b");
+}
+
+TEST_F(TextBoxViewTest, ShowsAQuestionMarkForWhatTheCodePageLacks) {
+    paste(QString::fromUtf8("\xC3\xA9\xD0\x96\xF0\x9F\x98\x80."));
+    EXPECT_EQ(view.text(), QString::fromUtf8("\xC3\xA9??."));
+    EXPECT_EQ(model.text(), "\xE9??.");
+}
+
+TEST_F(TextBoxViewTest, TurnsPastedLineBreaksIntoBlanks) {
+    paste("a\nb");
+    EXPECT_EQ(view.text(), "a b");
+}
+
+TEST_F(TextBoxViewTest, CutsWhatIsEnteredBeyondItsLength) {
+    QTest::keyClicks(&view, "12345678");
+    view.setCursorPosition(4);
+    paste("abcdef");
+    EXPECT_EQ(model.text(), "1234ab5678");
+    QTest::keyClicks(&view, "x");
+    EXPECT_EQ(model.text(), "1234ab5678");
+}
+
+TEST_F(TextBoxViewTest, KeepsALongerTextOfTheProgramAndLetsItShrink) {
+    model.setText("123456789012345");
+    EXPECT_EQ(view.text(), "123456789012345");
+    view.setCursorPosition(15);
+    QTest::keyClicks(&view, "x");
+    EXPECT_EQ(model.text(), "123456789012345");
+    QTest::keyClick(&view, Qt::Key_Backspace);
+    EXPECT_EQ(model.text(), "12345678901234");
+}
+
+TEST_F(TextBoxViewTest, ReportsEnterAsAReturnCharacter) {
+    QTest::keyClick(&view, Qt::Key_Return);
+    EXPECT_EQ(typed, "\r");
+    EXPECT_EQ(model.text(), "");
+}
+
+}  // namespace orvanta::test

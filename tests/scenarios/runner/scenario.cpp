@@ -1,0 +1,208 @@
+#include "scenario.h"
+
+#include <stdlib.h>
+
+#include <fstream>
+#include <memory>
+#include <sstream>
+
+#include "driver_process.h"
+#include "view/windows1252.h"
+
+// Besides the driver's own lines a scenario may hold lines for the one who plays it:
+// {"look":[paths]} asks for the state and keeps what the paths lead to, {"restart":true} ends
+// the driver as a crash does and starts another on the same folders, {"file":path} shows a
+// file's bytes, read as Windows-1252, line by line with their ends, and {"remove":path} takes a
+// file off the disk.
+
+namespace orvanta::scenarios {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view folderWord = "$DIR";
+
+/// A new folder, removed with all it holds.
+class TemporaryFolder {
+public:
+    TemporaryFolder() {
+        std::string name = (fs::temp_directory_path() / "scenario-XXXXXX").string();
+        if (!::mkdtemp(name.data())) throw Broken("no temporary folder can be made");
+        m_path = fs::canonical(name);
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder() {
+        std::error_code passedOver;
+        fs::remove_all(m_path, passedOver);
+    }
+    const fs::path& path() const { return m_path; }
+
+private:
+    fs::path m_path;
+};
+
+std::string replaced(std::string text, std::string_view what, std::string_view by) {
+    std::size_t at = 0;
+    while ((at = text.find(what, at)) != std::string::npos) {
+        text.replace(at, what.size(), by);
+        at += by.size();
+    }
+    return text;
+}
+
+/// The value with `what` replaced in each of its strings.
+Json replaced(const Json& value, std::string_view what, std::string_view by) {
+    if (value.is_string()) return replaced(value.get<std::string>(), what, by);
+    if (!value.is_structured()) return value;
+    Json result = value;
+    for (Json& inner : result) inner = replaced(inner, what, by);
+    return result;
+}
+
+std::string bytesOf(const fs::path& path) {
+    std::ostringstream bytes;
+    bytes << std::ifstream(path, std::ios::binary).rdbuf();
+    return bytes.str();
+}
+
+bool holdsBanks(const fs::path& folder) {
+    if (!fs::is_directory(folder)) return false;
+    for (const auto& entry : fs::directory_iterator(folder))
+        if (entry.path().filename().string().ends_with("questions.txt")) return true;
+    return false;
+}
+
+/// One scenario while it is played.
+class Play {
+public:
+    Play(const Theatre& theatre, const fs::path& scenario) : m_theatre(theatre) {
+        for (const char* folder : {"app", "docs"}) fs::create_directory(m_folder.path() / folder);
+        const fs::path start = scenario / "start";
+        if (!holdsBanks(start / "app")) copy(theatre.standard);
+        if (fs::exists(start)) copy(start);
+        startDriver();
+    }
+
+    Json answerTo(const Json& line) {
+        if (line.contains("look")) return look(line["look"]);
+        if (line.contains("file")) return file(line["file"].get<std::string>());
+        if (line.contains("remove")) return remove(line["remove"].get<std::string>());
+        if (line.contains("restart")) return restart();
+        const Json answer = ask(line);
+        if (hasExited(answer)) {
+            m_driver->finish(0);
+            m_driver.reset();
+        }
+        return answer;
+    }
+
+    void end() {
+        if (m_driver) m_driver->finish(0);
+    }
+
+private:
+    void copy(const fs::path& from) {
+        fs::copy(from, m_folder.path(),
+                 fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    }
+
+    void startDriver() {
+        const fs::path& folder = m_folder.path();
+        std::vector<std::string> command{m_theatre.driver,        "--app",         folder / "app",
+                                         "--documents",           folder / "docs", "--settings",
+                                         folder / "settings.json"};
+        if (m_theatre.window) command.push_back("--window");
+        m_driver = std::make_unique<DriverProcess>(command, folder, m_deadline);
+    }
+
+    Json ask(const Json& line) {
+        if (!m_driver) throw Broken("the program has ended, and the scenario goes on");
+        m_driver->send(replaced(line, folderWord, m_folder.path().string()).dump());
+        const Json answer = Json::parse(m_driver->receive(), nullptr, false);
+        if (answer.is_discarded()) throw Broken("the driver's answer is no JSON");
+        return replaced(answer, m_folder.path().string(), folderWord);
+    }
+
+    static bool hasExited(const Json& answer) {
+        if (!answer.contains("events")) return false;
+        for (const Json& event : answer["events"])
+            if (event.at("event") == "exit") return true;
+        return false;
+    }
+
+    Json look(const Json& paths) {
+        const Json answer = ask({{"do", "state"}});
+        Json seen = Json::object();
+        for (const Json& path : paths) {
+            const std::string name = path.get<std::string>();
+            seen[name] = lookedAt(answer.at("state"), name);
+        }
+        Json result{{"look", std::move(seen)}};
+        if (!answer.at("events").empty()) result["events"] = answer["events"];
+        return result;
+    }
+
+    Json file(const std::string& name) const {
+        const fs::path path = m_folder.path() / name;
+        if (fs::is_directory(path)) return {{"file", name}, {"folder", true}};
+        if (!fs::is_regular_file(path)) return {{"file", name}, {"lines", nullptr}};
+        Json lines = Json::array();
+        const std::string bytes = bytesOf(path);
+        for (std::size_t at = 0; at < bytes.size();) {
+            const std::size_t end = std::min(bytes.find('\n', at), bytes.size() - 1) + 1;
+            lines.push_back(utf8From1252(std::string_view(bytes).substr(at, end - at)));
+            at = end;
+        }
+        return replaced({{"file", name}, {"lines", std::move(lines)}}, m_folder.path().string(),
+                        folderWord);
+    }
+
+    Json remove(const std::string& name) const {
+        return {{"remove", name}, {"removed", fs::remove(m_folder.path() / name)}};
+    }
+
+    Json restart() {
+        if (m_driver) {
+            m_driver->send(Json{{"do", "kill"}}.dump());
+            m_driver->finish(1);
+        }
+        startDriver();
+        return {{"restart", true}};
+    }
+
+    const Theatre& m_theatre;
+    TemporaryFolder m_folder;
+    Deadline m_deadline = std::chrono::steady_clock::now() + m_theatre.timeOut;
+    std::unique_ptr<DriverProcess> m_driver;
+};
+
+bool isComment(const std::string& line) {
+    const std::size_t first = line.find_first_not_of(" \t\r");
+    return first == std::string::npos || line[first] == '#';
+}
+
+}  // namespace
+
+std::vector<Played> play(const Theatre& theatre, const fs::path& scenario) {
+    Play play(theatre, scenario);
+    std::ifstream lines(scenario / "lines.jsonl");
+    std::vector<Played> played;
+    std::string line;
+    while (std::getline(lines, line)) {
+        if (isComment(line)) continue;
+        const Json parsed = Json::parse(line, nullptr, false);
+        if (!parsed.is_object()) throw Broken("this line is no JSON object: " + line);
+        try {
+            played.push_back({line, play.answerTo(parsed)});
+        } catch (const Broken& broken) {
+            throw Broken("at " + line + "\n    " + broken.what());
+        }
+    }
+    play.end();
+    if (played.empty()) throw Broken("the scenario holds no line");
+    return played;
+}
+
+}  // namespace orvanta::scenarios
