@@ -40,8 +40,10 @@ void reduceBounds(Control& control, double delta, HeightRule heightRule = Height
 template <class Kind>
 bool lowerFontOf(Control& control, double points) {
     auto* found = dynamic_cast<Kind*>(&control);
-    if (found) found->fontSize.value -= points;
-    return found != nullptr;
+    if (!found) return false;
+    found->fontSize.value -= points;
+    found->changed();
+    return true;
 }
 
 template <class... Kinds>

@@ -23,6 +23,17 @@ void reportingFailures(MessageBoxes& messages, Steps steps) {
     }
 }
 
+/// At the edge: runs what an event leads to. A failure that nothing has caught by then ends the
+/// event alone.
+template <class Steps>
+void endingEventOnFailure(Lifetime& lifetime, Steps steps) {
+    try {
+        steps();
+    } catch (const Failure& failure) {
+        lifetime.reportUnhandled(failure);
+    }
+}
+
 /// Runs each step that it is given; a failing one is passed over and nothing is said.
 class CarryOn {
 public:

@@ -4,6 +4,7 @@
 #include "analyze/mapping.h"
 #include "analyze/statements.h"
 #include "brainstorm/statements.h"
+#include "core/failures.h"
 #include "core/kind_controls.h"
 #include "core/startup.h"
 #include "journal/journal.h"
@@ -17,14 +18,9 @@ namespace orvanta {
 
 namespace {
 
-/// Runs what an event leads to. A failure that nothing has caught by then ends the event alone.
 template <class Steps>
 void handle(Program& program, Steps steps) {
-    try {
-        steps();
-    } catch (const Failure& failure) {
-        program.platform.lifetime.reportUnhandled(failure);
-    }
+    endingEventOnFailure(program.platform.lifetime, steps);
 }
 
 /// Enter in an answer box adds what it holds; elsewhere it does nothing.

@@ -8,47 +8,49 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
-#include <algorithm>
 
+#include "core/failures.h"
 #include "desktop/art.h"
 #include "desktop/label_view.h"
 #include "desktop/mirrors.h"
-#include "desktop/text_box_view.h"
 #include "desktop/theme.h"
 
 namespace orvanta::desktop {
 
 namespace {
 
-/// A picture behind the controls, above a light foot for the buttons; or plain paper.
+/// Plain paper, or a picture behind the controls and a light foot behind the buttons.
 class DialogGround : public ControlArea {
 public:
     DialogGround(const PixelGrid& pixelGrid, QWidget* parent) : ControlArea(pixelGrid, parent) {}
 
-    void setPicture(const QString& name) { m_picture = name; }
+    void setPicture(const QString& name, const Control& footButton) {
+        m_picture = name;
+        m_footButton = &footButton;
+    }
 
 protected:
     void paintEvent(QPaintEvent*) override {
-        constexpr double footShare = 0.38, mostFoot = 64;
+        constexpr int aboveButton = 13;
         QPainter painter(this);
-        painter.fillRect(rect(), m_picture.isEmpty() ? theme::paper : theme::sideGround);
-        if (m_picture.isEmpty()) return;
-        const int foot = static_cast<int>(std::min(mostFoot, height() * footShare));
-        drawPicture(painter, rect().adjusted(0, 0, 0, -foot), m_picture);
+        painter.fillRect(rect(), m_footButton ? theme::sideGround : theme::paper);
+        if (!m_footButton) return;
+        const int foot = pixelGrid().pixels(m_footButton->bounds().top) - aboveButton;
+        drawPicture(painter, {0, 0, width(), foot}, m_picture);
     }
 
 private:
     QString m_picture;
+    const Control* m_footButton = nullptr;
 };
 
-/// Runs what a person does in a dialog. A failure that nothing has caught ends the act alone.
 template <class Act>
 void handle(Program& program, Act act) {
-    try {
-        act();
-    } catch (const Failure& failure) {
-        program.platform.lifetime.reportUnhandled(failure);
-    }
+    endingEventOnFailure(program.platform.lifetime, act);
+}
+
+void putBackground(ControlArea& area, const Control& footButton) {
+    static_cast<DialogGround&>(area).setPicture(QStringLiteral("dialog_background"), footButton);
 }
 
 void putLabel(Label& model, ControlArea& area, const QColor& ink) {
@@ -100,15 +102,14 @@ void FormDialog::closeEvent(QCloseEvent* event) {
 EditDialog::EditDialog(Program& program, FrmEdit& form, QWidget* owner)
     : FormDialog(program, owner), m_form(form) {
     setObjectName(QStringLiteral("frmEdit"));
-    static_cast<DialogGround*>(m_area)->setPicture(QStringLiteral("dialog_background"));
+    putBackground(*m_area, form.btnOk.image);
     putLabel(form.Label1, *m_area, theme::paper);
     constexpr char enterKey = 13;
     const auto typed = [this](char character) {
         if (character == enterKey) handle(m_program, [&] { commitEdit(m_program, m_form); });
         return true;
     };
-    auto* box = new TextBoxView(form.txtEdit, typed, m_area);
-    mirrorControl(form.txtEdit, *box, *m_area);
+    TextBoxView* box = makeTextBox(form.txtEdit, *m_area, typed);
     const auto pressed = [this](SkinnedButton& button) {
         return [this, &button] { pressEditButton(m_program, button); };
     };
@@ -131,13 +132,11 @@ void EditDialog::keyPressEvent(QKeyEvent* event) {
 ReportDialog::ReportDialog(Program& program, FrmReportType& form, QWidget* owner)
     : FormDialog(program, owner), m_form(form) {
     setObjectName(QStringLiteral("frmReportType"));
-    static_cast<DialogGround*>(m_area)->setPicture(QStringLiteral("dialog_background"));
+    putBackground(*m_area, form.OKButton);
     for (Label* label : {&form.Label1, &form.Label2, &form.lblGenerating})
         putLabel(*label, *m_area, theme::paper);
     makeComboBox(form.cboFormat, *m_area);
-    auto* box = new TextBoxView(
-        form.txtEdit, [](char) { return true; }, m_area);
-    mirrorControl(form.txtEdit, *box, *m_area);
+    TextBoxView* box = makeTextBox(form.txtEdit, *m_area, [](char) { return true; });
     makePushButton(form.cmdBrowse, *m_area,
                    [this] { handle(m_program, [&] { browseForAnalyzeFile(m_program, m_form); }); });
     makePushButton(form.OKButton, *m_area, [this] {

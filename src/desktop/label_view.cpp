@@ -26,8 +26,9 @@ void LabelView::resizeEvent(QResizeEvent* event) {
 }
 
 void LabelView::fit() {
-    constexpr double smallest = 7, step = 0.75;
+    constexpr double smallestShare = 0.6, step = 0.75;
     Points size = m_model.fontSize;
+    const double smallest = size.value * smallestShare;
     setFont(m_pixelGrid.font(size, m_model.bold));
     while (size.value - step >= smallest && heightForWidth(width()) > height()) {
         size.value -= step;

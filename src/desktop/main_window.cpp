@@ -12,7 +12,6 @@
 #include "desktop/art.h"
 #include "desktop/label_view.h"
 #include "desktop/mirrors.h"
-#include "desktop/text_box_view.h"
 #include "desktop/theme.h"
 
 namespace orvanta::desktop {
@@ -121,31 +120,36 @@ void MainWindow::makeOthers() {
     undo->setIcon(pictureIcon(QStringLiteral("undo")));
     QPushButton* redo = makePushButton(form.cmdRedo, *this, [this] { redoClicked(m_program); });
     redo->setIcon(pictureIcon(QStringLiteral("redo")));
-    auto* distribute = new LinkView(form.lblDistribute, LinkView::Ground::Card, pixelGrid(),
-                                    &areaOf(form.lblDistribute));
-    connect(distribute, &QPushButton::clicked, [this] { distributeClicked(m_program); });
-    mirrorControl(form.lblDistribute, *distribute, areaOf(form.lblDistribute));
+    makeDistributeLink();
     makeListBox(form.lstFiles, areaOf(form.lstFiles));
-
     for (Control* control : form.controls.all()) {
         ControlArea& area = areaOf(*control);
-        if (area.findChild<QWidget*>(fromCp1252(control->name()), Qt::FindDirectChildrenOnly))
-            continue;
-        if (auto* list = dynamic_cast<StatementList*>(control)) {
-            mirrorControl(*list, *new StatementListView(m_program, *list, m_input, &area), area);
-        } else if (auto* box = dynamic_cast<TextBox*>(control)) {
-            auto* view = new TextBoxView(
-                *box,
-                [this, box](char character) { return characterTyped(m_program, *box, character); },
-                &area);
-            mirrorControl(*box, *view, area);
-        } else if (auto* option = dynamic_cast<Option*>(control)) {
-            makeOption(*option, area);
-        } else if (auto* label = dynamic_cast<Label*>(control)) {
-            mirrorControl(*label, *new LabelView(*label, pixelGrid(), &area), area);
-        } else if (dynamic_cast<Image*>(control)) {
-            mirrorControl(*control, *new QWidget(&area), area);  // only holds the art of others
-        }
+        const QString name = fromCp1252(control->name());
+        if (!area.findChild<QWidget*>(name, Qt::FindDirectChildrenOnly)) makeByKind(*control, area);
+    }
+}
+
+void MainWindow::makeDistributeLink() {
+    Label& model = m_program.frmMain.lblDistribute;
+    ControlArea& area = areaOf(model);
+    auto* link = new LinkView(model, LinkView::Ground::Card, pixelGrid(), &area);
+    connect(link, &QPushButton::clicked, [this] { distributeClicked(m_program); });
+    mirrorControl(model, *link, area);
+}
+
+void MainWindow::makeByKind(Control& control, ControlArea& area) {
+    if (auto* list = dynamic_cast<StatementList*>(&control)) {
+        mirrorControl(*list, *new StatementListView(m_program, *list, m_input, &area), area);
+    } else if (auto* box = dynamic_cast<TextBox*>(&control)) {
+        makeTextBox(*box, area, [this, box](char character) {
+            return characterTyped(m_program, *box, character);
+        });
+    } else if (auto* option = dynamic_cast<Option*>(&control)) {
+        makeOption(*option, area);
+    } else if (auto* label = dynamic_cast<Label*>(&control)) {
+        mirrorControl(*label, *new LabelView(*label, pixelGrid(), &area), area);
+    } else {
+        mirrorControl(control, *new QWidget(&area), area);  // holds the art of others, unseen
     }
 }
 

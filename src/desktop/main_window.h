@@ -25,6 +25,8 @@ private:
     void makePanels();
     void makeButtons();
     void makeOthers();
+    void makeDistributeLink();
+    void makeByKind(Control& control, ControlArea& area);
     void makeListCommands();
     void orderTabs();
     ControlArea& areaOf(const Control& control);

@@ -45,6 +45,14 @@ void mirrorControl(Control& model, QWidget& widget, ControlArea& area) {
     model.focusGiven.subscribe([&widget] { widget.setFocus(); });
 }
 
+TextBoxView* makeTextBox(TextBox& model, ControlArea& area, TextBoxView::Typed typed) {
+    auto* widget = new TextBoxView(model, std::move(typed), &area);
+    follow(model,
+           [&model, widget, &area] { widget->setFont(area.pixelGrid().font(model.fontSize)); });
+    mirrorControl(model, *widget, area);
+    return widget;
+}
+
 QRadioButton* makeOption(Option& model, ControlArea& area) {
     auto* widget = new QRadioButton(&area);
     const auto show = [&model, widget, &area] {

@@ -2,6 +2,7 @@
 
 #include "desktop/control_area.h"
 #include "desktop/skinned_button_view.h"
+#include "desktop/text_box_view.h"
 #include "view/control.h"
 
 class QCheckBox;
@@ -19,6 +20,7 @@ namespace orvanta::desktop {
 /// the widget.
 void mirrorControl(Control& model, QWidget& widget, ControlArea& area);
 
+TextBoxView* makeTextBox(TextBox& model, ControlArea& area, TextBoxView::Typed typed);
 QRadioButton* makeOption(Option& model, ControlArea& area);
 /// A click hands the wanted state to `clicked`.
 QCheckBox* makeCheckBox(CheckBox& model, ControlArea& area, std::function<void(bool on)> clicked);

@@ -73,30 +73,44 @@ constexpr auto flatLook = R"(
 QLineEdit { background: #ffffff; border: 1px solid #b9c5de; border-radius: 4px; padding: 0 8px; }
 QLineEdit:focus { border: 2px solid #003399; padding: 0 7px; }
 QFileDialog QLineEdit { min-height: 22px; }
+
 QListView { background: #ffffff; border: 1px solid #b9c5de; border-radius: 4px; padding: 2px; }
 QListView:focus { border: 1px solid #003399; }
 QListWidget::item { padding: 6px 8px; border-bottom: 1px solid #e4e9f3; color: #1b253b; }
-QListWidget::item:selected { background: #e3ebfb; border-left: 4px solid #003399; padding-left: 4px; }
-QPushButton { background: #ffffff; color: #003399; border: 1px solid #b9c5de; border-radius: 4px; padding: 3px 7px; }
+QListWidget::item:selected {
+    background: #e3ebfb; border-left: 4px solid #003399; padding-left: 4px;
+}
+
+QPushButton {
+    background: #ffffff; color: #003399; border: 1px solid #b9c5de; border-radius: 4px;
+    padding: 3px;
+}
 QPushButton:hover { background: #f3f6fc; border-color: #003399; }
 QPushButton:pressed { background: #e3ebfb; }
-QPushButton:focus { border: 2px solid #003399; padding: 2px 6px; }
+QPushButton:focus { border: 2px solid #003399; padding: 2px; }
 QPushButton:default { background: #003399; color: #ffffff; border-color: #003399; }
 QPushButton:default:hover { background: #0b409f; }
 QPushButton:default:focus { border: 2px solid #8fb0f0; }
 QPushButton:disabled { color: #8a94a8; background: #f3f6fc; border-color: #e4e9f3; }
-QMessageBox QPushButton, QFileDialog QPushButton, QPrintPreviewDialog QPushButton { min-width: 72px; min-height: 22px; }
-QRadioButton::indicator { width: 14px; height: 14px; border: 1px solid #8fa3c8; border-radius: 8px; background: #ffffff; }
+QMessageBox QPushButton, QFileDialog QPushButton, QPrintPreviewDialog QPushButton {
+    min-width: 72px; min-height: 22px;
+}
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
+
+QRadioButton::indicator {
+    width: 14px; height: 14px; border: 1px solid #8fa3c8; border-radius: 8px; background: #ffffff;
+}
 QRadioButton::indicator:hover { border-color: #003399; }
 QRadioButton::indicator:checked { width: 6px; height: 6px; border: 5px solid #003399; }
-QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
+
 QToolTip { background: #ffffff; color: #1b253b; border: 1px solid #b9c5de; padding: 4px; }
+
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
-QScrollBar::handle:vertical { background: #b9c5de; border-radius: 4px; min-height: 32px; margin: 2px; }
-QScrollBar::handle:vertical:hover { background: #8fa3c8; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; }
-QScrollBar::handle:horizontal { background: #b9c5de; border-radius: 4px; min-width: 32px; margin: 2px; }
-QScrollBar::handle:horizontal:hover { background: #8fa3c8; }
+QScrollBar::handle { background: #b9c5de; border-radius: 4px; margin: 2px; }
+QScrollBar::handle:vertical { min-height: 32px; }
+QScrollBar::handle:horizontal { min-width: 32px; }
+QScrollBar::handle:hover { background: #8fa3c8; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )";

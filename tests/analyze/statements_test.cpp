@@ -134,6 +134,14 @@ TEST_P(ReviewedStatement, ConfirmedUnchangedMarksTheSessionWithoutARecord) {
     EXPECT_TRUE(bench.form().editAFlag);
 }
 
+TEST_P(ReviewedStatement, GivesItsTextToCopiesThatHaveAnotherEvenWhenEditingIsCancelled) {
+    for (const std::string& copy : kind.companions) bench.list(copy).setText(2, "other");
+    bench.select(kind.list, 2);
+    bench.click(kind.buttons + "Edit");
+    for (const std::string& copy : kind.companions)
+        EXPECT_EQ(bench.texts(copy)[1], "Ann " + kind.key(2)) << copy;
+}
+
 TEST_P(ReviewedStatement, EditedInLetterCaseAloneLeavesARecord) {
     edit(2, "ANN " + kind.key(2));
     EXPECT_EQ(bench.undoRecords().size(), 1u);

@@ -96,6 +96,7 @@ TEST_F(AnalyzeEnd, StaysWhenTheFileIsNotToBeOverwritten) {
 
 TEST_F(AnalyzeEnd, SavesTellsSoAndLeavesTheModule) {
     bench.disk.files["app/analyze.tmp"] = "left over";
+    bench.form().undoRecords[0] = "a record";
     bench.answerFile("docs/team.aze");
     const Json seen = clickEvents(bench, "ANext");
     EXPECT_EQ(seen, Json::array({stopped(), fileDialog("save", "docs/My SWOT", "docs/team.aze"),

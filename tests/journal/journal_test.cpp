@@ -152,6 +152,17 @@ TEST_F(Journal, IsEmptiedWhenAModuleIsOpened) {
     EXPECT_EQ(bench.undoRecords(), Texts{});
 }
 
+TEST_F(Journal, IsEmptiedWhenABrainstormFileIsOpened) {
+    bench.click("Brainstorm");
+    bench.form().undoRecords[0] = bench.form().redoRecords[1] = "a record";
+    bench.disk.files["docs/a.bsm"] = brainstormFile("Ann", "GBS", {"Brand"}, {}, {}, {});
+    bench.answerFile("docs/a.bsm");
+    bench.click("BOpen");
+    EXPECT_EQ(bench.texts("lvBStrength"), Texts{"Brand"});
+    EXPECT_EQ(bench.undoRecords(), Texts{});
+    EXPECT_EQ(bench.redoRecords(), Texts{});
+}
+
 TEST_F(Journal, IsEmptyAfterARecovery) {
     addStrengths(1);
     bench.play({{"do", "tick"}});

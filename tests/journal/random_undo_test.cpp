@@ -208,8 +208,14 @@ void doAnything(SideBySide& both, Dice& dice) {
     both.redo();
 }
 
+struct NameOfSeed {
+    std::string operator()(const testing::TestParamInfo<int>& seed) const {
+        return "Seed" + std::to_string(seed.param);
+    }
+};
+
 class RandomChanges : public testing::TestWithParam<int> {};
-INSTANTIATE_TEST_SUITE_P(Seed, RandomChanges, testing::Range(1, 11));
+INSTANTIATE_TEST_SUITE_P(From, RandomChanges, testing::Range(1, 11), NameOfSeed());
 
 TEST_P(RandomChanges, LeaveListsAndJournalAsTheRulesTell) {
     SideBySide both;

@@ -136,6 +136,12 @@ TEST_P(BrainstormUndo, OfAnEditSetsTheTextOfWhateverRowStandsThere) {
     EXPECT_EQ(bench.redoRecords(), Texts{record(kind.tag("EDIT"), 3, "", "C")});
 }
 
+TEST_P(BrainstormUndo, OfAnEditWritesACounterRecordWithoutAnExtraField) {
+    giveRecord(record(kind.tag("EDIT"), 3, "", "Z", "more"));
+    undo();
+    EXPECT_EQ(bench.redoRecords(), Texts{record(kind.tag("EDIT"), 3, "", "C")});
+}
+
 TEST_P(BrainstormUndo, OfAnAdditionBeyondTheListChangesNothingButCountsAsUndone) {
     giveRecord(record(kind.tag("DEL"), 9, kind.key(9), "Z"));
     undo();

@@ -1,0 +1,165 @@
+#include "sessionfiles/analyze_file.h"
+
+#include <gtest/gtest.h>
+
+#include "analyze/list_marks.h"
+#include "bench.h"
+
+namespace orvanta::test {
+namespace {
+
+/// A row line of an analyze file.
+std::string line(const std::string& key, const std::string& label, const std::string& text) {
+    return key + "<!-SWOT-!>" + label + "<!-SWOT-!>" + text;
+}
+
+class AnalyzeFile : public ::testing::Test {
+protected:
+    AnalyzeFile() { bench.start(); }
+
+    void read(const Texts& file, bool restoreStep = false) {
+        bench.disk.files["docs/x.aze"] = lines(file);
+        loadAnalyzeData(bench.program(), "docs/x.aze", restoreStep);
+    }
+
+    Bench bench;
+};
+
+const Texts smallAnalysis{"<MODULE>",
+                          "MP",
+                          "</MODULE>",
+                          "<STRENGTH>",
+                          line("S2", "[Dana Reyes]: ", "Loyal customers"),
+                          line("S1", "[Lee Park]: ", "Strong brand"),
+                          "</STRENGTH>",
+                          "<WEAKNESS>",
+                          line("W1", "", "Slow delivery"),
+                          "</WEAKNESS>",
+                          "<OPPORTUNITY>",
+                          line("O1", "[Lee Park]: ", "New market"),
+                          "</OPPORTUNITY>",
+                          "<THREATS>",
+                          line("T1", "[Dana Reyes]: ", "New competitor"),
+                          "</THREATS>",
+                          "<OPPORTUNITYMAPPING>",
+                          line("O1", "[Lee Park]: ", "New market"),
+                          line("O1-S2", "[Dana Reyes]: ", "Loyal customers"),
+                          line("O1-W1", "", "Slow delivery"),
+                          "</OPPORTUNITYMAPPING>",
+                          "<THREATMAPPING>",
+                          line("T1", "[Dana Reyes]: ", "New competitor"),
+                          "</THREATMAPPING>"};
+
+TEST_F(AnalyzeFile, ComesBackByteForByteWhenItIsReadAndWritten) {
+    read(smallAnalysis);
+    EXPECT_EQ(analyzeBytes(bench.form(), false), lines(smallAnalysis));
+}
+
+TEST_F(AnalyzeFile, TellsTheStepInItsTemporaryFormAlone) {
+    read(smallAnalysis);
+    bench.form().fraAnalyzeOpportunity.show();
+    EXPECT_EQ(analyzeBytes(bench.form(), true),
+              lines({"<STEP>", "AO", "</STEP>"}) + lines(smallAnalysis));
+}
+
+TEST_F(AnalyzeFile, FillsThePickingListsInStep) {
+    read(smallAnalysis);
+    for (const char* list : {"lvAStrength", "lvStrengthOp", "lvStrengthTh"})
+        EXPECT_EQ(bench.rows(list), (ShownRows{{"S2", "Loyal customers"}, {"S1", "Strong brand"}}));
+    for (const char* list : {"lvAWeakness", "lvWeaknessOp", "lvWeaknessTh"})
+        EXPECT_EQ(bench.rows(list), (ShownRows{{"W1", "Slow delivery"}}));
+}
+
+TEST_F(AnalyzeFile, MarksItsMappedRows) {
+    read(smallAnalysis);
+    const StatementList& list = bench.list("lvOpportunity");
+    EXPECT_EQ(list.row(1).image, 3);
+    EXPECT_EQ(list.row(1).indent, 0);
+    EXPECT_FALSE(list.row(1).colour.has_value());
+    EXPECT_EQ(list.row(2).image, 1);
+    EXPECT_EQ(list.row(2).indent, 2);
+    EXPECT_EQ(list.row(2).colour, mappedStrengthColour);
+    EXPECT_EQ(list.row(3).image, 2);
+    EXPECT_EQ(list.row(3).colour, mappedWeaknessColour);
+}
+
+TEST_F(AnalyzeFile, DropsARowWhoseTextHoldsTheDelimiter) {
+    read({"<STRENGTH>", line("S1", "", "a<!-SWOT-!>b"), line("S2", "", "kept"), "S3<!-SWOT-!>few",
+          "</STRENGTH>"});
+    EXPECT_EQ(bench.rows("lvAStrength"), (ShownRows{{"S2", "kept"}}));
+}
+
+TEST_F(AnalyzeFile, NumbersTopRowsWithoutAKeyByTheirPlaceAmongTopRows) {
+    read({"<OPPORTUNITYMAPPING>", line("", "", "first"), line("X-S1", "", "mapped"),
+          line("  ", "", "second"), "</OPPORTUNITYMAPPING>", "<THREATMAPPING>", line("", "", "one"),
+          "</THREATMAPPING>"});
+    EXPECT_EQ(bench.rows("lvOpportunity"),
+              (ShownRows{{"O1", "first"}, {"X-S1", "mapped"}, {"O2", "second"}}));
+    EXPECT_EQ(bench.rows("lvThreat"), (ShownRows{{"T1", "one"}}));
+}
+
+TEST_F(AnalyzeFile, TakesAKeyOfThreePartsForATopRow) {
+    read({"<OPPORTUNITYMAPPING>", line("O1-S1-S2", "", "odd"), "</OPPORTUNITYMAPPING>"});
+    EXPECT_EQ(bench.list("lvOpportunity").row(1).image, 3);
+}
+
+TEST_F(AnalyzeFile, RaisesTheKeyCounterToTheHighestKeyAndNeverLowersIt) {
+    read({"<STRENGTH>", line("S1", "", "a"), line("S9", "", "b"), line("S3", "", "c"),
+          "</STRENGTH>"});
+    EXPECT_EQ(getNextKey(bench.program(), "S"), "S10");
+    bench.form().keyCountW = 20;
+    read({"<WEAKNESS>", line("W7", "", "a"), "</WEAKNESS>"});
+    EXPECT_EQ(bench.form().keyCountW, 20);
+}
+
+TEST_F(AnalyzeFile, LeavesTheCounterAloneForAKeyWithoutANumber) {
+    read({"<STRENGTH>", line("Sx", "", "a"), line("", "", "b"), line("S", "", "c"),
+          line("S-4", "", "d"), line("S1e-400", "", "e"), "</STRENGTH>"});
+    EXPECT_EQ(bench.form().keyCountS, 0);
+    EXPECT_EQ(bench.list("lvAStrength").count(), 5);
+}
+
+TEST_F(AnalyzeFile, RoundsAFractionAndTakesLeadingDigitsAlone) {
+    read({"<STRENGTH>", line("S2.6", "", "a"), "</STRENGTH>", "<WEAKNESS>", line("W12abc", "", "b"),
+          "</WEAKNESS>"});
+    EXPECT_EQ(bench.form().keyCountS, 3);
+    EXPECT_EQ(bench.form().keyCountW, 12);
+}
+
+TEST_F(AnalyzeFile, WithAKeyBeyondTheCounterFails) {
+    EXPECT_THROW(read({"<STRENGTH>", line("S2147483648", "", "a"), "</STRENGTH>"}), Failure);
+}
+
+TEST_F(AnalyzeFile, WithAKeyTwiceInAListFailsAndKeepsTheRowsReadSoFar) {
+    EXPECT_THROW(read({"<STRENGTH>", line("S1", "", "a"), line("S1", "", "b"), "</STRENGTH>"}),
+                 Failure);
+    EXPECT_EQ(bench.texts("lvAStrength"), Texts{"a"});
+}
+
+TEST_F(AnalyzeFile, ShowsItsStepOnlyWhereThatIsWanted) {
+    const Texts file{"<STEP>", "AT", "</STEP>"};
+    read(file);
+    EXPECT_FALSE(bench.form().analyzeSteps.hasVisible());
+    read(file, true);
+    EXPECT_TRUE(bench.form().fraAnalyzeThreat.isVisible());
+}
+
+TEST_F(AnalyzeFile, TrimsTextsAndKeepsKeysAndLabelsAsTheyStand) {
+    read({"<OPPORTUNITY>", line(" O1", " [x]: ", "  text  "), "</OPPORTUNITY>"});
+    EXPECT_EQ(bench.rows("lvAOpportunity"), (ShownRows{{" O1", "text"}}));
+    EXPECT_EQ(bench.list("lvAOpportunity").row(1).subItem, " [x]: ");
+}
+
+TEST_F(AnalyzeFile, EscapesNothing) {
+    read({"<STRENGTH>", line("S1", "", "a < b &lt; c"), "</STRENGTH>"});
+    EXPECT_EQ(bench.texts("lvAStrength"), Texts{"a < b &lt; c"});
+    EXPECT_NE(analyzeBytes(bench.form(), false).find("a < b &lt; c"), std::string::npos);
+}
+
+TEST_F(AnalyzeFile, ThatIsMissingIsReadAsNothing) {
+    loadAnalyzeData(bench.program(), "docs/none.aze", true);
+    EXPECT_EQ(bench.list("lvAStrength").count(), 0);
+}
+
+}  // namespace
+}  // namespace orvanta::test
