@@ -1,16 +1,17 @@
 #pragma once
 
-#include <QTextDocument>
-#include <memory>
-
 #include "presentation/question_sheets.h"
+#include "view/platform.h"
+
+class QPrinter;
 
 namespace orvanta::desktop {
 
-/// The sheets of one module: name and date, then each question with ruled lines below it.
-std::unique_ptr<QTextDocument> questionDocument(const QuestionSheets& sheets);
+/// Prints the sheets on the printer's paper, or nothing if it can not be written to.
+void printQuestionSheets(QPrinter& printer, const QuestionSheets& sheets);
 
-/// Shows the sheets as they will be on paper; printing starts from there.
+/// Shows the sheets as they will be on paper, on A4 or Letter; printing, on a printer or into a
+/// PDF file, starts from there.
 class PreviewingPrinter : public QuestionPrinter {
 public:
     void print(const QuestionSheets& sheets) override;

@@ -1,0 +1,141 @@
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QPainter>
+#include <QPrinter>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <set>
+
+#include "desktop/question_printer.h"
+#include "desktop/question_sheet_pages.h"
+
+namespace orvanta::test {
+
+namespace {
+
+using namespace orvanta::desktop;
+
+constexpr QSizeF a4{1654, 2339}, letter{1700, 2200};  // at 200 dots an inch
+
+QuestionSheets sheetsWith(int questions, const std::string& text = "What do we do well?") {
+    QuestionSheets sheets{"mp", "Marketing", {}};
+    for (const StatementKind kind : statementKinds)
+        for (int i = 1; i <= questions; ++i)
+            sheets.questions[indexOf(kind)].push_back(std::string(1, letterOf(kind)) +
+                                                      std::to_string(i) + ": " + text);
+    return sheets;
+}
+
+QImage paper(const QSizeF& size = a4) {
+    constexpr int dotsPerMetre = 7874;
+    QImage image(size.toSize(), QImage::Format_RGB32);
+    image.setDotsPerMeterX(dotsPerMetre);
+    image.setDotsPerMeterY(dotsPerMetre);
+    image.fill(Qt::white);
+    return image;
+}
+
+std::vector<SheetPage> pagesOf(const QuestionSheets& sheets, const QSizeF& size = a4) {
+    return sheetPages(sheets, size, paper(size));
+}
+
+class Paper : public testing::TestWithParam<QSizeF> {};
+INSTANTIATE_TEST_SUITE_P(Of, Paper, testing::Values(a4, letter));
+
+}  // namespace
+
+TEST_P(Paper, BeginsAPageForEachKindAndOneOnly) {
+    std::string opened;
+    for (const SheetPage& page : pagesOf(sheetsWith(11), GetParam()))
+        if (page.opensKind) opened += letterOf(page.kind);
+    EXPECT_EQ(opened, "SWOT");
+}
+
+TEST_P(Paper, KeepsEachQuestionTogetherWithThreeRulesOrMore) {
+    for (const SheetPage& page : pagesOf(sheetsWith(12), GetParam())) {
+        ASSERT_FALSE(page.lines.empty());
+        EXPECT_FALSE(page.lines.front().number.isEmpty());
+        int rules = 3;
+        for (const SheetLine& line : page.lines) {
+            if (!line.number.isEmpty()) {
+                EXPECT_GE(rules, 3);
+                rules = 0;
+            }
+            if (line.isRule()) ++rules;
+        }
+        EXPECT_GE(rules, 3);
+    }
+}
+
+TEST_P(Paper, HoldsEachLineAboveItsFoot) {
+    const QSizeF size = GetParam();
+    for (const SheetPage& page : pagesOf(sheetsWith(12), size))
+        for (const SheetLine& line : page.lines) EXPECT_LT(line.bottom, size.height() - 50);
+}
+
+TEST(QuestionSheetPages, ShowEachQuestionOnceInTheOrderOfTheBank) {
+    std::vector<QString> shown, expected;
+    for (const SheetPage& page : pagesOf(sheetsWith(9)))
+        for (const SheetLine& line : page.lines)
+            if (!line.number.isEmpty()) shown.push_back(line.number + line.text.section(':', 0, 0));
+    for (const char kind : {'S', 'W', 'O', 'T'})
+        for (int i = 1; i <= 9; ++i)
+            expected.push_back(QStringLiteral("%1.%2%3").arg(i).arg(QLatin1Char(kind)).arg(i));
+    EXPECT_EQ(shown, expected);
+}
+
+TEST(QuestionSheetPages, GiveAKindWithoutQuestionsItsPageAllTheSame) {
+    EXPECT_EQ(pagesOf(sheetsWith(0)).size(), 4U);
+}
+
+TEST(QuestionSheetPages, BreakAQuestionLongerThanAPageRatherThanCutIt) {
+    std::string words;
+    for (int i = 0; i < 2500; ++i) words += "word" + std::to_string(i) + " ";
+    std::string all;
+    for (const SheetPage& page : pagesOf(sheetsWith(1, words)))
+        for (const SheetLine& line : page.lines) {
+            EXPECT_LT(line.bottom, a4.height());
+            if (page.kind == StatementKind::Threat && !line.text.isEmpty())
+                all += line.text.toStdString() + " ";
+        }
+    EXPECT_EQ(all, "T1: " + words);
+}
+
+TEST(QuestionSheetPages, PaintInsideThePaperAndLeaveNoPageBlank) {
+    const QuestionSheets sheets = sheetsWith(12);
+    const auto pages = pagesOf(sheets);
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        QImage image = paper();
+        QPainter painter(&image);
+        paintSheetPage(painter, sheets, pages, i, a4);
+        painter.end();
+        int inked = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixel(x, y) != 0xffffffff) ++inked;
+        EXPECT_GT(inked, 20'000) << "page " << i;
+    }
+}
+
+TEST(QuestionSheetPdf, HoldsTheModuleTheKindsTheQuestionsAndThePageNumbers) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("sheets.pdf"));
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path);
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printQuestionSheets(printer, sheetsWith(8));
+    QProcess reader;
+    reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, "-"});
+    ASSERT_TRUE(reader.waitForFinished()) << "pdftotext is needed";
+    const QString text = QString::fromUtf8(reader.readAllStandardOutput());
+    const auto pages = text.count('\f');
+    EXPECT_GE(pages, 4);
+    for (const char* expected : {"Marketing", "Strengths", "Threats", "Name", "Date",
+                                 "S1: What do we do well?", "T8: What do we do well?"})
+        EXPECT_TRUE(text.contains(QLatin1String(expected))) << expected;
+    EXPECT_TRUE(text.contains(QStringLiteral("page %1 of %1").arg(pages)));
+}
+
+}  // namespace orvanta::test
