@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 #include "core/design_grid.h"
+#include "core/kind_controls.h"
 
 namespace orvanta {
 
@@ -121,48 +122,59 @@ void placeModuleChoice(FrmMain& form) {
 }
 
 struct ListScreen {
-    Panel FrmMain::*panel;
-    Label FrmMain::*heading;
-    TextBox FrmMain::*box;
-    StatementList FrmMain::*list;
+    Panel& panel;
+    Label& heading;
+    TextBox& box;
+    StatementList& list;
     Button add, edit, remove;
-    std::string_view kind;
+    std::string kind;
 };
 
-constexpr std::array<ListScreen, 8> listScreens{{
-    {&FrmMain::fraStrength, &FrmMain::lblSQuestion, &FrmMain::txtStrength, &FrmMain::lvBStrength,
-     Button::BSAdd, Button::BSEdit, Button::BSRemove, "Strength"},
-    {&FrmMain::fraWeakness, &FrmMain::lblWQuestion, &FrmMain::txtWeakness, &FrmMain::lvBWeakness,
-     Button::BWAdd, Button::BWEdit, Button::BWRemove, "Weakness"},
-    {&FrmMain::fraOpportunity, &FrmMain::lblOQuestion, &FrmMain::txtOpportunity,
-     &FrmMain::lvBOpportunity, Button::BOAdd, Button::BOEdit, Button::BORemove, "Opportunity"},
-    {&FrmMain::fraThreats, &FrmMain::lblTQuestion, &FrmMain::txtThreat, &FrmMain::lvBThreat,
-     Button::BTAdd, Button::BTEdit, Button::BTRemove, "Threat"},
-    {&FrmMain::fraASSummary, &FrmMain::lblAStrength, &FrmMain::txtAStrength, &FrmMain::lvAStrength,
-     Button::ASAdd, Button::ASEdit, Button::ASRemove, "Strength"},
-    {&FrmMain::fraAWeakness, &FrmMain::lblAWeakness, &FrmMain::txtAWeakness, &FrmMain::lvAWeakness,
-     Button::AWAdd, Button::AWEdit, Button::AWRemove, "Weakness"},
-    {&FrmMain::fraAOpportunity, &FrmMain::lblAOpportunity, &FrmMain::txtAOpportunity,
-     &FrmMain::lvAOpportunity, Button::AOAdd, Button::AOEdit, Button::AORemove, "Opportunity"},
-    {&FrmMain::fraAThreats, &FrmMain::lblAThreats, &FrmMain::txtAThreat, &FrmMain::lvAThreat,
-     Button::ATAdd, Button::ATEdit, Button::ATRemove, "Threat"},
+struct KindButtons {
+    std::string_view kind;
+    Button brainstormAdd, brainstormEdit, brainstormRemove;
+    Button analyzeAdd, analyzeEdit, analyzeRemove;
+};
+
+constexpr std::array<KindButtons, 4> kindButtons{{
+    {"Strength", Button::BSAdd, Button::BSEdit, Button::BSRemove, Button::ASAdd, Button::ASEdit,
+     Button::ASRemove},
+    {"Weakness", Button::BWAdd, Button::BWEdit, Button::BWRemove, Button::AWAdd, Button::AWEdit,
+     Button::AWRemove},
+    {"Opportunity", Button::BOAdd, Button::BOEdit, Button::BORemove, Button::AOAdd, Button::AOEdit,
+     Button::AORemove},
+    {"Threat", Button::BTAdd, Button::BTEdit, Button::BTRemove, Button::ATAdd, Button::ATEdit,
+     Button::ATRemove},
 }};
 
 constexpr double listWidth = 608, sideButtons = 648;
 
 void placeListScreen(FrmMain& form, const ListScreen& screen) {
-    Panel& panel = form.*screen.panel;
-    Label& heading = form.*screen.heading;
-    place(heading, &panel, grid(24, 20, 712, 56), wide);
-    heading.fontSize = {11.25};
-    heading.bold = true;
-    place(form.*screen.box, &panel, grid(24, 88, listWidth, 32), wide);
-    placeSmall(form.buttons[screen.add], panel, sideButtons, 88, atRight);
-    place(form.*screen.list, &panel, grid(24, 136, listWidth, 372), whole);
-    placeSmall(form.buttons[screen.edit], panel, sideButtons, 136, atRight);
-    placeSmall(form.buttons[screen.remove], panel, sideButtons, 176, atRight);
-    (form.*screen.box).accessibleName = "New " + std::string(screen.kind);
-    (form.*screen.list).accessibleName = std::string(screen.kind) + " list";
+    place(screen.heading, &screen.panel, grid(24, 20, 712, 56), wide);
+    screen.heading.fontSize = {11.25};
+    screen.heading.bold = true;
+    place(screen.box, &screen.panel, grid(24, 88, listWidth, 32), wide);
+    placeSmall(form.buttons[screen.add], screen.panel, sideButtons, 88, atRight);
+    place(screen.list, &screen.panel, grid(24, 136, listWidth, 372), whole);
+    placeSmall(form.buttons[screen.edit], screen.panel, sideButtons, 136, atRight);
+    placeSmall(form.buttons[screen.remove], screen.panel, sideButtons, 176, atRight);
+    screen.box.accessibleName = "New " + screen.kind;
+    screen.list.accessibleName = screen.kind + " list";
+}
+
+void placeListScreens(FrmMain& form) {
+    for (const KindControls& controls : kindControls) {
+        const KindButtons& buttons = kindButtons[indexOf(controls.kind)];
+        const std::string kind(buttons.kind);
+        placeListScreen(
+            form, {form.*controls.questionPanel, form.*controls.question, form.*controls.answerBox,
+                   form.*controls.brainstormList, buttons.brainstormAdd, buttons.brainstormEdit,
+                   buttons.brainstormRemove, kind});
+        placeListScreen(
+            form, {form.*controls.reviewPanel, form.*controls.instruction, form.*controls.reviewBox,
+                   form.*controls.analyzeList, buttons.analyzeAdd, buttons.analyzeEdit,
+                   buttons.analyzeRemove, kind});
+    }
 }
 
 struct MappingScreen {
@@ -252,7 +264,7 @@ FrmMain::FrmMain(FileDialogs& dialogs)
     placeWizardButtons(*this);
     placeModuleChoice(*this);
     placeSourceFiles(*this);
-    for (const ListScreen& screen : listScreens) placeListScreen(*this, screen);
+    placeListScreens(*this);
     for (const MappingScreen& screen : mappingScreens) placeMappingScreen(*this, screen);
     for (Label* instruction : {&lblAStrength, &lblAWeakness, &lblAOpportunity, &lblAThreats,
                                &lblAOMapping, &lblATMapping})

@@ -25,12 +25,13 @@ void store(FrmMain& form, std::string_view code, const std::string& text) {
     }
 }
 
-void placeButton(SkinnedButton& button, double left, const std::string& caption) {
-    const Bounds bounds = grid(left, 112, 88, 32);
-    button.image.setBounds(bounds);
+/// The caption lies in the middle of the picture.
+void placeButton(SkinnedButton& button, double left, const Bounds& caption,
+                 const std::string& text) {
+    button.image.setBounds(grid(left, 104, 88, 32));
     button.image.setArt(Art::SmallNormal);
-    button.label.setBounds(bounds);
-    button.label.setCaption(caption);
+    button.label.setBounds(caption);
+    button.label.setCaption(text);
     button.label.fontSize = {9.75};
     button.label.bold = true;
 }
@@ -42,8 +43,8 @@ FrmEdit::FrmEdit() {
     Label1.bold = true;
     txtEdit.setBounds({{240}, {720}, {7095}, {375}});
     txtEdit.accessibleName = Label1.caption();
-    placeButton(btnCancel, 140, "Cancel");
-    placeButton(btnOk, 278, "OK");
+    placeButton(btnCancel, 140, {{2400}, {1680}, {735}, {240}}, "Cancel");
+    placeButton(btnOk, 278, {{4680}, {1680}, {300}, {240}}, "OK");
 }
 
 void showEditDialog(Program& program, const std::string& fromControl, const std::string& text) {
