@@ -4,6 +4,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "view/platform.h"
 
@@ -14,6 +15,7 @@ class MemoryDisk : public Disk {
 public:
     std::map<std::string, std::string> files;
     std::set<std::string> folders;
+    std::vector<std::string> madeFolders;                            // by the program, in order
     std::map<std::string, ErrorNumber> unreadable, unwritable;       // by path: what fails, and how
     std::size_t capacity = std::numeric_limits<std::size_t>::max();  // bytes a file may have
 
@@ -38,6 +40,7 @@ public:
     void makeFolder(const std::string& path) override {
         refuse(unwritable, path);
         folders.insert(path);
+        madeFolders.push_back(path);
     }
     void remove(const std::string& path) override {
         refuse(unwritable, path);
