@@ -7,6 +7,7 @@
 
 #include "analysis_bench.h"
 #include "core/modules.h"
+#include "failure_of.h"
 
 namespace orvanta::test {
 namespace {
@@ -106,12 +107,7 @@ TEST(Keys, EndAtTheLargestNumberWithAnError) {
     const std::int32_t largest = std::numeric_limits<std::int32_t>::max();
     bench.form().keyCountO = largest - 1;
     EXPECT_EQ(getNextKey(bench.program(), "O"), "O2147483647");
-    try {
-        getNextKey(bench.program(), "O");
-        FAIL() << "a key beyond the largest number was given";
-    } catch (const Failure& failure) {
-        EXPECT_EQ(failure.number, 6);
-    }
+    EXPECT_EQ(failureOf([&] { getNextKey(bench.program(), "O"); }), 6);
     EXPECT_EQ(bench.form().keyCountO, largest);
 }
 
@@ -224,12 +220,7 @@ INSTANTIATE_TEST_SUITE_P(All, QuestionNumberBeside, testing::Values(-1, 0, 3));
 
 TEST_P(QuestionNumberBeside, IsAnError) {
     const Texts questions{"first", "last"};
-    try {
-        questionAt(questions, GetParam());
-        FAIL() << "there is no such question";
-    } catch (const Failure& failure) {
-        EXPECT_EQ(failure.number, 9);
-    }
+    EXPECT_EQ(failureOf([&] { questionAt(questions, GetParam()); }), 9);
 }
 
 struct ModuleNames {

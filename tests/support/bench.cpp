@@ -145,13 +145,14 @@ TextBox& Bench::box(const std::string& name) {
     return dynamic_cast<TextBox&>(*form().controls.find(name));
 }
 
-ShownRows Bench::rows(const std::string& name) {
-    ShownRows result;
-    const StatementList& shown = list(name);
-    for (int position = 1; position <= shown.count(); ++position)
-        result.push_back({shown.row(position).key, shown.row(position).text});
-    return result;
+ShownRows rowsOf(const StatementList& list) {
+    ShownRows rows;
+    for (int position = 1; position <= list.count(); ++position)
+        rows.push_back({list.row(position).key, list.row(position).text});
+    return rows;
 }
+
+ShownRows Bench::rows(const std::string& name) { return rowsOf(list(name)); }
 
 Texts Bench::texts(const std::string& name) {
     Texts result;

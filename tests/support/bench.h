@@ -23,6 +23,8 @@ struct ShownRow {
     }
 };
 using ShownRows = std::vector<ShownRow>;
+ShownRows rowsOf(const StatementList& list);
+
 using Texts = std::vector<std::string>;
 
 /// The whole program on a memory disk, behind the toolkit-free view, played by the lines of the

@@ -1,0 +1,222 @@
+#include "view/statement_list.h"
+
+#include <gtest/gtest.h>
+
+#include "bench.h"
+#include "failure_of.h"
+
+namespace orvanta::test {
+namespace {
+
+constexpr int indexOutOfBounds = 35600, keyNotUnique = 35602;
+
+Row rowOf(const std::string& key) { return {.key = key, .text = "of " + key}; }
+
+class StatementListOfThree : public testing::Test {
+protected:
+    StatementListOfThree() {
+        for (const char* key : {"S1", "S2", "S3"}) list.add(rowOf(key));
+    }
+    ControlSet controls;
+    StatementList list{controls, "list"};
+};
+
+const ShownRows threeRows{{"S1", "of S1"}, {"S2", "of S2"}, {"S3", "of S3"}};
+
+TEST_F(StatementListOfThree, GivesItsRowsByPositionAndByKey) {
+    EXPECT_EQ(rowsOf(list), threeRows);
+    EXPECT_EQ(list.positionOf("S1"), 1);
+    EXPECT_EQ(list.positionOf("S3"), 3);
+    EXPECT_EQ(list.positionOf("S4"), 0);
+}
+
+TEST_F(StatementListOfThree, TakesARowAtAnyPlace) {
+    list.insert(1, rowOf("first"));
+    list.insert(3, rowOf("inside"));
+    list.insert(6, rowOf("last"));
+    EXPECT_EQ(rowsOf(list), (ShownRows{{"first", "of first"},
+                                       {"S1", "of S1"},
+                                       {"inside", "of inside"},
+                                       {"S2", "of S2"},
+                                       {"S3", "of S3"},
+                                       {"last", "of last"}}));
+    EXPECT_EQ(list.positionOf("S2"), 4);
+}
+
+TEST_F(StatementListOfThree, RefusesPlacesBesideItself) {
+    EXPECT_EQ(failureOf([&] { list.insert(0, {}); }), indexOutOfBounds);
+    EXPECT_EQ(failureOf([&] { list.insert(5, {}); }), indexOutOfBounds);
+    for (const int position : {-1, 0, 4}) {
+        EXPECT_EQ(failureOf([&] { list.row(position); }), indexOutOfBounds) << position;
+        EXPECT_EQ(failureOf([&] { list.remove(position); }), indexOutOfBounds) << position;
+        EXPECT_EQ(failureOf([&] { list.setText(position, "x"); }), indexOutOfBounds) << position;
+        EXPECT_EQ(failureOf([&] { list.setKey(position, "x"); }), indexOutOfBounds) << position;
+    }
+    EXPECT_EQ(failureOf([&] { list.select(4); }), indexOutOfBounds);
+    EXPECT_EQ(failureOf([&] { list.select(-1); }), indexOutOfBounds);
+    EXPECT_EQ(rowsOf(list), threeRows);
+}
+
+TEST_F(StatementListOfThree, RefusesAKeyThatItHolds) {
+    EXPECT_EQ(failureOf([&] { list.add(rowOf("S2")); }), keyNotUnique);
+    EXPECT_EQ(failureOf([&] { list.setKey(1, "S2"); }), keyNotUnique);
+    EXPECT_EQ(rowsOf(list), threeRows);
+}
+
+TEST_F(StatementListOfThree, TellsKeysApartByLetterCase) {
+    list.add(rowOf("s2"));
+    EXPECT_EQ(list.positionOf("s2"), 4);
+    EXPECT_EQ(list.positionOf("S2"), 2);
+}
+
+TEST_F(StatementListOfThree, TakesAnyNumberOfRowsWithoutAKey) {
+    list.add({});
+    list.add({});
+    list.setKey(1, "");
+    EXPECT_EQ(list.count(), 5);
+    EXPECT_EQ(list.positionOf(""), 0);
+}
+
+TEST_F(StatementListOfThree, LetsARowKeepItsOwnKey) {
+    list.setKey(2, "S2");
+    EXPECT_EQ(list.positionOf("S2"), 2);
+}
+
+TEST_F(StatementListOfThree, TakesAKeyAgainThatWasGivenUp) {
+    list.setKey(2, "S9");
+    list.remove(1);
+    list.add(rowOf("S2"));
+    list.add(rowOf("S1"));
+    EXPECT_EQ(list.positionOf("S9"), 1);
+    EXPECT_EQ(list.positionOf("S2"), 3);
+    EXPECT_EQ(list.positionOf("S1"), 4);
+}
+
+TEST_F(StatementListOfThree, SelectsNothingByItself) {
+    EXPECT_EQ(list.selected(), 0);
+    EXPECT_EQ(list.selectedRow(), nullptr);
+}
+
+TEST_F(StatementListOfThree, KeepsTheSelectedRowWhereverItMoves) {
+    list.select(2);
+    list.insert(1, {});
+    EXPECT_EQ(list.selected(), 3);
+    list.remove(1);
+    EXPECT_EQ(list.selected(), 2);
+    EXPECT_EQ(list.selectedRow()->key, "S2");
+}
+
+TEST_F(StatementListOfThree, SelectsTheRowThatTakesThePlaceOfARemovedOne) {
+    list.select(2);
+    list.remove(2);
+    EXPECT_EQ(list.selectedRow()->key, "S3");
+}
+
+TEST_F(StatementListOfThree, SelectsTheNewLastRowBehindTheRemovalOfTheLast) {
+    list.select(3);
+    list.remove(3);
+    EXPECT_EQ(list.selectedRow()->key, "S2");
+}
+
+TEST_F(StatementListOfThree, SelectsNothingOnceItIsEmpty) {
+    list.select(1);
+    for (int i = 0; i < 3; ++i) list.remove(1);
+    EXPECT_EQ(list.selected(), 0);
+}
+
+TEST_F(StatementListOfThree, SelectsNothingOnceItWasCleared) {
+    list.select(2);
+    list.clear();
+    EXPECT_EQ(list.selected(), 0);
+    EXPECT_EQ(list.count(), 0);
+    EXPECT_EQ(list.positionOf("S1"), 0);
+}
+
+TEST_F(StatementListOfThree, CanBeLeftWithNothingSelected) {
+    list.select(2);
+    list.select(0);
+    EXPECT_EQ(list.selected(), 0);
+}
+
+TEST(MappingList, SelectsNothingBehindTheRemovalOfItsSelectedRow) {
+    ControlSet controls;
+    StatementList list(controls, "list", AfterRemoval::SelectNone);
+    for (const char* key : {"O1", "O2", "O3"}) list.add(rowOf(key));
+    list.select(2);
+    list.remove(3);
+    EXPECT_EQ(list.selectedRow()->key, "O2");
+    list.remove(2);
+    EXPECT_EQ(list.selected(), 0);
+}
+
+TEST_F(StatementListOfThree, ChangesARowWhereItStands) {
+    list.setText(2, "changed");
+    list.setSubItem(2, "[Dana]: ");
+    list.setColour(2, {1, 2, 3});
+    list.setIndent(2, 4);
+    const Row& row = list.row(2);
+    EXPECT_EQ(row.key, "S2");
+    EXPECT_EQ(row.text, "changed");
+    EXPECT_EQ(row.subItem, "[Dana]: ");
+    EXPECT_EQ(row.colour, (Colour{1, 2, 3}));
+    EXPECT_EQ(row.indent, 4);
+}
+
+/// Writes down what a list tells.
+struct Listener : StatementListObserver {
+    void rowAboutToBeInserted(int p) override { told.push_back("inserting " + std::to_string(p)); }
+    void rowInserted(int p) override { told.push_back("inserted " + std::to_string(p)); }
+    void rowAboutToBeRemoved(int p) override { told.push_back("removing " + std::to_string(p)); }
+    void rowRemoved(int p) override { told.push_back("removed " + std::to_string(p)); }
+    void rowChanged(int p) override { told.push_back("changed " + std::to_string(p)); }
+    void aboutToBeCleared() override { told.push_back("clearing"); }
+    void cleared() override { told.push_back("cleared"); }
+    void selectionChanged() override { told.push_back("selected"); }
+    Texts told;
+};
+
+TEST_F(StatementListOfThree, TellsItsWatchersWhatHappens) {
+    Listener listener;
+    list.watch(listener);
+    list.insert(2, rowOf("new"));
+    list.setText(2, "x");
+    list.select(2);
+    list.select(2);
+    list.remove(2);
+    list.remove(1);
+    list.clear();
+    list.clear();
+    EXPECT_EQ(listener.told,
+              (Texts{"inserting 2", "inserted 2", "changed 2", "selected", "removing 2",
+                     "removed 2", "selected", "removing 1", "removed 1", "clearing", "cleared"}));
+}
+
+TEST_F(StatementListOfThree, TellsNothingOfWhatItRefused) {
+    Listener listener;
+    list.watch(listener);
+    failureOf([&] { list.add(rowOf("S1")); });
+    failureOf([&] { list.insert(9, {}); });
+    failureOf([&] { list.remove(9); });
+    failureOf([&] { list.setKey(1, "S2"); });
+    EXPECT_EQ(listener.told, Texts{});
+}
+
+TEST(LongList, FindsItsRowsAfterManyWereInsertedAtOnePlace) {
+    ControlSet controls;
+    StatementList list(controls, "list");
+    list.add(rowOf("first"));
+    list.add(rowOf("last"));
+    for (int i = 0; i < 1000; ++i) list.insert(2, rowOf(std::to_string(i)));
+    for (int i = 0; i < 1000; ++i) ASSERT_EQ(list.positionOf(std::to_string(i)), 1001 - i);
+    EXPECT_EQ(list.positionOf("last"), 1002);
+}
+
+TEST(LongList, FindsItsRowsAfterManyWereInsertedAheadOfAll) {
+    ControlSet controls;
+    StatementList list(controls, "list");
+    for (int i = 0; i < 5000; ++i) list.insert(1, rowOf(std::to_string(i)));
+    for (int i = 0; i < 5000; ++i) ASSERT_EQ(list.positionOf(std::to_string(i)), 5000 - i);
+}
+
+}  // namespace
+}  // namespace orvanta::test
