@@ -42,7 +42,8 @@ TEST_F(BrainstormFile, NamesTheLastOfSeveralVisibleStepsAndNoneByAnEmptyLine) {
     EXPECT_TRUE(brainstormBytes(bench.form(), true).starts_with(lines({"<STEP>", "", "</STEP>"})));
     bench.form().fraStrength.show();
     bench.form().fraOpportunity.show();
-    EXPECT_TRUE(brainstormBytes(bench.form(), true).starts_with(lines({"<STEP>", "OP", "</STEP>"})));
+    EXPECT_TRUE(
+        brainstormBytes(bench.form(), true).starts_with(lines({"<STEP>", "OP", "</STEP>"})));
 }
 
 TEST_F(BrainstormFile, KeepsTheNameUntrimmedAndTheStatementsTrimmed) {
@@ -120,7 +121,8 @@ TEST_F(BrainstormFile, LabelsOnlyTheRowsBehindTheName) {
 }
 
 TEST_F(BrainstormFile, EndsASectionEarlyAtAStatementThatIsAClosingTag) {
-    read({"<WEAKNESS>", "One", "</NAME>", "lost", "</WEAKNESS>", "<THREATS>", "Kept", "</THREATS>"});
+    read(
+        {"<WEAKNESS>", "One", "</NAME>", "lost", "</WEAKNESS>", "<THREATS>", "Kept", "</THREATS>"});
     EXPECT_EQ(bench.texts("lvBWeakness"), Texts{"One"});
     EXPECT_EQ(bench.texts("lvBThreat"), Texts{"Kept"});
 }

@@ -23,10 +23,27 @@ TEST_F(Merging, JoinsTheStatementsOfTheFilesInTheOrderOfTheList) {
     bench.answerFile("docs/m.bsm");
     bench.events();
     merge();
-    EXPECT_EQ(bench.disk.files["docs/m.bsm"],
-              lines({"<MODULE>", "GBS", "</MODULE>", "<STRENGTH>", "a1", "a2", "a3", "b1", "b2", "b3",
-                     "</STRENGTH>", "<WEAKNESS>", "w1", "</WEAKNESS>", "<OPPORTUNITY>", "o1",
-                     "</OPPORTUNITY>", "<THREATS>", "t1", "t2", "</THREATS>"}));
+    EXPECT_EQ(bench.disk.files["docs/m.bsm"], lines({"<MODULE>",
+                                                     "GBS",
+                                                     "</MODULE>",
+                                                     "<STRENGTH>",
+                                                     "a1",
+                                                     "a2",
+                                                     "a3",
+                                                     "b1",
+                                                     "b2",
+                                                     "b3",
+                                                     "</STRENGTH>",
+                                                     "<WEAKNESS>",
+                                                     "w1",
+                                                     "</WEAKNESS>",
+                                                     "<OPPORTUNITY>",
+                                                     "o1",
+                                                     "</OPPORTUNITY>",
+                                                     "<THREATS>",
+                                                     "t1",
+                                                     "t2",
+                                                     "</THREATS>"}));
     EXPECT_EQ(bench.messages(), Texts{"Brainstorm files merged."});
 }
 
