@@ -106,8 +106,9 @@ std::string DesktopFolders::documents() const {
 }
 
 DesktopPlatform::DesktopPlatform(Disk& disk)
-    : m_lifetime(m_messages), m_platform{disk,      m_messages,      m_fileDialogs, m_settings,
-                                         m_shell,   m_player,        m_screen,      m_forms,
-                                         m_printer, m_wordProcessor, m_lifetime,    m_folders} {}
+    : m_documentWriter(disk),
+      m_lifetime(m_messages),
+      m_platform{disk,     m_messages, m_fileDialogs, m_settings,       m_shell,    m_player,
+                 m_screen, m_forms,    m_printer,     m_documentWriter, m_lifetime, m_folders} {}
 
 }  // namespace orvanta::desktop

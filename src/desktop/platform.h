@@ -6,7 +6,7 @@
 
 #include "desktop/dialogs.h"
 #include "desktop/question_printer.h"
-#include "reports/word_processor.h"
+#include "reports/document_writer.h"
 #include "view/platform.h"
 
 namespace orvanta::desktop {
@@ -65,12 +65,6 @@ private:
     QPointer<ReportDialog> m_report;
 };
 
-/// For a system without a word processor.
-class NoWordProcessor : public WordProcessors {
-public:
-    WordObjectPtr createApplication() override { throw Failure(ErrorNumber::CannotCreateObject); }
-};
-
 class DesktopLifetime : public Lifetime {
 public:
     explicit DesktopLifetime(MessageBoxes& messages) : m_messages(messages) {}
@@ -106,7 +100,7 @@ private:
     DesktopScreen m_screen;
     DesktopForms m_forms;
     PreviewingPrinter m_printer;
-    NoWordProcessor m_wordProcessor;
+    DocumentWriter m_documentWriter;
     DesktopLifetime m_lifetime;
     DesktopFolders m_folders;
     Platform m_platform;

@@ -3,6 +3,7 @@
 #include <numeric>
 
 #include "core/text.h"
+#include "view/failure.h"
 
 namespace orvanta {
 
@@ -25,9 +26,15 @@ void insertRun(DocumentParagraph& paragraph, std::size_t offset, std::string_vie
                           TextRun{std::string(text), paragraph.mark});
 }
 
+DocumentParagraph& paragraphAt(Story& story, std::size_t block) {
+    auto* paragraph = std::get_if<DocumentParagraph>(&story.blocks[block]);
+    if (!paragraph) throw Failure(ErrorNumber::InvalidCall);
+    return *paragraph;
+}
+
 /// Ends the paragraph at an offset; what stood behind it becomes the next one.
 void splitParagraph(Story& story, StoryPlace at) {
-    auto& paragraph = std::get<DocumentParagraph>(story.blocks[at.block]);
+    DocumentParagraph& paragraph = paragraphAt(story, at.block);
     const auto run = static_cast<std::ptrdiff_t>(splitRunAt(paragraph, at.offset));
     DocumentParagraph rest = paragraph;
     rest.runs.erase(rest.runs.begin(), rest.runs.begin() + run);
@@ -62,7 +69,7 @@ StoryPlace insertText(Story& story, StoryPlace at, std::string_view text) {
             at = {at.block + 1, 0};
         }
         first = false;
-        insertRun(std::get<DocumentParagraph>(story.blocks[at.block]), at.offset, line);
+        insertRun(paragraphAt(story, at.block), at.offset, line);
         at.offset += line.size();
     }
     return at;

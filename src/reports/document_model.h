@@ -101,15 +101,15 @@ StoryPlace endOf(const Story& story);
 
 /// Puts text at a place and returns the place behind it. Each line end makes a paragraph with
 /// the formats of the one that it splits. The text takes the look of that paragraph's mark.
+/// Fails with InvalidCall where a table stands.
 StoryPlace insertText(Story& story, StoryPlace at, std::string_view text);
-
-/// Runs `change` on the character formats between two places: runs are split where needed, and
-/// the marks of all paragraphs but the last of the range are included. `withLastMark` includes
-/// that one too.
 
 /// Splits the run across an offset of a paragraph, so that a run begins there; its index.
 std::size_t splitRunAt(DocumentParagraph& paragraph, std::size_t offset);
 
+/// Runs `change` on the character formats between two places: runs are split where needed, and
+/// the marks of all paragraphs but the last of the range are included. `withLastMark` includes
+/// that one too.
 template <class Change>
 void changeCharacters(Story& story, StoryPlace from, StoryPlace to, bool withLastMark,
                       Change change) {

@@ -111,7 +111,9 @@ TablePtr newTable(int rows, int columns, const DocumentParagraph& like) {
 }
 
 TablePtr insertTableInto(Story& story, std::size_t block, int rows, int columns) {
-    TablePtr table = newTable(rows, columns, std::get<DocumentParagraph>(story.blocks[block]));
+    const auto* like = std::get_if<DocumentParagraph>(&story.blocks[block]);
+    if (!like) refuseMember();
+    TablePtr table = newTable(rows, columns, *like);
     story.blocks.insert(story.blocks.begin() + static_cast<std::ptrdiff_t>(block), table);
     return table;
 }
@@ -126,8 +128,10 @@ public:
 
     void call(std::string_view member, const WordArguments& arguments) override {
         if (member == "InsertBefore") return insertBefore(argument<std::string>(arguments, 0));
-        if (member == "InsertParagraphAfter") {
-            m_end = insertText(m_document->body, m_end, "\r\n");
+        if (member == "InsertAfter" || member == "InsertParagraphAfter") {
+            const bool isText = member == "InsertAfter";
+            m_end = insertText(m_document->body, m_end,
+                               isText ? argument<std::string>(arguments, 0) : "\r\n");
         } else if (member == "Collapse") {
             if (argument<int>(arguments, 0) != 0) refuseMember();
             m_start = m_end;

@@ -17,17 +17,20 @@ std::string word(const char* name, int value) {
     return std::string("\\") + name + std::to_string(value);
 }
 
+/// Without the control characters: they can't be shown, and to a reader some of them end a line,
+/// a page or a cell. A tab is a word of its own.
 void appendEscaped(std::string& out, std::string_view text) {
     constexpr char hex[] = "0123456789abcdef";
     for (const char character : text) {
         const auto byte = static_cast<unsigned char>(character);
+        if ((byte < 32 && character != '\t') || byte == 127) continue;
         if (character == '\\' || character == '{' || character == '}')
             out.append(1, '\\').append(1, character);
         else if (character == '\t')
             out += "\\tab ";
         else if (byte == 0xA0)
             out += "\\~";
-        else if (byte > 126 || byte < 32)
+        else if (byte > 126)
             out.append("\\'").append(1, hex[byte >> 4]).append(1, hex[byte & 15]);
         else
             out += character;
@@ -136,20 +139,37 @@ private:
 
     void writeOuterRow(const DocumentTable& table, const DocumentRow& row) {
         const int height = row.repeatsAsHeader ? std::max(row.height, headerHeight) : row.height;
-        m_out += "\\trowd" + word("trgaph", cellPadding) + word("trleft", -cellPadding);
+        writeRowLook(table, row, cellPadding, height, row.repeatsAsHeader ? "\\trhdr" : "");
+        for (const auto& cell : row.cells) writeStory(cell->story, 1, "\\cell");
+        m_out += "\\row\n";
+    }
+
+    /// The properties of a nested row follow its cells. Readers without nested tables get a tab
+    /// between its cells and a line break behind it. A page never ends inside it: readers differ
+    /// in how they tear a table within a table.
+    void writeNestedRow(const DocumentTable& table, const DocumentRow& row, int depth) {
+        for (const auto& cell : row.cells) {
+            writeStory(cell->story, depth, "\\nestcell");
+            if (&cell != &row.cells.back()) m_out += "{\\nonesttables\\tab}";
+        }
+        m_out += "{\\*\\nesttableprops";
+        writeRowLook(table, row, 0, row.height, "\\trkeep");
+        m_out += "\\nestrow}{\\nonesttables\\line}\n";
+    }
+
+    void writeRowLook(const DocumentTable& table, const DocumentRow& row, int padding, int height,
+                      std::string_view flag) {
+        m_out += "\\trowd" + word("trgaph", padding) + word("trleft", -padding);
         if (height > 0) m_out += word("trrh", twips(height));
-        if (row.repeatsAsHeader) m_out += "\\trhdr";
-        m_out += word("trpaddl", cellPadding) + word("trpaddr", cellPadding) +
-                 "\\trpaddfl3\\trpaddfr3\n";
-        int right = -cellPadding;
+        m_out.append(flag) +=
+            word("trpaddl", padding) + word("trpaddr", padding) + "\\trpaddfl3\\trpaddfr3\n";
+        int right = -padding;
         for (std::size_t column = 0; column < row.cells.size(); ++column) {
             const int width = twips(table.columnWidths[column]);
             writeCellLook(*row.cells[column], table.hasBorders);
             m_out +=
                 "\\clftsWidth3" + word("clwWidth", width) + word("cellx", right += width) + "\n";
         }
-        for (const auto& cell : row.cells) writeStory(cell->story, 1, "\\cell");
-        m_out += "\\row\n";
     }
 
     void writeCellLook(const DocumentCell& cell, bool bordered) {
@@ -161,23 +181,20 @@ private:
             m_out += "\\clbrdrr\\brdrs" + word("brdrw", edgeWidth(cell.rightEdge));
         }
         if (cell.shading != noColour) m_out += word("clcbpat", m_colours.at(cell.shading));
-        m_out += cell.direction == TextDirection::Upward ? "\\cltxbtlr" : "\\cltxlrtb";
+        m_out += cell.direction == TextDirection::Upward ? upwardText() : "\\cltxlrtb";
+    }
+
+    /// Upward text keeps off the edges that its line begins and ends at, as other text does. All
+    /// four edges are told, alike: readers take the words for the left and the upper one for each
+    /// other.
+    static std::string upwardText() {
+        std::string words = "\\cltxbtlr";
+        for (const std::string edge : {"l", "t", "b", "r"})
+            words += word(("clpad" + edge).c_str(), cellPadding) + "\\clpadf" + edge + "3";
+        return words;
     }
 
     static int edgeWidth(int eighths) { return eighths == 0 ? hairline : eighths * 20 / 8; }
-
-    /// The properties of a nested row follow its cells. Readers without nested tables get a tab
-    /// between its cells and a line break behind it.
-    void writeNestedRow(const DocumentTable& table, const DocumentRow& row, int depth) {
-        for (const auto& cell : row.cells) {
-            writeStory(cell->story, depth, "\\nestcell");
-            if (&cell != &row.cells.back()) m_out += "{\\nonesttables\\tab}";
-        }
-        m_out += "{\\*\\nesttableprops\\trowd" + word("trgaph", 0);
-        int right = 0;
-        for (const int width : table.columnWidths) m_out += word("cellx", right += twips(width));
-        m_out += "\\nestrow}{\\nonesttables\\line}\n";
-    }
 
     const Document& m_document;
     std::map<std::string, int> m_fonts;
