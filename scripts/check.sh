@@ -29,7 +29,8 @@ check_tidy() {
     if ! { have clang-tidy && have cmake; }; then return 0; fi
     echo "-- clang-tidy"
     cmake --preset dev -B build/check -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >/dev/null
-    files 'src/*.cpp' 'tests/*.cpp' | tr '\n' '\0' |
+    # What is built on Windows alone has no headers here.
+    files 'src/*.cpp' 'tests/*.cpp' | grep -v '/windows_' | tr '\n' '\0' |
         xargs -0 -n 4 -P "$(nproc)" clang-tidy -p build/check --quiet \
             --extra-arg=-Wno-unknown-warning-option || fail "clang-tidy found something"
 }

@@ -8,6 +8,9 @@
 #include "desktop/question_printer.h"
 #include "reports/document_writer.h"
 #include "view/platform.h"
+#ifdef _WIN32
+#include "reports/windows_word_processor.h"
+#endif
 
 namespace orvanta::desktop {
 
@@ -101,6 +104,11 @@ private:
     DesktopForms m_forms;
     PreviewingPrinter m_printer;
     DocumentWriter m_documentWriter;
+#ifdef _WIN32
+    WindowsWordProcessors m_wordProcessors{m_documentWriter};
+#else
+    WordProcessors& m_wordProcessors = m_documentWriter;
+#endif
     DesktopLifetime m_lifetime;
     DesktopFolders m_folders;
     Platform m_platform;
