@@ -8,21 +8,12 @@ namespace orvanta::test {
 
 namespace {
 
-/// Shows nothing; keeps what becomes of the wait cursor.
-class CursorForms : public ModalForms {
-public:
-    explicit CursorForms(std::vector<bool>& waitCursor) : m_waitCursor(waitCursor) {}
-
-    void run(FrmSplash&) override {}
-    void run(FrmEdit&) override {}
-    void run(FrmReportType&) override {}
-    void run(FrmAbout&) override {}
-    void repaint(FrmReportType&) override {}
-    void setWaitCursor(bool on) override { m_waitCursor.push_back(on); }
-
-private:
-    std::vector<bool>& m_waitCursor;
-};
+Platform withOthers(const Platform& world, ModalForms& forms, WordProcessors& wordProcessors) {
+    return {world.disk,     world.messages, world.fileDialogs,
+            world.settings, world.shell,    world.player,
+            world.screen,   forms,          world.questionPrinter,
+            wordProcessors, world.lifetime, world.folders};
+}
 
 }  // namespace
 
@@ -57,20 +48,15 @@ Analysis smallAnalysis() {
             .threatMap = {{"T1", "Strike"}, {"T2", "New competitor"}, {"T2-W1", "Slow delivery"}}};
 }
 
-ReportBench::ReportBench(const Analysis& analysis) {
+ReportBench::ReportBench(const Analysis& analysis)
+    : m_platform(withOthers(program().platform, m_forms, m_wordProcessors)) {
     disk.files["docs/team.aze"] = analysis.bytes();
     start();
 }
 
 void ReportBench::makeDocument(WordProcessors& wordProcessors) {
-    const Platform& world = program().platform;
-    CursorForms forms(waitCursor);
-    Platform platform{world.disk,     world.messages, world.fileDialogs,
-                      world.settings, world.shell,    world.player,
-                      world.screen,   forms,          world.questionPrinter,
-                      wordProcessors, world.lifetime, world.folders};
-    Program run(platform, "app", "app");
-    generateWordReport(run, "docs/team.aze", "docs/team.rtf");
+    use(wordProcessors);
+    generateWordReport(m_reporter, "docs/team.aze", "docs/team.rtf");
 }
 
 std::string ReportBench::document() {

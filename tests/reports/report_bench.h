@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "bench.h"
 #include "reports/word_processor.h"
 
@@ -20,11 +22,16 @@ struct Analysis {
 /// the second with a weakness; no weakness that stands alone.
 Analysis smallAnalysis();
 
-/// The report routine on a memory disk, with a word processor of the test's choosing. The
-/// analysis is "docs/team.aze", its document "docs/team.rtf".
+/// A program on a memory disk that makes documents with a word processor of the test's choosing.
+/// The analysis is "docs/team.aze", its document "docs/team.rtf".
 class ReportBench : public Bench {
 public:
     explicit ReportBench(const Analysis& analysis = smallAnalysis());
+
+    /// The program that makes the documents. It shares the bench's disk, boxes and answers.
+    Program& reporter() { return m_reporter; }
+    /// The word processor that it starts from now on.
+    void use(WordProcessors& wordProcessors) { m_wordProcessors.chosen = &wordProcessors; }
 
     void makeDocument(WordProcessors& wordProcessors);
     /// With the program's own word processor; the bytes of the document.
@@ -35,6 +42,34 @@ public:
 
     /// Each time that the wait cursor was put on or taken off.
     std::vector<bool> waitCursor;
+    /// Runs when a dialog paints itself before it makes the program wait.
+    std::function<void(FrmReportType&)> onRepaint = [](FrmReportType&) {};
+
+private:
+    struct ChosenWordProcessors : WordProcessors {
+        WordProcessors* chosen = nullptr;
+        WordObjectPtr createApplication() override { return chosen->createApplication(); }
+    };
+
+    /// Shows nothing.
+    class Forms : public ModalForms {
+    public:
+        explicit Forms(ReportBench& bench) : m_bench(bench) {}
+        void run(FrmSplash&) override {}
+        void run(FrmEdit&) override {}
+        void run(FrmReportType&) override {}
+        void run(FrmAbout&) override {}
+        void repaint(FrmReportType& form) override { m_bench.onRepaint(form); }
+        void setWaitCursor(bool on) override { m_bench.waitCursor.push_back(on); }
+
+    private:
+        ReportBench& m_bench;
+    };
+
+    ChosenWordProcessors m_wordProcessors;
+    Forms m_forms{*this};
+    Platform m_platform;
+    Program m_reporter{m_platform, "app", "app"};
 };
 
 }  // namespace orvanta::test
