@@ -126,26 +126,9 @@ struct ListScreen {
     Label& heading;
     TextBox& box;
     StatementList& list;
-    Button add, edit, remove;
+    const ListButtons& buttons;
     std::string kind;
 };
-
-struct KindButtons {
-    std::string_view kind;
-    Button brainstormAdd, brainstormEdit, brainstormRemove;
-    Button analyzeAdd, analyzeEdit, analyzeRemove;
-};
-
-constexpr std::array<KindButtons, 4> kindButtons{{
-    {"Strength", Button::BSAdd, Button::BSEdit, Button::BSRemove, Button::ASAdd, Button::ASEdit,
-     Button::ASRemove},
-    {"Weakness", Button::BWAdd, Button::BWEdit, Button::BWRemove, Button::AWAdd, Button::AWEdit,
-     Button::AWRemove},
-    {"Opportunity", Button::BOAdd, Button::BOEdit, Button::BORemove, Button::AOAdd, Button::AOEdit,
-     Button::AORemove},
-    {"Threat", Button::BTAdd, Button::BTEdit, Button::BTRemove, Button::ATAdd, Button::ATEdit,
-     Button::ATRemove},
-}};
 
 constexpr double listWidth = 608, sideButtons = 648;
 
@@ -154,26 +137,23 @@ void placeListScreen(FrmMain& form, const ListScreen& screen) {
     screen.heading.fontSize = {11.25};
     screen.heading.bold = true;
     place(screen.box, &screen.panel, grid(24, 88, listWidth, 32), wide);
-    placeSmall(form.buttons[screen.add], screen.panel, sideButtons, 88, atRight);
+    placeSmall(form.buttons[screen.buttons.add], screen.panel, sideButtons, 88, atRight);
     place(screen.list, &screen.panel, grid(24, 136, listWidth, 372), whole);
-    placeSmall(form.buttons[screen.edit], screen.panel, sideButtons, 136, atRight);
-    placeSmall(form.buttons[screen.remove], screen.panel, sideButtons, 176, atRight);
+    placeSmall(form.buttons[screen.buttons.edit], screen.panel, sideButtons, 136, atRight);
+    placeSmall(form.buttons[screen.buttons.remove], screen.panel, sideButtons, 176, atRight);
     screen.box.accessibleName = "New " + screen.kind;
     screen.list.accessibleName = screen.kind + " list";
 }
 
 void placeListScreens(FrmMain& form) {
     for (const KindControls& controls : kindControls) {
-        const KindButtons& buttons = kindButtons[indexOf(controls.kind)];
-        const std::string kind(buttons.kind);
+        const std::string kind(controls.word);
         placeListScreen(
             form, {form.*controls.questionPanel, form.*controls.question, form.*controls.answerBox,
-                   form.*controls.brainstormList, buttons.brainstormAdd, buttons.brainstormEdit,
-                   buttons.brainstormRemove, kind});
+                   form.*controls.brainstormList, controls.brainstormButtons, kind});
         placeListScreen(
             form, {form.*controls.reviewPanel, form.*controls.instruction, form.*controls.reviewBox,
-                   form.*controls.analyzeList, buttons.analyzeAdd, buttons.analyzeEdit,
-                   buttons.analyzeRemove, kind});
+                   form.*controls.analyzeList, controls.analyzeButtons, kind});
     }
 }
 

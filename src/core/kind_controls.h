@@ -12,22 +12,30 @@ namespace orvanta {
 
 using ListMember = StatementList FrmMain::*;
 
+/// The buttons beside a list.
+struct ListButtons {
+    Button add, edit, remove;
+};
+
 /// What the main window holds for one statement kind, in both modules.
 struct KindControls {
     StatementKind kind;
-    Section section;  // of the session files
+    std::string_view word;  // for assistive programs
+    Section section;        // of the session files
     std::string_view blankMessage;
 
     Panel FrmMain::*questionPanel;
     Label FrmMain::*question;
     TextBox FrmMain::*answerBox;
     ListMember brainstormList;
+    ListButtons brainstormButtons;
     std::int16_t FrmMain::*narrated;
 
     Panel FrmMain::*reviewPanel;
     Label FrmMain::*instruction;
     TextBox FrmMain::*reviewBox;
     ListMember analyzeList;
+    ListButtons analyzeButtons;
     std::array<ListMember, 2> pickingLists;  // copies in step; strengths and weaknesses alone
     ListMember mappingList;                  // row of equal key; opportunities and threats alone
 };
@@ -37,59 +45,71 @@ inline constexpr ListMember noList = nullptr;
 // clang-format off: a row of the table is one kind
 inline constexpr std::array<KindControls, 4> kindControls{{
     {StatementKind::Strength,
+     "Strength",
      Section::Strength,
      "Please enter strength.",
      &FrmMain::fraStrength,
      &FrmMain::lblSQuestion,
      &FrmMain::txtStrength,
      &FrmMain::lvBStrength,
+     {Button::BSAdd, Button::BSEdit, Button::BSRemove},
      &FrmMain::narratedStrength,
      &FrmMain::fraASSummary,
      &FrmMain::lblAStrength,
      &FrmMain::txtAStrength,
      &FrmMain::lvAStrength,
+     {Button::ASAdd, Button::ASEdit, Button::ASRemove},
      {&FrmMain::lvStrengthOp, &FrmMain::lvStrengthTh},
      noList},
     {StatementKind::Weakness,
+     "Weakness",
      Section::Weakness,
      "Please enter weakness.",
      &FrmMain::fraWeakness,
      &FrmMain::lblWQuestion,
      &FrmMain::txtWeakness,
      &FrmMain::lvBWeakness,
+     {Button::BWAdd, Button::BWEdit, Button::BWRemove},
      &FrmMain::narratedWeakness,
      &FrmMain::fraAWeakness,
      &FrmMain::lblAWeakness,
      &FrmMain::txtAWeakness,
      &FrmMain::lvAWeakness,
+     {Button::AWAdd, Button::AWEdit, Button::AWRemove},
      {&FrmMain::lvWeaknessOp, &FrmMain::lvWeaknessTh},
      noList},
     {StatementKind::Opportunity,
+     "Opportunity",
      Section::Opportunity,
      "Please enter opportunity.",
      &FrmMain::fraOpportunity,
      &FrmMain::lblOQuestion,
      &FrmMain::txtOpportunity,
      &FrmMain::lvBOpportunity,
+     {Button::BOAdd, Button::BOEdit, Button::BORemove},
      &FrmMain::narratedOpportunity,
      &FrmMain::fraAOpportunity,
      &FrmMain::lblAOpportunity,
      &FrmMain::txtAOpportunity,
      &FrmMain::lvAOpportunity,
+     {Button::AOAdd, Button::AOEdit, Button::AORemove},
      {noList, noList},
      &FrmMain::lvOpportunity},
     {StatementKind::Threat,
+     "Threat",
      Section::Threats,
      "Please enter threat.",
      &FrmMain::fraThreats,
      &FrmMain::lblTQuestion,
      &FrmMain::txtThreat,
      &FrmMain::lvBThreat,
+     {Button::BTAdd, Button::BTEdit, Button::BTRemove},
      &FrmMain::narratedThreat,
      &FrmMain::fraAThreats,
      &FrmMain::lblAThreats,
      &FrmMain::txtAThreat,
      &FrmMain::lvAThreat,
+     {Button::ATAdd, Button::ATEdit, Button::ATRemove},
      {noList, noList},
      &FrmMain::lvThreat},
 }};

@@ -1,6 +1,5 @@
 #include "desktop/main_window.h"
 
-#include <QAction>
 #include <QCloseEvent>
 #include <QIcon>
 #include <QListWidget>
@@ -10,7 +9,7 @@
 #include <algorithm>
 
 #include "desktop/art.h"
-#include "desktop/label_view.h"
+#include "desktop/list_menu.h"
 #include "desktop/mirrors.h"
 #include "desktop/theme.h"
 
@@ -75,10 +74,11 @@ MainWindow::MainWindow(Program& program, Input input)
     : ControlArea(PixelGrid(program.platform.screen), nullptr), m_program(program), m_input(input) {
     FrmMain& form = program.frmMain;
     setObjectName(QStringLiteral("frmMain"));
+    placeMergeLink();
     makePanels();
     makeButtons();
     makeOthers();
-    makeListCommands();
+    giveMenus();
     raiseUncovered();
     orderTabs();
     setFocus();  // no button seems chosen at first
@@ -120,7 +120,8 @@ void MainWindow::makeOthers() {
     undo->setIcon(pictureIcon(QStringLiteral("undo")));
     QPushButton* redo = makePushButton(form.cmdRedo, *this, [this] { redoClicked(m_program); });
     redo->setIcon(pictureIcon(QStringLiteral("redo")));
-    makeDistributeLink();
+    makeLink(form.lblDistribute, LinkView::Ground::Card, distributeClicked);
+    makeLink(m_mergeLink, LinkView::Ground::Plain, mergeChosen);
     makeListBox(form.lstFiles, areaOf(form.lstFiles));
     for (Control* control : form.controls.all()) {
         ControlArea& area = areaOf(*control);
@@ -129,12 +130,28 @@ void MainWindow::makeOthers() {
     }
 }
 
-void MainWindow::makeDistributeLink() {
-    Label& model = m_program.frmMain.lblDistribute;
+void MainWindow::makeLink(Label& model, LinkView::Ground ground, void (*clicked)(Program&)) {
     ControlArea& area = areaOf(model);
-    auto* link = new LinkView(model, LinkView::Ground::Card, pixelGrid(), &area);
-    connect(link, &QPushButton::clicked, [this] { distributeClicked(m_program); });
+    auto* link = new LinkView(model, ground, pixelGrid(), &area);
+    connect(link, &QPushButton::clicked, [this, clicked] { clicked(m_program); });
     mirrorControl(model, *link, area);
+}
+
+/// Stands below the buttons beside the list of files and goes where they go.
+void MainWindow::placeMergeLink() {
+    FrmMain& form = m_program.frmMain;
+    const Image& above = form.buttons[Button::AFRemove].image;
+    m_mergeLink.container = above.container;
+    m_mergeLink.coveredBy = above.coveredBy;
+    m_mergeLink.stretch = above.stretch;
+    m_mergeLink.setToolTip("Join the files of the list in one new file.");
+    const auto follow = [this, &above] {
+        Bounds bounds = above.bounds();
+        bounds.top.value += 1.25 * bounds.height.value;
+        m_mergeLink.setBounds(bounds);
+    };
+    form.buttons[Button::AFRemove].image.changed.subscribe(follow);
+    follow();
 }
 
 void MainWindow::makeByKind(Control& control, ControlArea& area) {
@@ -153,27 +170,10 @@ void MainWindow::makeByKind(Control& control, ControlArea& area) {
     }
 }
 
-/// Commands that have no button of their own are in the lists' menus.
-void MainWindow::makeListCommands() {
-    struct Command {
-        Control& list;
-        const char* caption;
-        void (*chosen)(Program&);
-    };
-    FrmMain& form = m_program.frmMain;
-    const Command commands[] = {
-        {form.lstFiles, "Merge Brainstorm Files...", mergeChosen},
-        {form.lvOpportunity, "Remove", removeOpportunityMappingChosen},
-        {form.lvThreat, "Remove", removeThreatMappingChosen},
-    };
-    for (const Command& command : commands) {
-        auto* list = findChild<QWidget*>(fromCp1252(command.list.name()));
-        auto* action = new QAction(QLatin1String(command.caption), list);
-        connect(action, &QAction::triggered,
-                [this, chosen = command.chosen] { chosen(m_program); });
-        list->addAction(action);
-        list->setContextMenuPolicy(Qt::ActionsContextMenu);
-    }
+void MainWindow::giveMenus() {
+    for (Control* control : m_program.frmMain.controls.all())
+        if (auto* list = findChild<QWidget*>(fromCp1252(control->name())))
+            giveMenu(m_program, *control, *list);
 }
 
 /// Tab goes as the eye does: the column at the left, then each panel row by row.

@@ -4,6 +4,7 @@
 
 #include "core/session_state.h"
 #include "desktop/control_area.h"
+#include "desktop/label_view.h"
 #include "desktop/statement_list_view.h"
 
 namespace orvanta::desktop {
@@ -25,9 +26,10 @@ private:
     void makePanels();
     void makeButtons();
     void makeOthers();
-    void makeDistributeLink();
+    void placeMergeLink();
+    void makeLink(Label& model, LinkView::Ground ground, void (*clicked)(Program&));
     void makeByKind(Control& control, ControlArea& area);
-    void makeListCommands();
+    void giveMenus();
     void orderTabs();
     ControlArea& areaOf(const Control& control);
 
@@ -39,6 +41,8 @@ private:
 
     Program& m_program;
     Input m_input;
+    ControlSet m_ownControls;  // what the window has beyond the form's
+    Label m_mergeLink{m_ownControls, "lblMerge", "Merge..."};
     std::unordered_map<const Panel*, ControlArea*> m_panels;
     const Panel* m_focusedScreen = nullptr;
     bool m_focusPending = false;

@@ -155,24 +155,13 @@ void Driver::queueAnswer(const Json& line) {
 }
 
 void Driver::perform(const Json& line) {
-    static constexpr std::array<Act, 18> acts{{
-        {"start", &Driver::start},
-        {"activate", &Driver::activate},
-        {"type", &Driver::type},
-        {"set", &Driver::set},
-        {"enter", &Driver::enter},
-        {"click", &Driver::click},
-        {"press", &Driver::press},
-        {"release", &Driver::release},
-        {"choose", &Driver::choose},
-        {"mute", &Driver::mute},
-        {"select", &Driver::select},
-        {"drag", &Driver::drag},
-        {"hover", &Driver::hover},
-        {"tick", &Driver::tick},
-        {"call", &Driver::call},
-        {"close", &Driver::close},
-        {"kill", &Driver::kill},
+    static constexpr std::array<Act, 19> acts{{
+        {"start", &Driver::start},     {"activate", &Driver::activate}, {"type", &Driver::type},
+        {"set", &Driver::set},         {"enter", &Driver::enter},       {"click", &Driver::click},
+        {"press", &Driver::press},     {"release", &Driver::release},   {"choose", &Driver::choose},
+        {"mute", &Driver::mute},       {"select", &Driver::select},     {"drag", &Driver::drag},
+        {"hover", &Driver::hover},     {"tick", &Driver::tick},         {"call", &Driver::call},
+        {"menu", &Driver::menu},       {"close", &Driver::close},       {"kill", &Driver::kill},
         {"picture", &Driver::picture},
     }};
     const std::string name = stringIn(line, "do");
@@ -329,6 +318,16 @@ void Driver::call(const Json& line) {
     const auto routine = std::ranges::find(routines, name, &Routine::name);
     if (routine == routines.end()) throw Refused("there is no such routine: " + name);
     routine->chosen(m_program);
+}
+
+void Driver::menu(const Json& line) {
+    Control& list = reachable<Control>(stringIn(line, "list"));
+    const std::string caption = stringIn(line, "command");
+    const std::vector<ListCommand> commands = listCommandsOf(m_program.frmMain, list);
+    const auto command = std::ranges::find(commands, caption, &ListCommand::caption);
+    if (command == commands.end() || !isOffered(list, *command))
+        throw Refused("the menu of " + list.name() + " does not offer " + caption);
+    m_stage.chooseFromMenu(list, *command);
 }
 
 void Driver::close(const Json&) { m_stage.close(); }

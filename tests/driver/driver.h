@@ -53,6 +53,7 @@ private:
     void hover(const Json& line);
     void tick(const Json& line);
     void call(const Json& line);
+    void menu(const Json& line);
     void close(const Json& line);
     void kill(const Json& line);
     void picture(const Json& line);

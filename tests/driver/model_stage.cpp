@@ -45,6 +45,9 @@ public:
     void hover(StatementList& list, int position) override {
         hoveredOver(*m_program, list, position);
     }
+    void chooseFromMenu(Control&, const ListCommand& command) override {
+        command.choose(*m_program);
+    }
     void activate() override { windowActivated(*m_program); }
     void close() override { windowClosing(*m_program); }
 

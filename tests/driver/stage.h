@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/list_commands.h"
 #include "core/session_state.h"
 #include "presentation/about_box.h"
 #include "presentation/edit_dialog.h"
@@ -54,6 +55,8 @@ public:
     virtual void drag(StatementList& from, int row, const std::vector<StatementList*>& over,
                       StatementList& to, int position) = 0;
     virtual void hover(StatementList& list, int position) = 0;
+    /// A command that the list's menu offers now.
+    virtual void chooseFromMenu(Control& list, const ListCommand& command) = 0;
     virtual void activate() = 0;
     virtual void close() = 0;
 

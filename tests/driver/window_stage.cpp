@@ -1,14 +1,18 @@
 #include "window_stage.h"
 
+
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDialogButtonBox>
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
@@ -215,6 +219,18 @@ public:
     void hover(StatementList& list, int position) override {
         StatementListView& view = viewOf(list);
         send(*view.viewport(), QEvent::MouseMove, pointAt(view, position), Qt::NoButton);
+    }
+
+    void chooseFromMenu(Control& list, const ListCommand& command) override {
+        auto& view = widgetOf<QAbstractScrollArea>(list);
+        const QPoint place = view.viewport()->rect().center();
+        QContextMenuEvent asks(QContextMenuEvent::Mouse, place, view.mapToGlobal(place));
+        QApplication::sendEvent(view.viewport(), &asks);
+        auto* menu = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu) return;
+        for (QAction* action : menu->actions())
+            if (action->text() == fromCp1252(command.caption))
+                mouseClick(*menu, menu->actionGeometry(action).center());
     }
 
     void activate() override {
