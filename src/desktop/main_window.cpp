@@ -2,14 +2,13 @@
 
 #include <QCloseEvent>
 #include <QIcon>
-#include <QListWidget>
 #include <QPainter>
 #include <QPushButton>
 #include <QTimer>
 #include <algorithm>
 
 #include "desktop/art.h"
-#include "desktop/list_menu.h"
+#include "desktop/list_commands.h"
 #include "desktop/mirrors.h"
 #include "desktop/theme.h"
 
@@ -74,11 +73,10 @@ MainWindow::MainWindow(Program& program, Input input)
     : ControlArea(PixelGrid(program.platform.screen), nullptr), m_program(program), m_input(input) {
     FrmMain& form = program.frmMain;
     setObjectName(QStringLiteral("frmMain"));
-    placeMergeLink();
     makePanels();
     makeButtons();
     makeOthers();
-    giveMenus();
+    offerListCommands(program, *this);
     raiseUncovered();
     orderTabs();
     setFocus();  // no button seems chosen at first
@@ -121,7 +119,7 @@ void MainWindow::makeOthers() {
     QPushButton* redo = makePushButton(form.cmdRedo, *this, [this] { redoClicked(m_program); });
     redo->setIcon(pictureIcon(QStringLiteral("redo")));
     makeLink(form.lblDistribute, LinkView::Ground::Card, distributeClicked);
-    makeLink(m_mergeLink, LinkView::Ground::Plain, mergeChosen);
+    makeMergeLink();
     makeListBox(form.lstFiles, areaOf(form.lstFiles));
     for (Control* control : form.controls.all()) {
         ControlArea& area = areaOf(*control);
@@ -130,28 +128,30 @@ void MainWindow::makeOthers() {
     }
 }
 
-void MainWindow::makeLink(Label& model, LinkView::Ground ground, void (*clicked)(Program&)) {
-    ControlArea& area = areaOf(model);
-    auto* link = new LinkView(model, ground, pixelGrid(), &area);
+void MainWindow::makeLink(Label& label, LinkView::Ground ground, void (*clicked)(Program&)) {
+    ControlArea& area = areaOf(label);
+    auto* link = new LinkView(label, ground, pixelGrid(), &area);
     connect(link, &QPushButton::clicked, [this, clicked] { clicked(m_program); });
-    mirrorControl(model, *link, area);
+    mirrorControl(label, *link, area);
 }
 
-/// Stands below the buttons beside the list of files and goes where they go.
-void MainWindow::placeMergeLink() {
-    FrmMain& form = m_program.frmMain;
-    const Image& above = form.buttons[Button::AFRemove].image;
-    m_mergeLink.container = above.container;
-    m_mergeLink.coveredBy = above.coveredBy;
-    m_mergeLink.stretch = above.stretch;
-    m_mergeLink.setToolTip("Join the files of the list in one new file.");
-    const auto follow = [this, &above] {
+/// Below the buttons of the source files, wherever these are.
+void MainWindow::makeMergeLink() {
+    const Label& above = m_program.frmMain.buttons[Button::AFRemove].label;
+    const Label& likeness = m_program.frmMain.lblDistribute;
+    m_merge.setToolTip("Join the files of the list into one new Brainstorm file.");
+    m_merge.container = above.container;
+    m_merge.coveredBy = above.coveredBy;
+    m_merge.stretch = above.stretch;
+    const auto follow = [this, &above, &likeness] {
         Bounds bounds = above.bounds();
-        bounds.top.value += 1.25 * bounds.height.value;
-        m_mergeLink.setBounds(bounds);
+        bounds.top = bounds.top + bounds.height * 1.25;
+        m_merge.fontSize = likeness.fontSize;
+        m_merge.setBounds(bounds);
     };
-    form.buttons[Button::AFRemove].image.changed.subscribe(follow);
     follow();
+    m_program.frmMain.buttons[Button::AFRemove].label.changed.subscribe(follow);
+    makeLink(m_merge, LinkView::Ground::Plain, mergeChosen);
 }
 
 void MainWindow::makeByKind(Control& control, ControlArea& area) {
@@ -168,12 +168,6 @@ void MainWindow::makeByKind(Control& control, ControlArea& area) {
     } else {
         mirrorControl(control, *new QWidget(&area), area);  // holds the art of others, unseen
     }
-}
-
-void MainWindow::giveMenus() {
-    for (Control* control : m_program.frmMain.controls.all())
-        if (auto* list = findChild<QWidget*>(fromCp1252(control->name())))
-            giveMenu(m_program, *control, *list);
 }
 
 /// Tab goes as the eye does: the column at the left, then each panel row by row.

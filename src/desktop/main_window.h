@@ -26,10 +26,9 @@ private:
     void makePanels();
     void makeButtons();
     void makeOthers();
-    void placeMergeLink();
-    void makeLink(Label& model, LinkView::Ground ground, void (*clicked)(Program&));
+    void makeLink(Label& label, LinkView::Ground ground, void (*clicked)(Program&));
+    void makeMergeLink();
     void makeByKind(Control& control, ControlArea& area);
-    void giveMenus();
     void orderTabs();
     ControlArea& areaOf(const Control& control);
 
@@ -41,8 +40,8 @@ private:
 
     Program& m_program;
     Input m_input;
-    ControlSet m_ownControls;  // what the window has beyond the form's
-    Label m_mergeLink{m_ownControls, "lblMerge", "Merge..."};
+    ControlSet m_ownControls;  // the window's own, of which the program knows nothing
+    Label m_merge{m_ownControls, "lblMerge", "Merge..."};
     std::unordered_map<const Panel*, ControlArea*> m_panels;
     const Panel* m_focusedScreen = nullptr;
     bool m_focusPending = false;

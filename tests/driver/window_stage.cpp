@@ -1,6 +1,5 @@
 #include "window_stage.h"
 
-
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCheckBox>
@@ -229,7 +228,7 @@ public:
         auto* menu = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
         if (!menu) return;
         for (QAction* action : menu->actions())
-            if (action->text() == fromCp1252(command.caption))
+            if (action->text().section('\t', 0, 0) == fromCp1252(command.caption))
                 mouseClick(*menu, menu->actionGeometry(action).center());
     }
 
