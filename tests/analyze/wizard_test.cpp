@@ -7,14 +7,6 @@ namespace {
 
 constexpr const char* addPrompt = "Do you want to add the answer?";
 
-/// What is left of a click's events without the button's own art.
-Json withoutArt(const Json& events) {
-    Json rest = Json::array();
-    for (const Json& event : events)
-        if (event["event"] != "art") rest.push_back(event);
-    return rest;
-}
-
 struct Screen {
     std::string name, panel, clip;
     bool showsUndo;

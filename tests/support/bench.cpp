@@ -163,6 +163,13 @@ Texts Bench::texts(const std::string& name) {
 Texts Bench::undoRecords() { return nonEmpty(form().undoRecords); }
 Texts Bench::redoRecords() { return nonEmpty(form().redoRecords); }
 
+Json withoutArt(const Json& events) {
+    Json rest = Json::array();
+    for (const Json& event : events)
+        if (event["event"] != "art") rest.push_back(event);
+    return rest;
+}
+
 std::string bankOf(int questions) {
     Texts bank;
     for (const char* section : {"STRENGTH", "WEAKNESS", "OPPORTUNITY", "THREATS"}) {

@@ -92,6 +92,9 @@ private:
     Json m_events = Json::array();
 };
 
+/// What is left of a click's events without the button's own art.
+Json withoutArt(const Json& events);
+
 /// A bank with this many questions in each list, "S question 1" and so on.
 std::string bankOf(int questions);
 
