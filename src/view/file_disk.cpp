@@ -5,9 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
-#include <cstdlib>
-#include <memory>
+#include <csignal>
 
 #include "view/windows1252.h"
 
@@ -74,26 +72,57 @@ void writeAll(int descriptor, std::string_view bytes, const std::string& path) {
     }
 }
 
-/// The file that a path means, through any links; the path itself where nothing is there yet.
-std::string targetOf(const std::string& path) {
-    if (char* resolved = ::realpath(path.c_str(), nullptr)) {
-        std::string target(resolved);
-        std::free(resolved);
-        return target;
-    }
+/// What a symbolic link names, as a path from here; empty where the path is no link.
+std::string namedByLink(const std::string& path) {
     char link[4096];
     const ssize_t length = ::readlink(path.c_str(), link, sizeof link);
-    if (length <= 0) return path;
+    if (length <= 0) return {};
     const std::string named(link, static_cast<std::size_t>(length));
     return named.starts_with('/') ? named : folderOf(path) + '/' + named;
 }
 
-/// For what is no plain file (a device, say), and for a file in a folder that takes no new one.
-void writeInPlace(const std::string& path, std::string_view bytes) {
-    FileHandle file(::open(path.c_str(), O_WRONLY | O_TRUNC | O_NONBLOCK | O_CLOEXEC));
+/// The file that a path means, through any links; it need not be there. Links that lead in a
+/// circle fail with PathFileAccess.
+std::string targetOf(std::string path) {
+    constexpr int mostLinks = 40;  // as many as the system itself follows
+    for (int i = 0; i < mostLinks; ++i) {
+        std::string named = namedByLink(path);
+        if (named.empty()) return path;
+        path = std::move(named);
+    }
+    throw Failure(ErrorNumber::PathFileAccess);
+}
+
+/// For what is no plain file, a device say.
+void writeInto(const std::string& path, std::string_view bytes) {
+    FileHandle file(::open(path.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
     if (!file.isOpen()) throw failureFor(errno, path);
     writeAll(file.get(), bytes, path);
     if (!file.close()) throw failureFor(errno, path);
+}
+
+void setBytes(int descriptor, std::string_view bytes, const std::string& path) {
+    if (::lseek(descriptor, 0, SEEK_SET) != 0) throw failureFor(errno, path);
+    writeAll(descriptor, bytes, path);
+    if (::ftruncate(descriptor, static_cast<off_t>(bytes.size())) != 0 || ::fsync(descriptor) != 0)
+        throw failureFor(errno, path);
+}
+
+/// For a file in a folder that takes no new one. The file is not emptied first, so that its room
+/// on the device is kept for the former bytes, which come back if the write breaks off.
+void writeOver(const std::string& path, std::string_view bytes, std::string_view former) {
+    const FileHandle file(::open(path.c_str(), O_WRONLY | O_CLOEXEC));
+    if (!file.isOpen()) throw failureFor(errno, path);
+    try {
+        setBytes(file.get(), bytes, path);
+    } catch (const Failure&) {
+        const off_t reached = ::lseek(file.get(), 0, SEEK_CUR);
+        const auto touched = static_cast<std::size_t>(reached < 0 ? 0 : reached);
+        const std::string_view lost = former.substr(0, touched);
+        if (::pwrite(file.get(), lost.data(), lost.size(), 0) >= 0)
+            (void)!::ftruncate(file.get(), static_cast<off_t>(former.size()));
+        throw;
+    }
 }
 
 void flushFolder(const std::string& folder) {
@@ -135,6 +164,9 @@ private:
 
 }  // namespace
 
+// A file that outgrows what the system allows is to be a failed write, not the end of the program.
+FileDisk::FileDisk() { std::signal(SIGXFSZ, SIG_IGN); }
+
 PathKind FileDisk::kindOf(const std::string& path) const {
     struct stat status {};
     if (::stat(utf8From1252(path).c_str(), &status) != 0) return PathKind::Missing;
@@ -164,19 +196,20 @@ std::string FileDisk::read(const std::string& path) const {
 
 void FileDisk::replace(const std::string& path, std::string_view bytes) {
     if (path.empty()) throw Failure(ErrorNumber::PathFileAccess);
-    const std::string target = targetOf(utf8From1252(path));
+    const std::string name = utf8From1252(path);
     struct stat status {};
-    const bool there = ::stat(target.c_str(), &status) == 0;
+    const bool there = ::stat(name.c_str(), &status) == 0;
     if (there && S_ISDIR(status.st_mode)) throw Failure(ErrorNumber::PathFileAccess);
+    if (there && !S_ISREG(status.st_mode)) return writeInto(name, bytes);
+    const std::string target = targetOf(name);
     if (!there && !isFolder(folderOf(target))) throw Failure(ErrorNumber::PathNotFound);
-    if (there && !S_ISREG(status.st_mode)) return writeInPlace(target, bytes);
     // A rename would not ask for the right to write the file itself.
     if (there && ::access(target.c_str(), W_OK) != 0) throw failureFor(errno, target);
     Sibling sibling(target);
     if (!sibling.isOpen()) {
         const int error = errno;
         if (!there || error != EACCES) throw failureFor(error, target);
-        return writeInPlace(target, bytes);
+        return writeOver(target, bytes, read(path));
     }
     sibling.become(target, bytes, there ? status.st_mode & 07777 : modeOfNewFiles());
     flushFolder(folderOf(target));
