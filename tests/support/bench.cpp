@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -12,10 +13,14 @@ namespace orvanta::test {
 
 namespace {
 
-/// A settings file that no other test sees.
+/// A settings file that no other test sees, in memory where the system has a folder for that: on
+/// a disk each rewriting may wait for the device.
 std::string newSettingsFile() {
+    const std::filesystem::path memory = "/dev/shm";
+    const bool hasMemory = ::access(memory.c_str(), W_OK) == 0;
     std::string path =
-        (std::filesystem::temp_directory_path() / "orvanta-settings-XXXXXX").string();
+        ((hasMemory ? memory : std::filesystem::temp_directory_path()) / "orvanta-settings-XXXXXX")
+            .string();
     const int descriptor = ::mkstemp(path.data());
     EXPECT_GE(descriptor, 0);
     ::close(descriptor);
