@@ -1,0 +1,137 @@
+#include <gtest/gtest.h>
+
+#include "analysis_bench.h"
+#include "failing_disk.h"
+#include "reports/report_dialog.h"
+#include "saving_bench.h"
+#include "sessionfiles/analyze_file.h"
+#include "sessionfiles/brainstorm_file.h"
+#include "sessionfiles/merging.h"
+#include "sessionfiles/saving.h"
+#include "temporary_folder.h"
+
+namespace orvanta::test {
+namespace {
+
+class SaveOnAFullDisk;
+
+/// One of the ways in which the program writes a file.
+struct Save {
+    std::string name;
+    std::string target;  // in the folder of the test
+    void (*perform)(SaveOnAFullDisk& test);
+};
+
+std::ostream& operator<<(std::ostream& out, const Save& save) { return out << save.name; }
+
+/// A program with two sessions on the real disk, which refuses files beyond a size.
+class SaveOnAFullDisk : public testing::TestWithParam<Save> {
+public:
+    Program& onDisk() { return program; }
+    std::string path(const std::string& name) const { return folder / name; }
+    void answerFile(const std::string& name) { bench.answerFile(path(name)); }
+    void confirm() { bench.answerMessage("yes"); }
+
+    void makeReport(int format) {
+        FrmReportType form;
+        form.cboFormat.setSelectedIndex(format);
+        form.txtEdit.setText(path("team.aze"));
+        acceptReport(program, form);
+    }
+
+protected:
+    SaveOnAFullDisk() {
+        bench.start();
+        std::filesystem::create_directory(path("System"));
+        folder.write("dana.bsm", brainstormFile("Dana", "MP", {"Own fleet"}, {"Slow"}, {}, {}));
+        folder.write("team.aze", lines({"<MODULE>", "MP", "</MODULE>", "<STRENGTH>",
+                                        "S1<!-SWOT-!>[Dana]: <!-SWOT-!>Own fleet", "</STRENGTH>"}));
+        loadBrainstormData(program, path("dana.bsm"), "BS", false);
+        loadAnalyzeData(program, path("team.aze"), false);
+        program.frmMain.lstFiles.add(path("dana.bsm"));
+        others = folder.names();
+    }
+
+    /// Performs the save with room for so many bytes in any file.
+    void performWithRoomFor(rlim_t room) {
+        disk.room = room;
+        GetParam().perform(*this);
+        disk.room = std::numeric_limits<rlim_t>::max();
+    }
+    std::string saved() const { return folder.read(GetParam().target); }
+
+    Bench bench;
+    TemporaryFolder folder;
+    FailingDisk disk;
+    DocumentWriter wordProcessors{disk};
+    Platform& rest = bench.program().platform;
+    Platform platform{disk,           rest.messages,   rest.fileDialogs,
+                      rest.settings,  rest.shell,      rest.player,
+                      rest.screen,    rest.modalForms, rest.questionPrinter,
+                      wordProcessors, rest.lifetime,   rest.folders};
+    Program program{platform, folder.path(), folder.path()};
+    std::vector<std::string> others;  // what lies there before any save
+};
+
+void saveByName(SaveOnAFullDisk& test, bool (*dialog)(Program&), const std::string& target) {
+    test.answerFile(target);
+    test.confirm();
+    dialog(test.onDisk());
+}
+
+void copyAtTick(SaveOnAFullDisk& test, bool FrmMain::*changed, Panel FrmMain::*panel) {
+    FrmMain& form = test.onDisk().frmMain;
+    form.editFlag = form.editAFlag = false;
+    form.*changed = true;
+    (form.*panel).show();
+    tickAutoSave(test.onDisk());
+}
+
+const std::vector<Save> saves{
+    {"BrainstormSession", "saved.bsm",
+     [](SaveOnAFullDisk& test) { saveByName(test, saveBrainstormDialog, "saved.bsm"); }},
+    {"Analysis", "saved.aze",
+     [](SaveOnAFullDisk& test) { saveByName(test, saveAnalyzeDialog, "saved.aze"); }},
+    {"CopyOfTheBrainstormSession", "brainstorm.tmp",
+     [](SaveOnAFullDisk& test) { copyAtTick(test, &FrmMain::editFlag, &FrmMain::fraBrainstorm); }},
+    {"CopyOfTheAnalysis", "analyze.tmp",
+     [](SaveOnAFullDisk& test) { copyAtTick(test, &FrmMain::editAFlag, &FrmMain::fraAnalyze); }},
+    {"MergedFile", "merged.bsm",
+     [](SaveOnAFullDisk& test) {
+         test.answerFile("merged.bsm");
+         test.confirm();
+         mergeBrainstormFiles(test.onDisk());
+     }},
+    {"WebPage", "System/report.htm", [](SaveOnAFullDisk& test) { test.makeReport(0); }},
+    {"Document", "team.rtf",
+     [](SaveOnAFullDisk& test) {
+         test.answerFile("team.rtf");
+         test.confirm();
+         test.makeReport(1);
+     }},
+};
+INSTANTIATE_TEST_SUITE_P(Of, SaveOnAFullDisk, testing::ValuesIn(saves), NameOfParameter{});
+
+TEST_P(SaveOnAFullDisk, LeavesTheFormerFileByteForByteUntilTheNewOneIsThereWhole) {
+    performWithRoomFor(std::numeric_limits<rlim_t>::max());
+    const std::string whole = saved();
+    ASSERT_FALSE(whole.empty());
+    folder.write(GetParam().target, "former");
+    const auto names = folder.names();
+    for (rlim_t room = 0; room < whole.size(); ++room) {
+        performWithRoomFor(room);
+        ASSERT_EQ(saved(), "former") << "with room for " << room << " bytes";
+        ASSERT_EQ(folder.names(), names);
+    }
+    performWithRoomFor(whole.size());
+    EXPECT_EQ(saved(), whole);
+}
+
+TEST_P(SaveOnAFullDisk, LeavesNoPieceOfAFileWhereThereWasNone) {
+    performWithRoomFor(10);
+    EXPECT_EQ(folder.names(), others);
+    EXPECT_FALSE(std::filesystem::exists(path(GetParam().target)));
+}
+
+}  // namespace
+}  // namespace orvanta::test
