@@ -6,7 +6,8 @@ set -euo pipefail
 declare -A packages=(
     [run]="g++ cmake ninja-build qt6-base-dev libqt6svg6 fonts-dejavu-core xdg-utils"
     [test]="g++ cmake ninja-build qt6-base-dev libqt6svg6 fonts-dejavu-core libgtest-dev
-            libbenchmark-dev nlohmann-json3-dev xvfb xauth dbus poppler-utils ccache"
+            libbenchmark-dev nlohmann-json3-dev xvfb xauth dbus ccache
+            libreoffice-writer-nogui poppler-utils pandoc unrtf fonts-liberation"
     [tour]="g++ cmake ninja-build qt6-base-dev libqt6svg6 fonts-dejavu-core nlohmann-json3-dev
             libgtest-dev libbenchmark-dev xvfb xauth openbox dbus chromium"
     [check]="clang-format clang-tidy git shellcheck g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev

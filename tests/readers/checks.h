@@ -1,0 +1,19 @@
+#pragma once
+
+#include "expectation.h"
+#include "markup.h"
+
+namespace orvanta::readers {
+
+// What a reader makes of the document. Each throws Mismatch where it is not what it should be.
+
+/// HTML holds all texts in order, and no others.
+void checkTexts(const std::string& html, const std::vector<ExpectedPart>& expected);
+
+/// The words of a printed document, with their places, stand in the columns where they belong.
+void checkPages(const Node& words, const std::vector<ExpectedPart>& expected);
+
+/// A flat text document has all tables with their rows, cells, widths, colours and edges.
+void checkTables(const Node& document, const std::vector<ExpectedPart>& expected);
+
+}  // namespace orvanta::readers
