@@ -6,16 +6,12 @@
 
 namespace orvanta::test {
 
-namespace {
-
 Platform withOthers(const Platform& world, ModalForms& forms, WordProcessors& wordProcessors) {
     return {world.disk,     world.messages, world.fileDialogs,
             world.settings, world.shell,    world.player,
             world.screen,   forms,          world.questionPrinter,
             wordProcessors, world.lifetime, world.folders};
 }
-
-}  // namespace
 
 std::string Analysis::bytes() const {
     Texts file{"<MODULE>", "GBS", "</MODULE>"};

@@ -22,6 +22,9 @@ struct Analysis {
 /// the second with a weakness; no weakness that stands alone.
 Analysis smallAnalysis();
 
+/// A world whose dialogs and word processor are others.
+Platform withOthers(const Platform& world, ModalForms& forms, WordProcessors& wordProcessors);
+
 /// A program on a memory disk that makes documents with a word processor of the test's choosing.
 /// The analysis is "docs/team.aze", its document "docs/team.rtf".
 class ReportBench : public Bench {

@@ -1,0 +1,118 @@
+#include <gtest/gtest.h>
+
+#include <QPushButton>
+#include <QTimer>
+#include <QtTest>
+
+#include "desktop/platform.h"
+#include "report_bench.h"
+#include "window_bench.h"
+
+namespace orvanta::test {
+
+namespace {
+
+using namespace orvanta::desktop;
+
+/// Counts how often a widget is painted.
+class Paintings : public QObject {
+public:
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::Paint;
+        return false;
+    }
+    int count = 0;
+};
+
+/// The real report dialog before a program whose documents are made by a word processor that
+/// looks at the dialog first. OK is pressed as soon as the dialog has come up.
+class ReportDialogView : public testing::Test, private WordProcessors {
+protected:
+    ReportDialogView() {
+        bench.disk.files["docs/team.aze"] = smallAnalysis().bytes();
+        bench.start();
+        forms.setProgram(program);
+    }
+
+    void makeDocument() {
+        FrmReportType form;
+        form.txtEdit.setText("docs/team.aze");
+        bench.answerFile("docs/team.rtf");
+        QTimer::singleShot(0, [this] { pressOk(); });
+        forms.run(form);
+    }
+
+    Bench bench;
+    Paintings paintings;  // of the wait text
+    bool waitTextShown = false, buttonShown = true, enabled = true;
+    int painted = 0;
+    std::optional<Qt::CursorShape> cursor;
+    std::function<void()> whileMaking = [] {};
+
+private:
+    WordObjectPtr createApplication() override {
+        QWidget* dialog = QApplication::activeModalWidget();
+        waitTextShown = widget("lblGenerating").isVisible();
+        buttonShown = widget("OKButton").isVisible();
+        enabled = widget("txtEdit").isEnabled();
+        painted = paintings.count;
+        if (QApplication::overrideCursor()) cursor = QApplication::overrideCursor()->shape();
+        EXPECT_TRUE(dialog && dialog->isVisible());
+        return m_writer.createApplication();
+    }
+
+    static QWidget& widget(const char* name) {
+        return *QApplication::activeModalWidget()->findChild<QWidget*>(QLatin1String(name));
+    }
+
+    void pressOk() {
+        // Nothing is painted in a window that is not on the screen yet.
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(QApplication::activeModalWidget()));
+        widget("lblGenerating").installEventFilter(&paintings);
+        QTest::mouseClick(&widget("OKButton"), Qt::LeftButton);
+    }
+
+    DocumentWriter m_writer{bench.disk};
+    DesktopForms forms;
+    Platform m_platform = withOthers(bench.program().platform, forms, *this);
+    Program program{m_platform, "app", "app"};
+};
+
+}  // namespace
+
+TEST_F(ReportDialogView, ShowsTheWaitTextInPlaceOfAllElseWhileADocumentIsMade) {
+    makeDocument();
+    EXPECT_TRUE(waitTextShown);
+    EXPECT_FALSE(buttonShown || enabled);
+}
+
+TEST_F(ReportDialogView, HasPaintedTheWaitTextBeforeADocumentIsBegun) {
+    makeDocument();
+    EXPECT_GE(painted, 1);
+}
+
+TEST_F(ReportDialogView, ShowsTheWaitCursorWhileADocumentIsMadeAndNotAfterwards) {
+    makeDocument();
+    EXPECT_EQ(cursor, Qt::WaitCursor);
+    EXPECT_FALSE(QApplication::overrideCursor());
+}
+
+TEST_F(ReportDialogView, ClosesBehindADocumentAndOpensIt) {
+    makeDocument();
+    EXPECT_FALSE(QApplication::activeModalWidget());
+    bench.play({{"do", "state"}});
+    EXPECT_EQ(bench.events("open"),
+              Json::array({{{"event", "open"}, {"target", "docs/team.rtf"}}}));
+}
+
+TEST(DesktopPlatform, MakesDocumentsWithTheProgramsOwnWordProcessor) {
+    MemoryDisk disk;
+    disk.folders = {"docs"};
+    DesktopPlatform desktop(disk);
+    const WordRef application(desktop.platform().wordProcessors.createApplication());
+    const WordRef document = application.get("Documents").get("Add");
+    document.call("SaveAs", {std::string("docs/team.rtf")});
+    EXPECT_TRUE(disk.files["docs/team.rtf"].starts_with("{\\rtf1"));
+}
+
+}  // namespace orvanta::test
