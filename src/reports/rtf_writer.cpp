@@ -190,7 +190,8 @@ private:
     static std::string upwardText() {
         std::string words = "\\cltxbtlr";
         for (const std::string edge : {"l", "t", "b", "r"})
-            words += word(("clpad" + edge).c_str(), cellPadding) + "\\clpadf" + edge + "3";
+            words.append("\\clpad" + edge + std::to_string(cellPadding))
+                .append("\\clpadf" + edge + "3");
         return words;
     }
 

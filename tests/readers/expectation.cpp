@@ -48,6 +48,7 @@ std::vector<ExpectedRow> mappingRows(const std::vector<Line>& lines) {
 
 std::vector<ExpectedRow> listRows(const std::vector<Line>& lines) {
     std::vector<ExpectedRow> rows;
+    rows.reserve(lines.size());
     for (const Line& line : lines) rows.push_back({line.text, std::to_string(rows.size() + 1), {}});
     return rows;
 }

@@ -76,7 +76,7 @@ private:
     }
 
     std::vector<const Node*> cells(const Node& row) const {
-        const auto cells = row.all("table:table-cell");
+        auto cells = row.all("table:table-cell");
         require(cells.size() == 3, m_name + " has a row of another number of cells");
         return cells;
     }

@@ -8,12 +8,12 @@ namespace orvanta::test {
 
 namespace {
 
-DocumentParagraph paragraphOf(const std::string& text, CharacterFormat format = {}) {
+DocumentParagraph paragraphOf(const std::string& text, const CharacterFormat& format = {}) {
     return {.runs = {{text, format}}, .mark = format, .format = {}};
 }
 
 /// A document of one paragraph.
-Document documentOf(const std::string& text, CharacterFormat format = {}) {
+Document documentOf(const std::string& text, const CharacterFormat& format = {}) {
     Document document;
     document.body.blocks.assign(1, paragraphOf(text, format));
     return document;
@@ -23,7 +23,7 @@ std::string shown(const std::string& text) {
     return readRtf(rtfBytes(documentOf(text))).outline().front();
 }
 
-std::shared_ptr<DocumentTable> tableOf(std::size_t rows, std::vector<int> widths) {
+std::shared_ptr<DocumentTable> tableOf(std::size_t rows, const std::vector<int>& widths) {
     auto table = std::make_shared<DocumentTable>();
     table->columnWidths = widths;
     table->rows.resize(rows);
