@@ -26,12 +26,12 @@ struct Step {
 };
 
 constexpr std::array<Step, 6> steps{{
-    {&FrmMain::fraASSummary, "analyze_S", &controlsOf(StatementKind::Strength)},
-    {&FrmMain::fraAWeakness, "analyze_W", &controlsOf(StatementKind::Weakness)},
-    {&FrmMain::fraAOpportunity, "analyze_O", &controlsOf(StatementKind::Opportunity)},
-    {&FrmMain::fraAThreats, "analyze_T", &controlsOf(StatementKind::Threat)},
-    {&FrmMain::fraAnalyzeOpportunity, "analyze_OM", nullptr},
-    {&FrmMain::fraAnalyzeThreat, "analyze_TM", nullptr},
+    {&FrmMain::fraASSummary, analyzeClips[0], &controlsOf(StatementKind::Strength)},
+    {&FrmMain::fraAWeakness, analyzeClips[1], &controlsOf(StatementKind::Weakness)},
+    {&FrmMain::fraAOpportunity, analyzeClips[2], &controlsOf(StatementKind::Opportunity)},
+    {&FrmMain::fraAThreats, analyzeClips[3], &controlsOf(StatementKind::Threat)},
+    {&FrmMain::fraAnalyzeOpportunity, analyzeClips[4], nullptr},
+    {&FrmMain::fraAnalyzeThreat, analyzeClips[5], nullptr},
 }};
 
 constexpr std::size_t lastStatementStep = 3;
@@ -79,8 +79,11 @@ bool startReview(Program& program) {
 /// Going back from the opportunity mapping tests for one clip and plays another. Meant so.
 void narrateThreatsOnReturn(Program& program) {
     if (program.frmMain.chkMute.isOn()) return;
-    if (fileExists(program, narrationPath(program, "analyze_T")))
-        playNarration(program, narrationPath(program, "analyze_TM"));
+    const auto pathOf = [&](const Step& step) {
+        return narrationPath(program, std::string(step.clip));
+    };
+    if (fileExists(program, pathOf(steps[lastStatementStep])))
+        playNarration(program, pathOf(steps.back()));
 }
 
 void goBackFrom(Program& program, std::size_t index) {

@@ -96,7 +96,7 @@ private:
         return m_program.questions.*bankListOf(kind.kind).count;
     }
     std::string clipOf(const KindControls& kind, int number) const {
-        return m_code + '_' + letterOf(kind.kind) + std::to_string(number);
+        return clipName(m_code, kind.kind, number);
     }
 
     void showQuestion(const KindControls& kind, int number) {

@@ -32,7 +32,7 @@ void offerModules(Program& program) {
     FrmMain& form = program.frmMain;
     Twips top = form.optGBS.bounds().top;
     for (const auto member : offeredOrder) {
-        if (!fileExists(program, bankPath(program, moduleOf(member).code))) continue;
+        if (!fileExists(program, bankPath(program.appPath, moduleOf(member).code))) continue;
         Option& option = form.*member;
         option.setVisible(true);
         if (&option != &form.optGBS) {  // that one keeps its place

@@ -14,7 +14,9 @@ namespace {
 QuestionSheets sheetsOf(const Program& program, const Module& module) {
     QuestionBanks banks;  // a copy of its own: the wizard's questions stay as they are
     const CarryOn step;   // what can be read of a damaged bank is printed all the same
-    step([&] { loadQuestionBank(program, module.code, banks); });
+    step([&] {
+        loadQuestionBank(program.platform.disk, bankPath(program.appPath, module.code), banks);
+    });
     QuestionSheets sheets{std::string(module.code),
                           replaceAll((program.frmMain.*module.option).caption(), "&&", "&"),
                           {}};

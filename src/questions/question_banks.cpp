@@ -5,7 +5,6 @@
 #include "core/failures.h"
 #include "core/section_tags.h"
 #include "core/text.h"
-#include "core/workspace.h"
 
 namespace orvanta {
 
@@ -78,12 +77,39 @@ private:
     int m_growthBound = boundStep;  // one for all sections
 };
 
-void readAnalyzeHeadings(Program& program, std::array<std::string, 7>& headings) {
+}  // namespace
+
+BankList bankListOf(StatementKind kind) { return bankLists[indexOf(kind)]; }
+
+std::string bankPath(const std::string& appPath, std::string_view code) {
+    return appPath + pathSeparator + std::string(code) + "questions.txt";
+}
+
+bool loadQuestionBank(const Disk& disk, const std::string& path, QuestionBanks& into) {
+    for (const BankList& list : bankLists) into.*list.count = 0;
+    if (disk.kindOf(path) != PathKind::File) return false;
+    for (const BankList& list : bankLists) (into.*list.questions).assign(boundStep + 1, {});
+    const std::string bytes = disk.read(path);
+    BankReading reading(into);
+    LineSource lines(bytes);
+    while (const auto line = lines.next()) reading.take(*line);
+    bool everyList = true;
+    for (const BankList& list : bankLists) everyList = everyList && into.*list.count > 0;
+    return everyList;
+}
+
+bool loadModuleQuestions(Program& program, std::string_view code) {
+    return loadQuestionBank(program.platform.disk, bankPath(program.appPath, code),
+                            program.questions);
+}
+
+void readAnalyzeHeadings(const Disk& disk, const std::string& appPath,
+                         std::array<std::string, 7>& headings) {
     headings.fill({});
     int index = -1;
-    const std::string path = program.appPath + pathSeparator + "analyzequestions.txt";
-    if (fileExists(program, path)) {
-        const std::string bytes = program.platform.disk.read(path);
+    const std::string path = bankPath(appPath, "analyze");
+    if (disk.kindOf(path) == PathKind::File) {
+        const std::string bytes = disk.read(path);
         LineSource lines(bytes);
         while (index != 6) {
             const auto line = lines.next();
@@ -104,36 +130,10 @@ void readAnalyzeHeadings(Program& program, std::array<std::string, 7>& headings)
     }
 }
 
-}  // namespace
-
-BankList bankListOf(StatementKind kind) { return bankLists[indexOf(kind)]; }
-
-std::string bankPath(const Program& program, std::string_view code) {
-    return program.appPath + pathSeparator + std::string(code) + "questions.txt";
-}
-
-bool loadQuestionBank(const Program& program, std::string_view code, QuestionBanks& into) {
-    for (const BankList& list : bankLists) into.*list.count = 0;
-    const std::string path = bankPath(program, code);
-    if (!fileExists(program, path)) return false;
-    for (const BankList& list : bankLists) (into.*list.questions).assign(boundStep + 1, {});
-    const std::string bytes = program.platform.disk.read(path);
-    BankReading reading(into);
-    LineSource lines(bytes);
-    while (const auto line = lines.next()) reading.take(*line);
-    bool everyList = true;
-    for (const BankList& list : bankLists) everyList = everyList && into.*list.count > 0;
-    return everyList;
-}
-
-bool loadModuleQuestions(Program& program, std::string_view code) {
-    return loadQuestionBank(program, code, program.questions);
-}
-
 void loadAnalyzeQuestions(Program& program) {
     try {
         std::array<std::string, 7>& headings = program.questions.analyzeQuestions;
-        readAnalyzeHeadings(program, headings);
+        readAnalyzeHeadings(program.platform.disk, program.appPath, headings);
         FrmMain& form = program.frmMain;
         const std::array<Label*, 6> labels{&form.lblAStrength,    &form.lblAWeakness,
                                            &form.lblAOpportunity, &form.lblAThreats,
