@@ -21,7 +21,7 @@ files() { git ls-files --cached --others --exclude-standard --deduplicate -- "$@
 check_layout() {
     have clang-format || return 0
     echo "-- layout"
-    files 'src/*.h' 'src/*.cpp' 'tests/*.h' 'tests/*.cpp' | tr '\n' '\0' |
+    files 'src/*.h' 'src/*.cpp' 'tests/*.h' 'tests/*.cpp' 'tools/*.cpp' | tr '\n' '\0' |
         xargs -0 clang-format --dry-run --Werror || fail "clang-format wants another layout"
 }
 
@@ -30,7 +30,7 @@ check_tidy() {
     echo "-- clang-tidy"
     cmake --preset dev -B build/check -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >/dev/null
     # What is built on Windows alone has no headers here.
-    files 'src/*.cpp' 'tests/*.cpp' | grep -v '/windows_' | tr '\n' '\0' |
+    files 'src/*.cpp' 'tests/*.cpp' 'tools/*.cpp' | grep -v '/windows_' | tr '\n' '\0' |
         xargs -0 -n 4 -P "$(nproc)" clang-tidy -p build/check --quiet \
             --extra-arg=-Wno-unknown-warning-option || fail "clang-tidy found something"
 }

@@ -4,7 +4,8 @@
 set -euo pipefail
 
 declare -A packages=(
-    [run]="g++ cmake ninja-build qt6-base-dev libqt6svg6 fonts-dejavu-core xdg-utils"
+    [run]="g++ cmake ninja-build qt6-base-dev libqt6svg6 fonts-dejavu-core xdg-utils
+           festival festvox-us-slt-hts sox ffmpeg"
     [test]="g++ cmake ninja-build qt6-base-dev libqt6svg6 fonts-dejavu-core libgtest-dev
             libbenchmark-dev nlohmann-json3-dev xvfb xauth dbus ccache
             libreoffice-writer-nogui poppler-utils pandoc unrtf fonts-liberation"

@@ -12,5 +12,5 @@ if [[ -z ${DISPLAY:-} && -z ${WAYLAND_DISPLAY:-} ]]; then
 fi
 if command -v ccache >/dev/null; then export CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
 cmake --preset release
-cmake --build --preset release
+cmake --build --preset release --target all narration
 exec build/release/bin/orvanta "$@"
