@@ -90,4 +90,5 @@ echo "Speaking ${#changed[@]} of ${#texts[@]} voice clips"
 speak "${changed[@]}"
 export sounds work
 export -f make_clip
+# shellcheck disable=SC2016  # the inner shell is to expand it
 printf '%s\0' "${changed[@]}" | xargs -0 -n 1 -P "$(nproc)" bash -euc 'make_clip "$1"' make_clip

@@ -61,7 +61,11 @@ private:
             QString line = fromCp1252(command.caption);
             if (command.onDeleteKey)
                 line += u'\t' + QKeySequence(Qt::Key_Delete).toString(QKeySequence::NativeText);
-            QAction* action = menu->addAction(line, &m_view, [this, &command] { choose(command); });
+            QAction* action = menu->addAction(line);
+            // Queued: what a command brings up finds the menu gone.
+            connect(
+                action, &QAction::triggered, this, [this, &command] { choose(command); },
+                Qt::QueuedConnection);
             action->setEnabled(isOffered(m_list, command));
         }
         menu->popup(globalPlace);

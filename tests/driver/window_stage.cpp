@@ -229,7 +229,7 @@ public:
         if (!menu) return;
         for (QAction* action : menu->actions())
             if (action->text().section('\t', 0, 0) == fromCp1252(command.caption))
-                mouseClick(*menu, menu->actionGeometry(action).center());
+                return mouseClick(*menu, menu->actionGeometry(action).center());
     }
 
     void activate() override {

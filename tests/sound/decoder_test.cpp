@@ -1,0 +1,267 @@
+#include "desktop/sound/decoder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <tuple>
+
+#include "movie_writer.h"
+
+namespace orvanta::sound::test {
+
+namespace {
+
+constexpr double seconds = 0.7;
+constexpr double pitch = 440, fifth = 660;
+constexpr Form pcm44{Coding::Pcm16, 44100, 2};
+constexpr Form pcm11{Coding::Pcm16, 11025, 1};
+
+double lengthOf(const Samples& played) {
+    return static_cast<double>(played.size()) / playedChannels / playedRate;
+}
+
+std::string nameOf(Coding coding) {
+    switch (coding) {
+        case Coding::Pcm8:
+            return "Pcm8";
+        case Coding::Pcm16:
+            return "Pcm16";
+        case Coding::Adpcm:
+            return "Adpcm";
+        case Coding::Mp3:
+            return "Mp3";
+        case Coding::Nellymoser:
+            return "Nellymoser";
+    }
+    return "";
+}
+
+std::string nameOf(const Form& form) {
+    const std::string bits =
+        form.coding == Coding::Adpcm ? std::to_string(form.adpcmBits) + "Bits" : "";
+    return nameOf(form.coding) + "At" + std::to_string(form.rate) +
+           (form.channels == 2 ? "Stereo" : "Mono") + bits;
+}
+
+enum class Manner { Stream, Event };
+enum class Place { Movie, Sprite };
+
+using Kind = std::tuple<Coding, Manner, Packing, Place>;
+
+std::string nameOf(const Kind& kind) {
+    const auto [coding, manner, packing, place] = kind;
+    return nameOf(coding) + (manner == Manner::Stream ? "Stream" : "Event") +
+           (packing == Packing::Zlib ? "Packed" : "Plain") +
+           (place == Place::Sprite ? "InASprite" : "");
+}
+
+Bytes movieOf(const Kind& kind) {
+    const auto [coding, manner, packing, place] = kind;
+    const Form form{coding, 22050, 1};
+    const Samples samples = tone(pitch, form.rate, form.channels, seconds);
+    MovieWriter movie, timeline;
+    if (manner == Manner::Event) movie.defineSound(3, form, samples);
+    MovieWriter& sounding = place == Place::Sprite ? timeline : movie;
+    if (manner == Manner::Event)
+        sounding.startSound(3);
+    else
+        sounding.stream(form, samples);
+    if (place == Place::Sprite) movie.sprite(timeline);
+    return movie.file(packing);
+}
+
+/// The start of a whole is the part, sample by sample.
+bool isStartOf(const Samples& part, const Samples& whole) {
+    return part.size() <= whole.size() && std::equal(part.begin(), part.end(), whole.begin());
+}
+
+}  // namespace
+
+class MovieOfEachKind : public testing::TestWithParam<Kind> {};
+
+TEST_P(MovieOfEachKind, IsHeardInItsLength) {
+    // A stream doesn't tell how much of its last piece is sound.
+    const double atMostLonger = std::get<Manner>(GetParam()) == Manner::Stream ? 0.15 : 0.001;
+    const double length = lengthOf(samplesOfMovie(movieOf(GetParam())));
+    EXPECT_GE(length, seconds - 0.001);
+    EXPECT_LE(length, seconds + atMostLonger);
+}
+
+TEST_P(MovieOfEachKind, IsHeardAtItsPitchOnBothSides) {
+    const Samples played = samplesOfMovie(movieOf(GetParam()));
+    EXPECT_GT(shareOf(pitch, played, 0), 0.8);
+    EXPECT_GT(shareOf(pitch, played, 1), 0.8);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, MovieOfEachKind,
+                         testing::Combine(testing::Values(Coding::Pcm8, Coding::Pcm16,
+                                                          Coding::Adpcm, Coding::Mp3,
+                                                          Coding::Nellymoser),
+                                          testing::Values(Manner::Stream, Manner::Event),
+                                          testing::Values(Packing::None, Packing::Zlib),
+                                          testing::Values(Place::Movie, Place::Sprite)),
+                         [](const auto& of) { return nameOf(of.param); });
+
+class MovieOfEachForm : public testing::TestWithParam<Form> {};
+
+TEST_P(MovieOfEachForm, KeepsLeftAndRightApart) {
+    const Form form = GetParam();
+    const Samples samples = tone(pitch, form.rate, form.channels, seconds);
+    const Samples played =
+        samplesOfMovie(MovieWriter().defineSound(1, form, samples).startSound(1).file());
+    EXPECT_NEAR(lengthOf(played), seconds, 0.001);
+    EXPECT_GT(shareOf(pitch, played, 0), 0.8);
+    EXPECT_GT(shareOf(form.channels == 2 ? fifth : pitch, played, 1), 0.8);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, MovieOfEachForm,
+    testing::Values(Form{Coding::Pcm8, 5512, 2}, Form{Coding::Pcm8, 11025, 2},
+                    Form{Coding::Pcm16, 5512, 1}, Form{Coding::Pcm16, 44100, 2},
+                    Form{Coding::Mp3, 11025, 1}, Form{Coding::Mp3, 22050, 2},
+                    Form{Coding::Mp3, 44100, 2}, Form{Coding::Adpcm, 44100, 2, 2},
+                    Form{Coding::Adpcm, 44100, 1, 3}, Form{Coding::Adpcm, 5512, 2, 4},
+                    Form{Coding::Adpcm, 11025, 2, 5}, Form{Coding::Nellymoser, 8000, 1},
+                    Form{Coding::Nellymoser, 16000, 1}, Form{Coding::Nellymoser, 11025, 1}),
+    [](const auto& of) { return nameOf(of.param); });
+
+TEST(Movie, OfThePlayedFormIsHeardSampleBySample) {
+    const Samples samples = tone(pitch, 44100, 2, seconds);
+    EXPECT_EQ(samplesOfMovie(MovieWriter().stream(pcm44, samples).file(Packing::Zlib)), samples);
+}
+
+TEST(Movie, OfOneChannelIsFullyHeardOnBothSides) {
+    const Samples samples = tone(pitch, 44100, 1, seconds);
+    Samples both;
+    for (const std::int16_t sample : samples) both.insert(both.end(), 2, sample);
+    EXPECT_EQ(samplesOfMovie(MovieWriter().stream({Coding::Pcm16, 44100, 1}, samples).file()),
+              both);
+}
+
+TEST(Movie, SkipsTheLeadInOfTheCoding) {
+    const Form form{Coding::Mp3, 44100, 1};
+    Samples click(44100);
+    click[22050] = 30000;
+    const Samples played =
+        samplesOfMovie(MovieWriter().defineSound(1, form, click).startSound(1).file());
+    const auto loudest = std::ranges::max_element(played) - played.begin();
+    EXPECT_NEAR(static_cast<double>(loudest) / playedChannels, 22050, 2);
+}
+
+TEST(Movie, PrefersItsStreamToAnEvent) {
+    const Bytes file = MovieWriter()
+                           .defineSound(1, pcm11, tone(900, 11025, 1, seconds))
+                           .startSound(1)
+                           .stream(pcm11, tone(pitch, 11025, 1, seconds))
+                           .file();
+    EXPECT_GT(shareOf(pitch, samplesOfMovie(file), 0), 0.8);
+}
+
+TEST(Movie, PrefersItsOwnStreamToThatOfASprite) {
+    const MovieWriter sprite = MovieWriter().stream(pcm11, tone(900, 11025, 1, seconds));
+    const Bytes file =
+        MovieWriter().sprite(sprite).stream(pcm11, tone(pitch, 11025, 1, seconds)).file();
+    EXPECT_GT(shareOf(pitch, samplesOfMovie(file), 0), 0.8);
+}
+
+TEST(Movie, PassesByAStreamThatIsOnlyAnnounced) {
+    const Bytes file = MovieWriter()
+                           .streamHead(pcm11)
+                           .defineSound(1, pcm11, tone(pitch, 11025, 1, seconds))
+                           .startSound(1)
+                           .file();
+    EXPECT_GT(shareOf(pitch, samplesOfMovie(file), 0), 0.8);
+}
+
+TEST(Movie, PlaysTheEventThatIsStartedAndNotOneThatIsStopped) {
+    constexpr int stops = 0x20;
+    const Bytes file = MovieWriter()
+                           .defineSound(1, pcm11, tone(900, 11025, 1, seconds))
+                           .defineSound(2, pcm11, tone(pitch, 11025, 1, seconds))
+                           .startSound(1, stops)
+                           .startSound(5)
+                           .startSound(2)
+                           .file();
+    EXPECT_GT(shareOf(pitch, samplesOfMovie(file), 0), 0.8);
+}
+
+TEST(Movie, PlaysASoundThatOnlyAScriptWouldStart) {
+    const Bytes file = MovieWriter().defineSound(1, pcm11, tone(pitch, 11025, 1, seconds)).file();
+    EXPECT_GT(shareOf(pitch, samplesOfMovie(file), 0), 0.8);
+}
+
+TEST(Movie, EndsAtItsEndTag) {
+    const Bytes file =
+        MovieWriter().tag(0, {}).stream(pcm11, tone(pitch, 11025, 1, seconds)).file();
+    EXPECT_EQ(samplesOfMovie(file), Samples());
+}
+
+TEST(Movie, IsCutAtAMinute) {
+    const Form form{Coding::Pcm8, 5512, 1};
+    const Bytes event =
+        MovieWriter().defineSound(1, form, tone(pitch, 5512, 1, 61)).startSound(1).file();
+    const Bytes stream = MovieWriter().stream(form, tone(pitch, 5512, 1, 61)).file();
+    EXPECT_EQ(lengthOf(samplesOfMovie(event)), 60);
+    EXPECT_EQ(lengthOf(samplesOfMovie(stream)), 60);
+}
+
+TEST(Movie, OfAnUnknownCodingIsSilent) {
+    const std::uint8_t speex = 0xB6;
+    const Bytes file = MovieWriter().tag(45, {speex, speex, 0, 0}).tag(19, Bytes(300, 1)).file();
+    EXPECT_EQ(samplesOfMovie(file), Samples());
+}
+
+TEST(Movie, WithoutSoundIsSilent) {
+    EXPECT_EQ(samplesOfMovie(MovieWriter().tag(9, {1, 2, 3}).tag(1, {}).file()), Samples());
+}
+
+TEST(Movie, WithASpriteInASpriteIsSilent) {
+    MovieWriter inside = MovieWriter().stream(pcm11, tone(pitch, 11025, 1, seconds));
+    for (int depth = 0; depth < 100; ++depth) inside = MovieWriter().sprite(inside);
+    EXPECT_EQ(samplesOfMovie(inside.file()), Samples());
+}
+
+TEST(Movie, ThatIsNoneIsSilent) {
+    const std::string page = "<html><body>No movie was found here.</body></html>";
+    EXPECT_EQ(samplesOfMovie(Bytes()), Samples());
+    EXPECT_EQ(samplesOfMovie(Bytes(page.begin(), page.end())), Samples());
+    Bytes lzma = MovieWriter().stream(pcm11, tone(pitch, 11025, 1, seconds)).file();
+    lzma.front() = 'Z';
+    EXPECT_EQ(samplesOfMovie(lzma), Samples());
+}
+
+TEST(Movie, ThatUnpacksToMoreThanTheLimitIsSilent) {
+    MovieWriter movie;
+    movie.stream(pcm11, tone(pitch, 11025, 1, seconds));
+    const Bytes within = movie.file(Packing::Zlib);
+    const Bytes beyond = movie.tag(777, Bytes(maximumMovieSize)).file(Packing::Zlib);
+    EXPECT_LT(beyond.size(), 1U << 20);
+    EXPECT_NE(samplesOfMovie(within), Samples());
+    EXPECT_EQ(samplesOfMovie(beyond), Samples());
+}
+
+TEST(Movie, WhoseSoundClaimsMoreThanTheFileHoldsIsHeardAsFarAsItGoes) {
+    const Samples samples = tone(pitch, 44100, 2, seconds);
+    Bytes file = MovieWriter().defineSound(1, pcm44, samples).file();
+    constexpr std::size_t lengthOfTag = 8 + 13 + 2, count = lengthOfTag + 4 + 3;
+    for (int i = 0; i < 4; ++i) file[lengthOfTag + i] = file[count + i] = 0x7F;
+    const Samples played = samplesOfMovie(file);
+    EXPECT_TRUE(isStartOf(samples, played));
+    EXPECT_LE(played.size(), samples.size() + 2);
+}
+
+TEST(Movie, OfVeryManySoundsIsHeard) {
+    Bytes tags;
+    const Bytes define = joined({littleEndian((14 << 6) | 8, 2), {5, 0, 0x30, 1, 0, 0, 0, 0x80}});
+    const Bytes start = joined({littleEndian((15 << 6) | 3, 2), {9, 0, 0}});
+    for (int i = 0; i < 300000; ++i) {
+        const Bytes& tag = i % 2 == 0 ? define : start;
+        tags.insert(tags.end(), tag.begin(), tag.end());
+    }
+    const Bytes last = MovieWriter().stream(pcm44, tone(pitch, 44100, 2, seconds)).file();
+    tags.insert(tags.end(), last.begin() + 8 + 13, last.end());
+    EXPECT_NEAR(lengthOf(samplesOfMovie(movieFile(tags, Packing::None))), seconds, 0.001);
+}
+
+}  // namespace orvanta::sound::test
