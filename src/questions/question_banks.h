@@ -21,6 +21,7 @@ std::string bankPath(const std::string& appPath, std::string_view code);
 /// leaves the texts as they were, with all counts at 0. Fails where the file can't be read, or
 /// with SubscriptOutOfRange where text stands ahead of a section's first question.
 bool loadModuleQuestions(Program& program, std::string_view code);
+/// The same from any file into any bank.
 bool loadQuestionBank(const Disk& disk, const std::string& path, QuestionBanks& into);
 
 /// Reads the headings of the six Analyze screens, all empty where the program's folder has no
