@@ -212,9 +212,9 @@ TEST_F(FileList, SelectsTheNewLastItemBehindTheRemovalOfTheLast) {
 }
 
 TEST_F(FileList, KeepsTheSelectedItemThroughARemovalAheadOfIt) {
-    list.setSelectedIndex(2);
+    list.setSelectedIndex(1);
     list.remove(0);
-    EXPECT_EQ(list.items()[static_cast<std::size_t>(list.selectedIndex())], "c");
+    EXPECT_EQ(list.items()[static_cast<std::size_t>(list.selectedIndex())], "b");
 }
 
 TEST_F(FileList, SelectsNothingOnceItIsEmpty) {
