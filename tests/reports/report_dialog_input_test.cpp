@@ -175,7 +175,7 @@ TEST_F(ReportDialogInput, TakesATypedFileWithoutRememberingIt) {
     EXPECT_EQ(bench.form().lastPathAZE, "docs/My SWOT");
 }
 
-class MissingAnalysis : public ReportDialogInputInput,
+class MissingAnalysis : public ReportDialogInput,
                         public testing::WithParamInterface<std::tuple<int, std::string>> {};
 INSTANTIATE_TEST_SUITE_P(OfEitherFormat, MissingAnalysis,
                          testing::Combine(testing::Values(html, rtf),

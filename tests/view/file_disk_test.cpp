@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include "failing_disk.h"
+#include "failure_of.h"
 #include "temporary_folder.h"
 
 namespace orvanta::test {
@@ -18,21 +19,11 @@ constexpr int fileNotFound = 53, diskFull = 61, permissionDenied = 70, pathFileA
 
 class RealDisk : public testing::Test {
 protected:
-    /// The error number of what is done; 0 if it goes through.
-    template <class Act>
-    static int errorOf(Act act) {
-        try {
-            act();
-            return noError;
-        } catch (const Failure& failure) {
-            return failure.number;
-        }
-    }
     int errorOfReading(const std::string& path) {
-        return errorOf([&] { disk.read(path); });
+        return failureOf([&] { disk.read(path); });
     }
     int errorOfReplacing(const std::string& path, const std::string& bytes = "new") {
-        return errorOf([&] { disk.replace(path, bytes); });
+        return failureOf([&] { disk.replace(path, bytes); });
     }
 
     /// The same, done by somebody whom permissions bind: the system's nobody where the test runs
@@ -43,7 +34,7 @@ protected:
         if (child == 0) {
             constexpr int nobody = 65534;
             if (::geteuid() == 0 && (::setgid(nobody) != 0 || ::setuid(nobody) != 0)) ::_exit(255);
-            ::_exit(errorOf(act));
+            ::_exit(failureOf(act));
         }
         int status = 0;
         ::waitpid(child, &status, 0);
@@ -325,21 +316,21 @@ TEST_F(LockedFolder, LeavesNoRestOfALongerFile) {
 
 TEST_F(RealDisk, TellsWhyAFolderCanNotBeMade) {
     folder.write("file", "");
-    EXPECT_EQ(errorOf([&] { disk.makeFolder(folder / "made"); }), noError);
+    EXPECT_EQ(failureOf([&] { disk.makeFolder(folder / "made"); }), noError);
     EXPECT_TRUE(fs::is_directory(folder / "made"));
-    EXPECT_EQ(errorOf([&] { disk.makeFolder(folder / "made"); }), pathFileAccess);
-    EXPECT_EQ(errorOf([&] { disk.makeFolder(folder / "file"); }), pathFileAccess);
-    EXPECT_EQ(errorOf([&] { disk.makeFolder(folder / "missing/made"); }), pathNotFound);
-    EXPECT_EQ(errorOf([&] { disk.makeFolder(folder / "file/made"); }), pathNotFound);
+    EXPECT_EQ(failureOf([&] { disk.makeFolder(folder / "made"); }), pathFileAccess);
+    EXPECT_EQ(failureOf([&] { disk.makeFolder(folder / "file"); }), pathFileAccess);
+    EXPECT_EQ(failureOf([&] { disk.makeFolder(folder / "missing/made"); }), pathNotFound);
+    EXPECT_EQ(failureOf([&] { disk.makeFolder(folder / "file/made"); }), pathNotFound);
 }
 
 TEST_F(RealDisk, TellsWhyAFileCanNotBeDeleted) {
     folder.write("file", "");
-    EXPECT_EQ(errorOf([&] { disk.remove(folder / "file/below"); }), pathNotFound);
-    EXPECT_EQ(errorOf([&] { disk.remove(folder / "file"); }), noError);
-    EXPECT_EQ(errorOf([&] { disk.remove(folder / "file"); }), fileNotFound);
-    EXPECT_EQ(errorOf([&] { disk.remove(folder / "missing/file"); }), pathNotFound);
-    EXPECT_EQ(errorOf([&] { disk.remove(folder.path()); }), pathFileAccess);
+    EXPECT_EQ(failureOf([&] { disk.remove(folder / "file/below"); }), pathNotFound);
+    EXPECT_EQ(failureOf([&] { disk.remove(folder / "file"); }), noError);
+    EXPECT_EQ(failureOf([&] { disk.remove(folder / "file"); }), fileNotFound);
+    EXPECT_EQ(failureOf([&] { disk.remove(folder / "missing/file"); }), pathNotFound);
+    EXPECT_EQ(failureOf([&] { disk.remove(folder.path()); }), pathFileAccess);
 }
 
 }  // namespace
