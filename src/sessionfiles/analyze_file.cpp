@@ -166,7 +166,7 @@ std::string analyzeBytes(const FrmMain& form, bool withStep) {
         writeRows(writer, controls.section, form.*controls.analyzeList);
     for (const MappingSection& section : mappingSections)
         writeRows(writer, section.section, form.*section.list);
-    return writer.bytes();
+    return writer.finish();
 }
 
 void saveAnalyzeData(Program& program, const std::string& fileName, bool TmpFlag) {

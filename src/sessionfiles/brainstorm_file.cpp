@@ -107,7 +107,7 @@ std::string brainstormBytes(const FrmMain& form, bool withStep) {
             writer.line(writtenText(controls.kind, list.row(position)));
         writer.close(controls.section);
     }
-    return writer.bytes();
+    return writer.finish();
 }
 
 void saveBrainstormData(Program& program, const std::string& fileName, bool TmpFlag) {

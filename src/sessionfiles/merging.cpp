@@ -56,7 +56,7 @@ std::string bytesOf(const Merged& merged) {
             writer.line(statement);
         writer.close(controls.section);
     }
-    return writer.bytes();
+    return writer.finish();
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "core/section_tags.h"
 
@@ -21,7 +22,8 @@ public:
         close(section);
     }
 
-    const std::string& bytes() const { return m_bytes; }
+    /// The bytes; nothing can be written behind this.
+    std::string finish() { return std::move(m_bytes); }
 
 private:
     std::string m_bytes;

@@ -1,0 +1,76 @@
+#include <benchmark/benchmark.h>
+
+#include "analyses.h"
+#include "analyze/source_files.h"
+#include "bench.h"
+#include "sessionfiles/analyze_file.h"
+#include "sessionfiles/merging.h"
+
+namespace orvanta::benchmarks {
+
+namespace {
+
+test::Texts statements(const std::string& file) {
+    test::Texts texts;
+    for (int i = 0; i < 25; ++i)
+        texts.push_back("Statement " + std::to_string(i) + " of " + file + ", not a short one");
+    return texts;
+}
+
+/// A program that lists so many brainstorm files of a hundred statements each.
+class Team : public test::Bench {
+public:
+    explicit Team(int files) {
+        start();
+        for (int i = 0; i < files; ++i) {
+            const std::string name = "member " + std::to_string(i), path = "docs/" + name + ".bsm";
+            const test::Texts texts = statements(name);
+            disk.files[path] = test::brainstormFile(name, "MP", texts, texts, texts, texts);
+            form().lstFiles.add(path);
+        }
+    }
+};
+
+void consolidateFilesOf100Statements(benchmark::State& state) {
+    Team team(static_cast<int>(state.range(0)));
+    for (auto _ : state) consolidateSourceFiles(team.program());
+    if (team.form().lvAStrength.count() != 25 * state.range(0)) state.SkipWithError("rows missing");
+}
+BENCHMARK(consolidateFilesOf100Statements)->Arg(500)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+void mergeFilesOf100Statements(benchmark::State& state) {
+    Team team(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        team.answerFile("docs/merged.bsm");
+        team.answerMessage("yes");
+        mergeBrainstormFiles(team.program());
+    }
+}
+BENCHMARK(mergeFilesOf100Statements)->Arg(500)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+void loadAnalysis(benchmark::State& state) {
+    test::Bench bench;
+    bench.start();
+    bench.disk.files["docs/team.aze"] = analysisOf(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        clearAnalye(bench.program());
+        loadAnalyzeData(bench.program(), "docs/team.aze", false);
+    }
+    if (bench.form().lvThreat.count() != state.range(0) / 4) state.SkipWithError("rows missing");
+}
+BENCHMARK(loadAnalysis)->Arg(50'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
+
+void saveAnalysis(benchmark::State& state) {
+    test::Bench bench;
+    bench.start();
+    bench.disk.files["docs/team.aze"] = analysisOf(static_cast<int>(state.range(0)));
+    loadAnalyzeData(bench.program(), "docs/team.aze", false);
+    for (auto _ : state) saveAnalyzeData(bench.program(), "docs/again.aze", false);
+    if (bench.disk.files["docs/again.aze"] != bench.disk.files["docs/team.aze"])
+        state.SkipWithError("the saved file is another");
+}
+BENCHMARK(saveAnalysis)->Arg(50'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+}  // namespace orvanta::benchmarks

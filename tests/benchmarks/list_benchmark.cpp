@@ -1,0 +1,136 @@
+#include <benchmark/benchmark.h>
+
+#include <ctime>
+
+#include "analyze/list_marks.h"
+#include "analyze/mapping.h"
+#include "analyze/statements.h"
+#include "bench.h"
+#include "journal/journal.h"
+
+namespace orvanta::benchmarks {
+
+namespace {
+
+/// What this thread has had of the processor. A clock on the wall would count other programs too.
+double processorSeconds() {
+    timespec time{};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+/// An analysis with so many strengths and as many opportunities, none of them mapped.
+class Session : public test::Bench {
+public:
+    explicit Session(benchmark::State& state)
+        : m_state(state), m_rows(static_cast<int>(state.range(0))) {
+        start();
+        for (int i = 1; i <= m_rows; ++i) {
+            add(form().lvAStrength, 'S', i, 1);
+            add(form().lvStrengthOp, 'S', i, 1);
+            add(form().lvStrengthTh, 'S', i, 1);
+            add(form().lvAOpportunity, 'O', i, 3);
+            add(form().lvOpportunity, 'O', i, 3);
+        }
+        form().keyCountS = form().keyCountO = m_rows;
+    }
+
+    int last() const { return m_rows; }
+    void selectStrength(int position) { form().lvAStrength.select(position); }
+    void addStrength() {
+        form().txtAStrength.setText("Another statement of usual length");
+        addAnalyzeStrength(program());
+    }
+    void undo() { replayJournal(program(), true); }
+
+    /// Times an act again and again; what leads to it and back from it is left out.
+    template <class Prepare, class Act, class Restore>
+    void time(Prepare prepare, Act act, Restore restore) {
+        for (auto _ : m_state) {
+            prepare();
+            const double start = processorSeconds();
+            act();
+            m_state.SetIterationTime(processorSeconds() - start);
+            restore();
+        }
+        if (form().lvAStrength.count() != m_rows || form().lvOpportunity.count() != m_rows)
+            m_state.SkipWithError("the lists were left changed");
+    }
+
+private:
+    static void add(StatementList& list, char letter, int number, int image) {
+        const std::string key = letter + std::to_string(number);
+        list.add({.key = key, .text = "Statement " + key, .image = image, .largeImage = image});
+    }
+
+    benchmark::State& m_state;
+    const int m_rows;
+};
+
+const auto nothing = [] {};
+
+void addAtTheEnd(benchmark::State& state) {
+    Session session(state);
+    session.time(
+        nothing, [&] { session.addStrength(); }, [&] { session.undo(); });
+}
+
+void undoAnAddition(benchmark::State& state) {
+    Session session(state);
+    session.time([&] { session.addStrength(); }, [&] { session.undo(); }, nothing);
+}
+
+void removeAt(benchmark::State& state, bool first) {
+    Session session(state);
+    session.time([&] { session.selectStrength(first ? 1 : session.last()); },
+                 [&] { removeAnalyzeStrength(session.program()); }, [&] { session.undo(); });
+}
+void removeTheFirst(benchmark::State& state) { removeAt(state, true); }
+void removeTheLast(benchmark::State& state) { removeAt(state, false); }
+
+void undoTheRemovalOfTheFirst(benchmark::State& state) {
+    Session session(state);
+    session.time(
+        [&] {
+            session.selectStrength(1);
+            removeAnalyzeStrength(session.program());
+        },
+        [&] { session.undo(); }, nothing);
+}
+
+void drag(benchmark::State& state, bool down) {
+    Session session(state);
+    StatementList& list = session.form().lvAOpportunity;
+    session.time([&] { list.select(down ? 1 : session.last()); },
+                 [&] { moveListRow(list, list, down ? session.last() : 1, true); }, nothing);
+}
+void dragTheFirstToTheEnd(benchmark::State& state) { drag(state, true); }
+void dragTheLastToTheTop(benchmark::State& state) { drag(state, false); }
+
+void mapOntoTheLastOpportunity(benchmark::State& state) {
+    Session session(state);
+    FrmMain& form = session.form();
+    session.time(
+        [&] {
+            form.lvStrengthOp.select(1);
+            form.dragSection = "S";
+        },
+        [&] { mapDroppedStatement(session.program(), form.lvOpportunity, session.last()); },
+        [&] { form.lvOpportunity.remove(session.last() + 1); });
+}
+
+void apply(benchmark::internal::Benchmark* benchmark) {
+    benchmark->Arg(15'000)->Arg(30'000)->UseManualTime()->Unit(benchmark::kMicrosecond);
+}
+BENCHMARK(addAtTheEnd)->Apply(apply);
+BENCHMARK(undoAnAddition)->Apply(apply);
+BENCHMARK(removeTheFirst)->Apply(apply);
+BENCHMARK(removeTheLast)->Apply(apply);
+BENCHMARK(undoTheRemovalOfTheFirst)->Apply(apply);
+BENCHMARK(dragTheFirstToTheEnd)->Apply(apply);
+BENCHMARK(dragTheLastToTheTop)->Apply(apply);
+BENCHMARK(mapOntoTheLastOpportunity)->Apply(apply);
+
+}  // namespace
+
+}  // namespace orvanta::benchmarks
