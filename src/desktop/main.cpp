@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
+#include <cstdlib>
 
 #include "core/startup.h"
 #include "desktop/conversions.h"
@@ -42,5 +43,8 @@ int main(int argc, char** argv) {
     MainWindow window(program, Input::Person);
     desktop.setProgram(program);
     startProgram(program);
-    return QApplication::exec();
+    const int result = QApplication::exec();
+    // All is saved by now, and cleaning up would wait for the sound for good.
+    if (!desktop.endSound()) std::_Exit(result);
+    return result;
 }

@@ -108,7 +108,7 @@ std::string DesktopFolders::documents() const {
 DesktopPlatform::DesktopPlatform(Disk& disk)
     : m_documentWriter(disk),
       m_lifetime(m_messages),
-      m_platform{disk,     m_messages, m_fileDialogs, m_settings,       m_shell,    m_player,
+      m_platform{disk,     m_messages, m_fileDialogs, m_settings,       m_shell,    *m_player,
                  m_screen, m_forms,    m_printer,     m_wordProcessors, m_lifetime, m_folders} {}
 
 }  // namespace orvanta::desktop

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "desktop/dialogs.h"
+#include "desktop/player.h"
 #include "desktop/question_printer.h"
 #include "reports/document_writer.h"
 #include "view/platform.h"
@@ -39,12 +40,6 @@ private:
 class DesktopShell : public Shell {
 public:
     void open(const std::string& target) override;
-};
-
-class SilentPlayer : public Player {
-public:
-    void setMovie(const std::string&) override {}
-    void play() override {}
 };
 
 class DesktopScreen : public orvanta::Screen {
@@ -93,13 +88,15 @@ public:
     Platform& platform() { return m_platform; }
     /// Called before the program starts.
     void setProgram(Program& program) { m_forms.setProgram(program); }
+    /// False if the system's sound doesn't answer.
+    bool endSound() { return m_player->end(); }
 
 private:
     DesktopMessageBoxes m_messages;
     DesktopFileDialogs m_fileDialogs;
     DesktopSettings m_settings;
     DesktopShell m_shell;
-    SilentPlayer m_player;
+    std::unique_ptr<DesktopPlayer> m_player = makePlayer();
     DesktopScreen m_screen;
     DesktopForms m_forms;
     PreviewingPrinter m_printer;

@@ -1,0 +1,97 @@
+#include "desktop/sound/sound_player.h"
+
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QThread>
+#include <atomic>
+#include <chrono>
+#include <utility>
+
+#include "view/windows1252.h"
+
+namespace orvanta::sound {
+
+namespace {
+
+/// Empty for what is no file or too large for a movie.
+QByteArray bytesOf(const std::string& path) {
+    const QString name = QString::fromStdString(utf8From1252(path));
+    const QFileInfo file(name);
+    if (!file.isFile() || file.size() > static_cast<qint64>(maximumMovieSize)) return {};
+    QFile movie(name);
+    return movie.open(QIODevice::ReadOnly) ? movie.readAll() : QByteArray();
+}
+
+Samples samplesOfFile(const std::string& path) {
+    const QByteArray bytes = bytesOf(path);
+    return samplesOfMovie({reinterpret_cast<const std::uint8_t*>(bytes.constData()),
+                           static_cast<std::size_t>(bytes.size())});
+}
+
+}  // namespace
+
+class SoundPlayer::Worker : public QObject {
+public:
+    explicit Worker(SpeakerMaker makeSpeaker) : m_makeSpeaker(std::move(makeSpeaker)) {}
+
+    /// Called from any thread.
+    void order(const std::string& path) {
+        const unsigned number = ++m_newest;
+        QMetaObject::invokeMethod(
+            this, [this, path, number] { carryOut(path, number); }, Qt::QueuedConnection);
+    }
+    void forgetOrders() { ++m_newest; }
+
+private:
+    void carryOut(const std::string& path, unsigned number) {
+        if (number != m_newest) return;
+        if (m_speaker) m_speaker->stop();
+        Samples samples = samplesOfFile(path);
+        if (samples.empty() || number != m_newest) return;
+        if (!m_speaker) m_speaker = m_makeSpeaker();
+        m_speaker->start(std::move(samples));
+    }
+
+    SpeakerMaker m_makeSpeaker;
+    std::unique_ptr<Speaker> m_speaker;
+    std::atomic<unsigned> m_newest = 0;
+};
+
+SoundPlayer::SoundPlayer(SpeakerMaker makeSpeaker)
+    : m_thread(new QThread), m_worker(new Worker(std::move(makeSpeaker))) {
+    m_worker->moveToThread(m_thread);
+    QObject::connect(m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
+    m_thread->start();
+}
+
+SoundPlayer::~SoundPlayer() { end(); }
+
+void SoundPlayer::play() {
+    if (m_thread) m_worker->order(m_movie);
+}
+
+bool SoundPlayer::end() {
+    if (!m_thread) return true;
+    constexpr std::chrono::milliseconds patience{400};
+    QThread* thread = std::exchange(m_thread, nullptr);
+    m_worker->forgetOrders();
+    thread->quit();
+    if (thread->wait(QDeadlineTimer(patience))) {
+        delete thread;
+        return true;
+    }
+    // A thread that waits can't be deleted. Should it ever go on, it is.
+    QObject::connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+    return false;
+}
+
+}  // namespace orvanta::sound
+
+namespace orvanta::desktop {
+
+std::unique_ptr<DesktopPlayer> makePlayer() {
+    return std::make_unique<sound::SoundPlayer>(sound::makeSystemSpeaker);
+}
+
+}  // namespace orvanta::desktop
