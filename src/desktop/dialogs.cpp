@@ -55,7 +55,7 @@ void putBackground(ControlArea& area, const Control& footButton) {
 
 void putLabel(Label& model, ControlArea& area, const QColor& ink) {
     auto* view = new LabelView(model, area.pixelGrid(), &area);
-    QPalette coloured = view->palette();
+    QPalette coloured;
     coloured.setColor(QPalette::WindowText, ink);
     view->setPalette(coloured);
     mirrorControl(model, *view, area);

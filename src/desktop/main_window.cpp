@@ -24,7 +24,7 @@ constexpr int bandHeight = 64;
 class PanelView : public ControlArea {
 public:
     PanelView(Panel& model, ControlArea& parent) : ControlArea(parent.pixelGrid(), &parent) {
-        QPalette white = palette();
+        QPalette white;
         white.setColor(QPalette::Window, theme::paper);
         setPalette(white);
         setAutoFillBackground(true);

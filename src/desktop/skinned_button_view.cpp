@@ -66,7 +66,7 @@ ButtonCaptionView::ButtonCaptionView(SkinnedButton& model, ButtonActs acts,
     : QLabel(parent), m_acts(std::move(acts)) {
     setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignCenter);
-    QPalette white = palette();
+    QPalette white;
     white.setColor(QPalette::WindowText, theme::paper);
     setPalette(white);
     const auto showModel = [this, &label = model.label, pixelGrid] {

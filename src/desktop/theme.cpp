@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QWidget>
 
 #include "desktop/art.h"
 
@@ -31,26 +32,6 @@ QIcon discIcon(const QColor& disc, QChar sign) {
     return QIcon(drawn);
 }
 
-/// Fusion with flat signs in its message boxes.
-class FlatStyle : public QProxyStyle {
-public:
-    FlatStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
-
-    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
-                       const QWidget* widget) const override {
-        switch (icon) {
-            case SP_MessageBoxCritical:
-                return discIcon(theme::alarm, u'!');
-            case SP_MessageBoxQuestion:
-                return discIcon(theme::deepBlue, u'?');
-            case SP_MessageBoxInformation:
-                return discIcon(theme::deepBlue, u'i');
-            default:
-                return QProxyStyle::standardIcon(icon, option, widget);
-        }
-    }
-};
-
 QPalette lightPalette() {
     QPalette palette(theme::sideGround, theme::paper);
     palette.setColor(QPalette::WindowText, theme::ink);
@@ -68,6 +49,33 @@ QPalette lightPalette() {
         palette.setColor(QPalette::Disabled, role, theme::quietInk);
     return palette;
 }
+
+/// Fusion, light whatever colours the desktop asks for, with flat signs in its message boxes.
+class FlatStyle : public QProxyStyle {
+public:
+    FlatStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    using QProxyStyle::polish;
+    void polish(QPalette& palette) override { palette = lightPalette(); }
+    void polish(QWidget* widget) override {
+        QProxyStyle::polish(widget);
+        if (widget->isWindow()) widget->setPalette(lightPalette());
+    }
+
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                       const QWidget* widget) const override {
+        switch (icon) {
+            case SP_MessageBoxCritical:
+                return discIcon(theme::alarm, u'!');
+            case SP_MessageBoxQuestion:
+                return discIcon(theme::deepBlue, u'?');
+            case SP_MessageBoxInformation:
+                return discIcon(theme::deepBlue, u'i');
+            default:
+                return QProxyStyle::standardIcon(icon, option, widget);
+        }
+    }
+};
 
 constexpr auto flatLook = R"(
 QLineEdit { background: #ffffff; border: 1px solid #b9c5de; border-radius: 4px; padding: 0 8px; }
@@ -91,7 +99,7 @@ QPushButton:focus { border: 2px solid #003399; padding: 2px; }
 QPushButton:default { background: #003399; color: #ffffff; border-color: #003399; }
 QPushButton:default:hover { background: #0b409f; }
 QPushButton:default:focus { border: 2px solid #8fb0f0; }
-QPushButton:disabled { color: #8a94a8; background: #f3f6fc; border-color: #e4e9f3; }
+QPushButton:disabled { color: #5a6680; background: #f3f6fc; border-color: #e4e9f3; }
 QMessageBox QPushButton, QFileDialog QPushButton, QPrintPreviewDialog QPushButton {
     min-width: 72px; min-height: 22px;
 }
@@ -118,6 +126,8 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 }  // namespace
 
 void dressApplication(QApplication& application) {
+    // Else a widget under a style sheet takes its colours from the application, not its window.
+    QApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles);
     QApplication::setStyle(new FlatStyle);
     QApplication::setPalette(lightPalette());
     QFont font(QStringList{QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans")});

@@ -1,0 +1,203 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QtTest>
+
+#include "desktop/dialogs.h"
+#include "desktop/message_box.h"
+#include "desktop/statement_list_view.h"
+#include "painted_contrast.h"
+#include "window_bench.h"
+
+namespace orvanta::test {
+
+namespace {
+
+using namespace orvanta::desktop;
+
+constexpr double legible = 4.5, outstanding = 3;
+
+QPalette paletteOf(const QColor& ground, const QColor& ink, const QColor& highlight) {
+    QPalette palette(ground, ground);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(role, ink);
+    palette.setColor(QPalette::Base, ground);
+    palette.setColor(QPalette::Highlight, highlight);
+    palette.setColor(QPalette::HighlightedText, ground);
+    return palette;
+}
+
+struct DesktopColours {
+    std::string name;
+    QPalette palette;
+};
+void PrintTo(const DesktopColours& colours, std::ostream* out) { *out << colours.name; }
+
+/// The program on a desktop whose applications have other colours.
+class Legibility : public testing::TestWithParam<DesktopColours> {
+protected:
+    Legibility() { QApplication::setPalette(GetParam().palette); }
+    ~Legibility() override { QApplication::setPalette(m_former); }
+
+    static QString textOf(const QWidget& widget) {
+        if (const auto* label = qobject_cast<const QLabel*>(&widget)) return label->text();
+        if (const auto* box = qobject_cast<const QLineEdit*>(&widget)) return box->text();
+        if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+            return button->text();
+        return {};
+    }
+
+    static void expectLegibleTexts(QWidget& window) {
+        QCoreApplication::processEvents();
+        int read = 0;
+        for (QWidget* widget : window.findChildren<QWidget*>()) {
+            if (!widget->isVisible() || textOf(*widget).isEmpty()) continue;
+            ++read;
+            EXPECT_GE(writtenContrast(paintedAs(*widget)), legible)
+                << widget->objectName().toStdString() << ": " << textOf(*widget).toStdString();
+        }
+        EXPECT_GT(read, 0);
+    }
+
+private:
+    QPalette m_former = QApplication::palette();
+};
+
+/// A mapping screen whose first opportunity has a strength and a weakness under it.
+class LegibleRows : public Legibility {
+protected:
+    LegibleRows() {
+        bench.goTo(mappingSides()[0]);
+        bench.map("lvWeaknessOp", 1, "lvOpportunity", 1);
+        bench.map("lvStrengthOp", 1, "lvOpportunity", 1);
+        StatementList& list = bench.list("lvOpportunity");
+        list.select(0);
+        for (int position = 1; position <= list.count(); ++position)
+            list.setText(position, "HHHH llll MMMM");
+        bench.window().show();
+        QCoreApplication::processEvents();
+    }
+
+    StatementListView& view() { return bench.widget<StatementListView>("lvOpportunity"); }
+    QRect placeOf(int position) { return view().visualRect(view().indexAtPosition(position)); }
+    QImage rowPainted(int position) { return paintedAs(*view().viewport(), placeOf(position)); }
+
+    /// That a row is written in its fixed colour and can be read.
+    void expectLegible(int position, const QColor& ink) {
+        const QImage row = rowPainted(position);
+        bool written = false;
+        for (int y = 0; y < row.height(); ++y)
+            for (int x = row.height(); x < row.width(); ++x)
+                written = written || row.pixelColor(x, y) == ink;
+        EXPECT_TRUE(written) << "row " << position << " is not in " << ink.name().toStdString();
+        EXPECT_GE(contrast(groundOf(row), ink), legible) << "row " << position;
+    }
+
+    WindowBench<AnalysisBench> bench;
+    const QColor green{0, 120, 60}, red{200, 0, 0};
+};
+
+std::vector<DesktopColours> desktopColours() {
+    return {{"Light", paletteOf(QColor(0xef, 0xef, 0xef), Qt::black, QColor(0x30, 0x8c, 0xc6))},
+            {"Dark", paletteOf(QColor(0x2a, 0x2e, 0x32), Qt::white, QColor(0x3d, 0xae, 0xe9))},
+            {"HighContrast", paletteOf(Qt::black, Qt::yellow, Qt::cyan)}};
+}
+
+}  // namespace
+
+TEST_P(LegibleRows, HaveALightGround) {
+    EXPECT_GT(groundOf(paintedAs(*view().viewport())).lightness(), 0xf0);
+}
+
+TEST_P(LegibleRows, CanBeReadAsTheyAre) {
+    expectLegible(2, green);
+    expectLegible(3, red);
+    EXPECT_GE(writtenContrast(rowPainted(1)), legible);
+}
+
+TEST_P(LegibleRows, CanBeReadWhileTheyAreSelected) {
+    for (const auto& [position, ink] : {std::pair(2, green), std::pair(3, red)}) {
+        bench.list("lvOpportunity").select(position);
+        expectLegible(position, ink);
+    }
+    bench.list("lvOpportunity").select(1);
+    EXPECT_GE(writtenContrast(rowPainted(1)), legible);
+}
+
+TEST_P(LegibleRows, ShowTheSelectionByAPaleFillAndAStrongEdge) {
+    bench.list("lvOpportunity").select(2);
+    const QImage selected = rowPainted(2), other = rowPainted(3);
+    const QColor fill = groundOf(selected);
+    EXPECT_NE(fill, groundOf(other));
+    EXPECT_GT(fill.lightness(), 0xe0);
+    EXPECT_GE(contrast(fill, selected.pixelColor(0, selected.height() / 2)), outstanding);
+}
+
+TEST_P(LegibleRows, CanBeReadUnderThePointer) {
+    for (const auto& [position, ink] : {std::pair(2, green), std::pair(3, red)}) {
+        QTest::mouseMove(view().viewport(), placeOf(position).center());
+        QCoreApplication::processEvents();
+        expectLegible(position, ink);
+    }
+}
+
+TEST_P(LegibleRows, CanBeReadWhileADropWouldLandOnThem) {
+    StatementDrag drag(bench.list("lvStrengthOp"));
+    QDragEnterEvent move(placeOf(1).center(), Qt::MoveAction, &drag, Qt::LeftButton,
+                         Qt::NoModifier);
+    QApplication::sendEvent(view().viewport(), &move);
+    ASSERT_EQ(view().litRow(), 1);
+    EXPECT_GE(writtenContrast(rowPainted(1)), legible);
+}
+
+TEST_P(Legibility, HoldsForEveryTextOfTheBrainstormModule) {
+    WindowBench bench;
+    bench.start();
+    bench.window().show();
+    expectLegibleTexts(bench.window());
+    bench.click("Brainstorm");
+    bench.set("txtName", "Dana Reyes");
+    expectLegibleTexts(bench.window());
+    bench.openBrainstorm();
+    bench.set("txtStrength", "A");
+    for (int screen = 0; screen < 4; ++screen) {
+        expectLegibleTexts(bench.window());
+        for (int press = 0; press < 3; ++press) bench.click("BNext");
+    }
+}
+
+TEST_P(Legibility, HoldsForEveryTextOfTheAnalyzeModule) {
+    WindowBench<AnalysisBench> bench;
+    bench.window().show();
+    for (int screen = 0; screen < 7; ++screen) {
+        expectLegibleTexts(bench.window());
+        if (screen < 6) bench.click("ANext");
+    }
+}
+
+TEST_P(Legibility, HoldsForEveryTextOfTheDialogs) {
+    WindowBench bench;
+    bench.start();
+    FrmEdit edit;
+    edit.txtEdit.setText("A statement");
+    EditDialog editDialog(bench.program(), edit, nullptr);
+    FrmReportType report;
+    ReportDialog reportDialog(bench.program(), report, nullptr);
+    FrmAbout about;
+    AboutDialog aboutDialog(bench.program(), about, nullptr);
+    MessageBox messageBox({.text = "Do you want to overwrite the file?"}, nullptr);
+    for (QWidget* dialog :
+         std::initializer_list<QWidget*>{&editDialog, &reportDialog, &aboutDialog, &messageBox}) {
+        dialog->show();
+        expectLegibleTexts(*dialog);
+    }
+}
+
+const auto nameOfColours = [](const auto& info) { return info.param.name; };
+INSTANTIATE_TEST_SUITE_P(On, LegibleRows, testing::ValuesIn(desktopColours()), nameOfColours);
+INSTANTIATE_TEST_SUITE_P(On, Legibility, testing::ValuesIn(desktopColours()), nameOfColours);
+
+}  // namespace orvanta::test
