@@ -3,16 +3,19 @@
 #   scripts/install.sh [run|test|tour|check ...]     all of them when none is named
 set -euo pipefail
 
+sound="qt6-multimedia-dev libavcodec-dev libswresample-dev zlib1g-dev pkg-config"
+voice="festival festvox-us-slt-hts sox ffmpeg"
 declare -A packages=(
     [run]="g++ cmake ninja-build qt6-base-dev libqt6svg6 fonts-dejavu-core xdg-utils
-           festival festvox-us-slt-hts sox ffmpeg"
+           $sound $voice"
     [test]="g++ cmake ninja-build qt6-base-dev libqt6svg6 fonts-dejavu-core libgtest-dev
             libbenchmark-dev nlohmann-json3-dev xvfb xauth dbus ccache
-            libreoffice-writer-nogui poppler-utils pandoc unrtf fonts-liberation"
+            libreoffice-writer-nogui poppler-utils pandoc unrtf fonts-liberation
+            $sound $voice pulseaudio pulseaudio-utils"
     [tour]="g++ cmake ninja-build qt6-base-dev libqt6svg6 fonts-dejavu-core nlohmann-json3-dev
             libgtest-dev libbenchmark-dev xvfb xauth openbox dbus chromium"
     [check]="clang-format clang-tidy git shellcheck g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev
-             libgtest-dev libbenchmark-dev"
+             libgtest-dev libbenchmark-dev $sound"
 )
 
 wanted=()
