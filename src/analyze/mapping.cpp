@@ -44,10 +44,9 @@ const PickingList* pickingListOf(const FrmMain& form, const StatementList& list)
 }
 
 /// The picking list of a side that a drag now carries a statement from; null for none.
-StatementList* draggedFrom(FrmMain& form, const Side& side) {
+const PickingList* draggedFrom(const FrmMain& form, const Side& side) {
     for (const PickingList& picking : pickingLists)
-        if (&picking.side == &side && picking.section == form.dragSection)
-            return &(form.*picking.list);
+        if (&picking.side == &side && picking.section == form.dragSection) return &picking;
     return nullptr;
 }
 
@@ -102,21 +101,22 @@ void mapDroppedStatement(Program& program, StatementList& mappingList, int posit
     FrmMain& form = program.frmMain;
     const Side& side = sideOf(form, mappingList);
     if (!takesMapping(form, mappingList, position)) return;
-    StatementList* source = draggedFrom(form, side);
-    if (source && !source->selectedRow()) return;
-    const std::string childKey = source ? source->selectedRow()->key : std::string();
+    const PickingList* source = draggedFrom(form, side);
+    const Row* child = statementToMap(form, mappingList);
+    if (source && !child) return;
+    const std::string childKey = child ? child->key : std::string();
     if (isMapped(mappingList, mappingList.row(position).key, childKey)) {
         inform(program.platform.messages, "This statement have already been mapped with this " +
                                               std::string(side.parentWord) + ".");
         return;
     }
-    if (source) insertMappingRow(*source, mappingList, {}, position, form.dragSection);
+    if (source) insertMappingRow(form.*source->list, mappingList, {}, position, form.dragSection);
     form.dragSection.clear();
     form.editAFlag = true;
 }
 
 void unmapDroppedRow(Program& program, StatementList& pickingList) {
-    if (!takesRowBack(program.frmMain, pickingList)) return;
+    if (!rowToTakeBack(program.frmMain, pickingList)) return;
     const PickingList* picking = pickingListOf(program.frmMain, pickingList);
     StatementList& mappingList = program.frmMain.*picking->side.mappingList;
     mappingList.remove(mappingList.selected());
@@ -160,10 +160,15 @@ bool takesMapping(const FrmMain& form, const StatementList& mappingList, int pos
            mappingList.row(position).image == sideOf(form, mappingList).parentImage;
 }
 
-bool takesRowBack(const FrmMain& form, const StatementList& pickingList) {
+const Row* statementToMap(const FrmMain& form, const StatementList& mappingList) {
+    const PickingList* source = draggedFrom(form, sideOf(form, mappingList));
+    return source ? (form.*source->list).selectedRow() : nullptr;
+}
+
+const Row* rowToTakeBack(const FrmMain& form, const StatementList& pickingList) {
     const PickingList* picking = pickingListOf(form, pickingList);
     const Row* row = (form.*picking->side.mappingList).selectedRow();
-    return row && row->image == picking->image;
+    return row && row->image == picking->image ? row : nullptr;
 }
 
 }  // namespace orvanta

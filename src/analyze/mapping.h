@@ -34,7 +34,9 @@ bool isMappingList(const FrmMain& form, const StatementList& list);
 
 /// True if the row at a position of a mapping list is one that statements are mapped to.
 bool takesMapping(const FrmMain& form, const StatementList& mappingList, int position);
-/// True if the selected row of the mapping list would go back to this picking list.
-bool takesRowBack(const FrmMain& form, const StatementList& pickingList);
+/// The statement that a drop on such a row would map; null if the drag carries none.
+const Row* statementToMap(const FrmMain& form, const StatementList& mappingList);
+/// The mapped row that a drop on a picking list would take back; null for none.
+const Row* rowToTakeBack(const FrmMain& form, const StatementList& pickingList);
 
 }  // namespace orvanta

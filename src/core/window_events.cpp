@@ -105,17 +105,22 @@ void droppedOn(Program& program, StatementList& list, int position) {
     });
 }
 
-DropTarget dropTargetAt(const Program& program, const StatementList& from,
-                        const StatementList& list, int position) {
+DropPreview previewOfDrop(const Program& program, const StatementList& from,
+                          const StatementList& list, int position) {
     const FrmMain& form = program.frmMain;
-    if (isMappingList(form, list))
-        return takesMapping(form, list, position) ? DropTarget::Row : DropTarget::Nothing;
-    if (isPickingList(form, list))
-        return takesRowBack(form, list) ? DropTarget::WholeList : DropTarget::Nothing;
+    if (isMappingList(form, list)) {
+        if (!takesMapping(form, list, position)) return {};
+        if (!statementToMap(form, list)) return {DropTarget::Unseen};
+        return {DropTarget::Row, list.row(position).text};
+    }
+    if (isPickingList(form, list)) {
+        const Row* row = rowToTakeBack(form, list);
+        return row ? DropPreview{DropTarget::WholeList, "take back: " + row->text} : DropPreview{};
+    }
     for (const RankedList& ranked : rankedLists)
         if (&(form.*ranked.list) == &list && &from == &list && position != 0)
-            return DropTarget::Row;
-    return DropTarget::Nothing;
+            return {DropTarget::Row, "below: " + list.row(position).text};
+    return {};
 }
 
 void hoveredOver(Program& program, StatementList& list, int position) {

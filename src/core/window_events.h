@@ -27,12 +27,20 @@ bool characterTyped(Program& program, TextBox& box, char character);
 void draggedOver(Program& program, StatementList& list);
 /// A drag ends on a row of a list.
 void droppedOn(Program& program, StatementList& list, int position);
-/// What a drop would act on: it can light up while a drag is over it.
-enum class DropTarget { Nothing, Row, WholeList };
-/// What takes a drop on a list, at a row or at 0 beside all rows, of what was dragged from
+/// What a drop would act on: it can light up while a drag is over it. What is unseen takes the
+/// drop but shows no change.
+enum class DropTarget { Nothing, Unseen, Row, WholeList };
+/// What a person is to know of a drop ahead of it.
+struct DropPreview {
+    DropTarget target = DropTarget::Nothing;
+    std::string caption{};  // Windows-1252; empty where nothing lights up
+
+    friend bool operator==(const DropPreview&, const DropPreview&) = default;
+};
+/// What a drop on a list, at a row or at 0 beside all rows, would do with what was dragged from
 /// another or the same list.
-DropTarget dropTargetAt(const Program& program, const StatementList& from,
-                        const StatementList& list, int position);
+DropPreview previewOfDrop(const Program& program, const StatementList& from,
+                          const StatementList& list, int position);
 /// The mouse moves over a list.
 void hoveredOver(Program& program, StatementList& list, int position);
 

@@ -7,9 +7,9 @@
 #include <QScrollBar>
 #include <QTimer>
 #include <QToolTip>
+#include <utility>
 
 #include "desktop/statement_row_painter.h"
-#include "desktop/theme.h"
 
 namespace orvanta::desktop {
 
@@ -96,7 +96,7 @@ void StatementListView::startDrag(Qt::DropActions) {
     drag->setMimeData(load);
     const QPixmap card = dragCard(*row, font(), devicePixelRatioF());
     drag->setPixmap(card);
-    drag->setHotSpot({-14, -6});  // the card leaves the row below the pointer in sight
+    drag->setHotSpot(dragHotSpot);
     drag->exec(Qt::MoveAction);
     load->finish(m_program);
 }
@@ -109,34 +109,45 @@ void StatementListView::passOver(QDragMoveEvent& event) {
     if (!drag) return event.ignore();
     draggedOver(m_program, m_list);
     const QPoint point = event.position().toPoint();
-    const int row = positionAt(point);
-    lightUp(dropTargetAt(m_program, drag->from(), m_list, row), row);
+    foresee(drag->from(), point);
     scrollAtEdge(point);
     event.setDropAction(Qt::MoveAction);
-    // The whole list is asked again and again while the pointer moves within it.
-    event.setAccepted(m_target != DropTarget::Nothing || event.type() == QEvent::DragEnter);
+    // The whole list is asked again and again while the pointer moves within it; while it
+    // scrolls, what takes the drop may come under the pointer later.
+    event.setAccepted(m_preview.target != DropTarget::Nothing || m_edgeTimer.isActive() ||
+                      event.type() == QEvent::DragEnter);
 }
 
-void StatementListView::dragLeaveEvent(QDragLeaveEvent*) {
-    m_edgeTimer.stop();
-    lightUp(DropTarget::Nothing, 0);
+/// Shows what a drop at this point would do.
+void StatementListView::foresee(const StatementList& from, const QPoint& point) {
+    m_draggedFrom = &from;
+    m_draggedTo = point;
+    const int row = positionAt(point);
+    const DropPreview preview = previewOfDrop(m_program, from, m_list, row);
+    if (std::exchange(m_preview, preview) != preview || row != m_previewRow) viewport()->update();
+    m_previewRow = row;
+    if (preview.caption.empty()) return delete m_hint;
+    if (!m_hint) m_hint = new DropHint(*window());
+    m_hint->showAt(viewport()->mapTo(window(), point), rowHeight(fontMetrics()),
+                   lineOf(preview.caption));
 }
+
+void StatementListView::endOfDrag() {
+    m_edgeTimer.stop();
+    m_preview = {};
+    delete m_hint;
+    viewport()->update();
+}
+
+void StatementListView::dragLeaveEvent(QDragLeaveEvent*) { endOfDrag(); }
 
 void StatementListView::dropEvent(QDropEvent* event) {
-    m_edgeTimer.stop();
-    lightUp(DropTarget::Nothing, 0);
+    endOfDrag();
     const StatementDrag* drag = statementDragIn(*event);
     if (!drag) return event->ignore();
     drag->dropOn(m_list, positionAt(event->position().toPoint()));
     event->setDropAction(Qt::MoveAction);
     event->accept();
-}
-
-void StatementListView::lightUp(DropTarget target, int row) {
-    if (target == m_target && row == m_targetRow) return;
-    m_target = target;
-    m_targetRow = row;
-    viewport()->update();
 }
 
 /// Scrolls on while a drag rests at the upper or lower edge.
@@ -155,18 +166,15 @@ void StatementListView::scrollAtEdge(const QPoint& point) {
 void StatementListView::timerEvent(QTimerEvent* event) {
     if (event->timerId() != m_edgeTimer.timerId()) return QListView::timerEvent(event);
     verticalScrollBar()->setValue(verticalScrollBar()->value() + m_edgeStep);
+    foresee(*m_draggedFrom, m_draggedTo);
 }
 
 void StatementListView::paintEvent(QPaintEvent* event) {
+    if (isLit()) {
+        QPainter painter(viewport());
+        drawDropGround(painter, viewport()->rect());
+    }
     QListView::paintEvent(event);
-    if (m_target != DropTarget::WholeList) return;
-    QPainter painter(viewport());
-    painter.setRenderHint(QPainter::Antialiasing);
-    QColor veil = theme::dropGround;
-    veil.setAlpha(110);
-    painter.setBrush(veil);
-    painter.setPen(QPen(theme::deepBlue, 2));
-    painter.drawRoundedRect(QRectF(viewport()->rect()).adjusted(1, 1, -1, -1), 4, 4);
 }
 
 }  // namespace orvanta::desktop

@@ -3,8 +3,10 @@
 #include <QBasicTimer>
 #include <QListView>
 #include <QMimeData>
+#include <QPointer>
 
 #include "core/window_events.h"
+#include "desktop/drop_hint.h"
 #include "desktop/statement_list_model.h"
 
 namespace orvanta::desktop {
@@ -40,7 +42,9 @@ public:
     /// The row under a point of the viewport, from 1; 0 for none.
     int positionAt(const QPoint& point) const { return indexAt(point).row() + 1; }
     /// The row that lights up because it would take the drop, from 1; 0 for none.
-    int litRow() const { return m_target == DropTarget::Row ? m_targetRow : 0; }
+    int litRow() const { return m_preview.target == DropTarget::Row ? m_previewRow : 0; }
+    /// True if the list lights up as a whole.
+    bool isLit() const { return m_preview.target == DropTarget::WholeList; }
 
 protected:
     void selectionChanged(const QItemSelection& selected,
@@ -58,8 +62,9 @@ protected:
 private:
     void showSelection();
     void reveal();
-    void lightUp(DropTarget target, int row);
     void passOver(QDragMoveEvent& event);
+    void foresee(const StatementList& from, const QPoint& point);
+    void endOfDrag();
     void scrollAtEdge(const QPoint& point);
 
     Program& m_program;
@@ -68,8 +73,11 @@ private:
     StatementListModel m_model;
     bool m_showing = false;
     int m_rowsCameIn = 0, m_lastCameIn = 0;  // since the last look at the event queue
-    DropTarget m_target = DropTarget::Nothing;
-    int m_targetRow = 0;
+    DropPreview m_preview;                   // of the drag that is over the list
+    int m_previewRow = 0;
+    QPointer<DropHint> m_hint;  // there while a drop would do something
+    const StatementList* m_draggedFrom = nullptr;
+    QPoint m_draggedTo;
     QBasicTimer m_edgeTimer;
     int m_edgeStep = 0;
 };

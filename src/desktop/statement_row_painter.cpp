@@ -14,14 +14,6 @@ namespace {
 
 constexpr int pictureSize = 16, leftMargin = 10, gap = 8, indentStep = 16, edgeWidth = 4;
 
-/// A statement on one line.
-QString lineOf(const Row& row) {
-    QString text = fromCp1252(row.text);
-    for (QChar& character : text)
-        if (character < u' ') character = u' ';
-    return text;
-}
-
 QColor inkOf(const Row& row) {
     if (!row.colour) return theme::ink;
     return QColor(row.colour->red, row.colour->green, row.colour->blue);
@@ -37,13 +29,6 @@ void drawGround(QPainter& painter, const QRect& place, bool selected, bool under
     painter.fillRect(QRect(place.left(), place.bottom(), place.width(), 1), theme::hairline);
 }
 
-void drawDropGround(QPainter& painter, const QRect& place) {
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(theme::deepBlue, 2));
-    painter.setBrush(theme::dropGround);
-    painter.drawRoundedRect(QRectF(place).adjusted(1, 1, -1, -1), 4, 4);
-}
-
 void drawContent(QPainter& painter, const QRect& place, const Row& row, const QFont& font) {
     const int left = place.left() + leftMargin + row.indent * indentStep;
     const QRect picture(left, place.top() + (place.height() - pictureSize) / 2, pictureSize,
@@ -53,13 +38,27 @@ void drawContent(QPainter& painter, const QRect& place, const Row& row, const QF
     painter.setFont(font);
     painter.setPen(inkOf(row));
     const QString shown =
-        painter.fontMetrics().elidedText(lineOf(row), Qt::ElideRight, room.width());
+        painter.fontMetrics().elidedText(lineOf(row.text), Qt::ElideRight, room.width());
     painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
 }
 
+}  // namespace
+
 int rowHeight(const QFontMetrics& metrics) { return std::max(pictureSize, metrics.height()) + 12; }
 
-}  // namespace
+void drawDropGround(QPainter& painter, const QRect& place) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(theme::deepBlue, 2));
+    painter.setBrush(theme::dropGround);
+    painter.drawRoundedRect(QRectF(place).adjusted(1, 1, -1, -1), 4, 4);
+}
+
+QString lineOf(std::string_view text) {
+    QString line = fromCp1252(text);
+    for (QChar& character : line)
+        if (character < u' ') character = u' ';
+    return line;
+}
 
 StatementRowPainter::StatementRowPainter(const StatementList& list, StatementListView& view)
     : QStyledItemDelegate(&view), m_list(list), m_view(view) {}
@@ -73,7 +72,7 @@ void StatementRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& o
     painter->save();
     if (m_view.litRow() == index.row() + 1)
         drawDropGround(*painter, option.rect);
-    else
+    else if (!m_view.isLit())
         drawGround(*painter, option.rect, option.state & QStyle::State_Selected,
                    option.state & QStyle::State_MouseOver);
     drawContent(*painter, option.rect, m_list.row(index.row() + 1), option.font);
@@ -83,8 +82,8 @@ void StatementRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& o
 QPixmap dragCard(const Row& row, const QFont& font, qreal pixelRatio) {
     constexpr int widest = 280;
     const QFontMetrics metrics(font);
-    const int width = std::min(
-        widest, leftMargin + pictureSize + 2 * gap + 4 + metrics.horizontalAdvance(lineOf(row)));
+    const int width = std::min(widest, leftMargin + pictureSize + 2 * gap + 4 +
+                                           metrics.horizontalAdvance(lineOf(row.text)));
     const QSize size(width, rowHeight(metrics));
     QPixmap card(size * pixelRatio);
     card.setDevicePixelRatio(pixelRatio);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPixmap>
+#include <QPoint>
 #include <QStyledItemDelegate>
 
 #include "view/statement_list.h"
@@ -23,6 +24,17 @@ private:
     const StatementListView& m_view;
 };
 
+int rowHeight(const QFontMetrics& metrics);
+
+/// The ground of what would take a drop.
+void drawDropGround(QPainter& painter, const QRect& place);
+
+/// A statement on one line.
+QString lineOf(std::string_view text);
+
+/// Where the pointer is in what hangs at it during a drag: above, so that the row below it stays
+/// in sight.
+inline constexpr QPoint dragHotSpot{-14, -6};
 /// The small card that hangs at the pointer while a row is dragged.
 QPixmap dragCard(const Row& row, const QFont& font, qreal pixelRatio);
 

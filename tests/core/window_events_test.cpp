@@ -128,22 +128,22 @@ TEST(SoundSwitch, TurnsOnWithoutASound) {
 struct Hovering {
     std::string name, from, over;
     int row;
-    DropTarget target;
+    DropPreview preview;
 };
 std::ostream& operator<<(std::ostream& out, const Hovering& hovering) {
     return out << hovering.name;
 }
 
 const std::vector<Hovering> hoverings{
-    {"RankedRow", "lvAOpportunity", "lvAOpportunity", 2, DropTarget::Row},
-    {"RankedRowOfAnswers", "lvBThreat", "lvBThreat", 1, DropTarget::Row},
-    {"BesideRankedRows", "lvAOpportunity", "lvAOpportunity", 0, DropTarget::Nothing},
-    {"RankedListOfAnother", "lvAThreat", "lvAOpportunity", 1, DropTarget::Nothing},
-    {"UnrankedStrengths", "lvAStrength", "lvAStrength", 1, DropTarget::Nothing},
-    {"UnrankedAnswers", "lvBWeakness", "lvBWeakness", 1, DropTarget::Nothing},
-    {"Opportunity", "lvStrengthOp", "lvOpportunity", 1, DropTarget::Row},
-    {"MappedRow", "lvStrengthOp", "lvOpportunity", 2, DropTarget::Nothing},
-    {"BesideOpportunities", "lvStrengthOp", "lvOpportunity", 0, DropTarget::Nothing},
+    {"RankedRow", "lvAOpportunity", "lvAOpportunity", 2, {DropTarget::Row, "below: Ann O2"}},
+    {"RankedRowOfAnswers", "lvBThreat", "lvBThreat", 1, {DropTarget::Row, "below: rival"}},
+    {"BesideRankedRows", "lvAOpportunity", "lvAOpportunity", 0, {}},
+    {"RankedListOfAnother", "lvAThreat", "lvAOpportunity", 1, {}},
+    {"UnrankedStrengths", "lvAStrength", "lvAStrength", 1, {}},
+    {"UnrankedAnswers", "lvBWeakness", "lvBWeakness", 1, {}},
+    {"Opportunity", "lvStrengthOp", "lvOpportunity", 1, {DropTarget::Row, "Ann O1"}},
+    {"MappedRow", "lvStrengthOp", "lvOpportunity", 2, {}},
+    {"BesideOpportunities", "lvStrengthOp", "lvOpportunity", 0, {}},
 };
 
 class DropUnderAMovingDrag : public testing::TestWithParam<Hovering> {
@@ -162,9 +162,9 @@ INSTANTIATE_TEST_SUITE_P(Over, DropUnderAMovingDrag, testing::ValuesIn(hoverings
 
 TEST_P(DropUnderAMovingDrag, LightsUpJustWhatWouldTakeIt) {
     const Hovering& hovering = GetParam();
-    EXPECT_EQ(dropTargetAt(bench.program(), bench.list(hovering.from), bench.list(hovering.over),
-                           hovering.row),
-              hovering.target);
+    EXPECT_EQ(previewOfDrop(bench.program(), bench.list(hovering.from), bench.list(hovering.over),
+                            hovering.row),
+              hovering.preview);
 }
 
 TEST(MappedRowUnderAMovingDrag, LightsUpThePickingListThatTakesAMappedRowBack) {
@@ -173,10 +173,18 @@ TEST(MappedRowUnderAMovingDrag, LightsUpThePickingListThatTakesAMappedRowBack) {
     bench.map("lvStrengthOp", 1, "lvOpportunity", 1);
     bench.select("lvOpportunity", 2);
     const StatementList& from = bench.list("lvOpportunity");
-    EXPECT_EQ(dropTargetAt(bench.program(), from, bench.list("lvStrengthOp"), 0),
-              DropTarget::WholeList);
-    EXPECT_EQ(dropTargetAt(bench.program(), from, bench.list("lvWeaknessOp"), 0),
-              DropTarget::Nothing);
+    EXPECT_EQ(previewOfDrop(bench.program(), from, bench.list("lvStrengthOp"), 0),
+              (DropPreview{DropTarget::WholeList, "take back: Ann S1"}));
+    EXPECT_EQ(previewOfDrop(bench.program(), from, bench.list("lvWeaknessOp"), 0), DropPreview());
+}
+
+TEST(MappedRowUnderAMovingDrag, LightsNoOpportunityUpWhereItWouldMapNothing) {
+    AnalysisBench bench;
+    bench.next(5);
+    bench.map("lvStrengthOp", 1, "lvOpportunity", 1);
+    const StatementList& opportunities = bench.list("lvOpportunity");
+    EXPECT_EQ(previewOfDrop(bench.program(), opportunities, opportunities, 3),
+              DropPreview{DropTarget::Unseen});
 }
 
 }  // namespace

@@ -145,7 +145,9 @@ TEST_P(LegibleRows, CanBeReadUnderThePointer) {
 }
 
 TEST_P(LegibleRows, CanBeReadWhileADropWouldLandOnThem) {
-    StatementDrag drag(bench.list("lvStrengthOp"));
+    bench.select("lvStrengthOp", 1);
+    draggedOver(bench.program(), bench.list("lvStrengthOp"));
+    const StatementDrag drag(bench.list("lvStrengthOp"));
     QDragEnterEvent move(placeOf(1).center(), Qt::MoveAction, &drag, Qt::LeftButton,
                          Qt::NoModifier);
     QApplication::sendEvent(view().viewport(), &move);
