@@ -113,7 +113,7 @@ void mapOntoTheLastOpportunity(benchmark::State& state) {
     session.time(
         [&] {
             form.lvStrengthOp.select(1);
-            form.dragSection = "S";
+            form.dragSection.assign(1, 'S');
         },
         [&] { mapDroppedStatement(session.program(), form.lvOpportunity, session.last()); },
         [&] { form.lvOpportunity.remove(session.last() + 1); });
