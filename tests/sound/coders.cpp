@@ -212,7 +212,8 @@ Bytes codedWhole(const Samples& samples, const Form& form) {
 std::vector<Bytes> codedInPieces(const Samples& samples, const Form& form) {
     if (isOfLibrary(form.coding)) return LibraryCoder(form).code(samples);
     std::vector<Bytes> pieces;
-    const auto step = static_cast<std::size_t>(form.rate / picturesPerSecond * form.channels);
+    const auto step = static_cast<std::size_t>(form.rate / picturesPerSecond) *
+                      static_cast<std::size_t>(form.channels);
     for (std::size_t i = 0; i < samples.size(); i += step) {
         const auto start = samples.begin() + static_cast<std::ptrdiff_t>(i);
         const auto size = static_cast<std::ptrdiff_t>(std::min(step, samples.size() - i));

@@ -78,7 +78,7 @@ private:
 class SoundPlayerTest : public testing::Test {
 protected:
     std::string file(const std::string& name, const Bytes& bytes) {
-        const std::string path = windows1252From(m_folder.path().toStdString()) + '/' + name;
+        std::string path = folder() + '/' + name;
         QFile written(QString::fromStdString(utf8From1252(path)));
         EXPECT_TRUE(written.open(QIODevice::WriteOnly));
         written.write(reinterpret_cast<const char*>(bytes.data()),

@@ -117,7 +117,7 @@ std::vector<Moment> momentsOf(const Samples& samples) {
 double likeness(const Samples& heard, const Samples& played) {
     const std::vector<double> ofPlayed = loudnessOf(played);
     double best = 0;
-    constexpr std::size_t shift = playedRate / 200 * playedChannels, shifts = 10;
+    constexpr std::size_t shift = std::size_t{playedRate} / 200 * playedChannels, shifts = 10;
     for (std::size_t i = 0; i < shifts && i * shift < heard.size(); ++i) {
         const std::vector<double> ofHeard =
             loudnessOf({heard.begin() + static_cast<std::ptrdiff_t>(i * shift), heard.end()});

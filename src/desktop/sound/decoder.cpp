@@ -35,10 +35,10 @@ public:
 
     void add(const AVFrame& frame) {
         if (!adaptTo(frame)) return;
-        const int room = static_cast<int>((most - std::min(m_samples.size(), most)) *
-                                          static_cast<std::size_t>(frame.sample_rate) /
-                                          (playedRate * playedChannels)) +
-                         1;
+        const int room =
+            static_cast<int>((most - std::min(m_samples.size(), most)) *
+                             static_cast<std::size_t>(frame.sample_rate) / samplesOfASecond) +
+            1;
         convert(const_cast<const std::uint8_t**>(frame.extended_data),
                 std::min(frame.nb_samples, room));
     }
@@ -54,7 +54,8 @@ public:
     }
 
 private:
-    static constexpr std::size_t most = maximumSeconds * playedRate * playedChannels;
+    static constexpr std::size_t samplesOfASecond = std::size_t{playedRate} * playedChannels;
+    static constexpr std::size_t most = maximumSeconds * samplesOfASecond;
 
     std::size_t inPlayed(std::size_t samples) const {
         if (m_rate == 0) return 0;

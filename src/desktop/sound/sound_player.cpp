@@ -1,6 +1,8 @@
 #include "desktop/sound/sound_player.h"
 
+#include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QEvent>
 #include <QFile>
 #include <QFileInfo>
 #include <QThread>
@@ -37,18 +39,27 @@ public:
 
     /// Called from any thread.
     void order(const std::string& path) {
-        const unsigned number = ++m_newest;
-        QMetaObject::invokeMethod(
-            this, [this, path, number] { carryOut(path, number); }, Qt::QueuedConnection);
+        QCoreApplication::postEvent(this, new Order(path, ++m_newest));
     }
     void forgetOrders() { ++m_newest; }
 
+protected:
+    void customEvent(QEvent* event) override { carryOut(*static_cast<Order*>(event)); }
+
 private:
-    void carryOut(const std::string& path, unsigned number) {
-        if (number != m_newest) return;
+    struct Order : QEvent {
+        Order(std::string movie, unsigned orderNumber)
+            : QEvent(QEvent::User), path(std::move(movie)), number(orderNumber) {}
+
+        std::string path;
+        unsigned number;
+    };
+
+    void carryOut(const Order& order) {
+        if (order.number != m_newest) return;
         if (m_speaker) m_speaker->stop();
-        Samples samples = samplesOfFile(path);
-        if (samples.empty() || number != m_newest) return;
+        Samples samples = samplesOfFile(order.path);
+        if (samples.empty() || order.number != m_newest) return;
         if (!m_speaker) m_speaker = m_makeSpeaker();
         m_speaker->start(std::move(samples));
     }

@@ -7,6 +7,7 @@
 #include <QThread>
 #include <QTimer>
 #include <mutex>
+#include <span>
 
 #include "desktop/sound/speaker.h"
 
@@ -52,9 +53,9 @@ public:
         const QAudioDevice device = QMediaDevices::defaultAudioOutput();
         if (device.isNull()) return;
         m_samples = std::move(samples);
-        m_buffer.setData(QByteArray::fromRawData(
-            reinterpret_cast<const char*>(m_samples.data()),
-            static_cast<qsizetype>(m_samples.size() * sizeof(Samples::value_type))));
+        const auto bytes = std::as_bytes(std::span(m_samples));
+        m_buffer.setData(QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
+                                                 static_cast<qsizetype>(bytes.size())));
         m_buffer.open(QIODevice::ReadOnly);
         // A new one each time: the buffer of one that is started again shrinks until it stutters.
         m_sink = std::make_unique<QAudioSink>(device, playedFormat());
