@@ -147,7 +147,7 @@ void placeListScreen(FrmMain& form, const ListScreen& screen) {
 
 void placeListScreens(FrmMain& form) {
     for (const KindControls& controls : kindControls) {
-        const std::string kind(controls.word);
+        const std::string kind(nameOf(controls.kind));
         placeListScreen(
             form, {form.*controls.questionPanel, form.*controls.question, form.*controls.answerBox,
                    form.*controls.brainstormList, controls.brainstormButtons, kind});

@@ -20,8 +20,7 @@ struct ListButtons {
 /// What the main window holds for one statement kind, in both modules.
 struct KindControls {
     StatementKind kind;
-    std::string_view word;  // for assistive programs
-    Section section;        // of the session files
+    Section section;  // of the session files
     std::string_view blankMessage;
 
     Panel FrmMain::*questionPanel;
@@ -45,7 +44,6 @@ inline constexpr ListMember noList = nullptr;
 // clang-format off: a row of the table is one kind
 inline constexpr std::array<KindControls, 4> kindControls{{
     {StatementKind::Strength,
-     "Strength",
      Section::Strength,
      "Please enter strength.",
      &FrmMain::fraStrength,
@@ -62,7 +60,6 @@ inline constexpr std::array<KindControls, 4> kindControls{{
      {&FrmMain::lvStrengthOp, &FrmMain::lvStrengthTh},
      noList},
     {StatementKind::Weakness,
-     "Weakness",
      Section::Weakness,
      "Please enter weakness.",
      &FrmMain::fraWeakness,
@@ -79,7 +76,6 @@ inline constexpr std::array<KindControls, 4> kindControls{{
      {&FrmMain::lvWeaknessOp, &FrmMain::lvWeaknessTh},
      noList},
     {StatementKind::Opportunity,
-     "Opportunity",
      Section::Opportunity,
      "Please enter opportunity.",
      &FrmMain::fraOpportunity,
@@ -96,7 +92,6 @@ inline constexpr std::array<KindControls, 4> kindControls{{
      {noList, noList},
      &FrmMain::lvOpportunity},
     {StatementKind::Threat,
-     "Threat",
      Section::Threats,
      "Please enter threat.",
      &FrmMain::fraThreats,

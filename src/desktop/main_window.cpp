@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "core/design_grid.h"
 #include "desktop/art.h"
 #include "desktop/list_commands.h"
 #include "desktop/mirrors.h"
@@ -76,6 +77,7 @@ MainWindow::MainWindow(Program& program, Input input)
     makePanels();
     makeButtons();
     makeOthers();
+    makeWhereabouts();
     offerListCommands(program, *this);
     raiseUncovered();
     orderTabs();
@@ -107,7 +109,10 @@ void MainWindow::makeButtons() {
         SkinnedButton& model = m_program.frmMain.buttons[button];
         makeSkinnedButton(model, areaOf(model.image),
                           {[this, button] { buttonPressed(m_program, button); },
-                           [this, button] { buttonReleased(m_program, button); }});
+                           [this, button] {
+                               buttonReleased(m_program, button);
+                               m_whereaboutsView->mayDiffer();
+                           }});
     }
 }
 
@@ -152,6 +157,22 @@ void MainWindow::makeMergeLink() {
     follow();
     m_program.frmMain.buttons[Button::AFRemove].label.changed.subscribe(follow);
     makeLink(m_merge, LinkView::Ground::Plain, mergeChosen);
+}
+
+/// At the foot of the window, below the buttons of the wizards.
+void MainWindow::makeWhereabouts() {
+    const FrmMain& form = m_program.frmMain;
+    m_whereabouts.fontSize = {8.25};
+    m_whereabouts.stretch = {0, 1, 1, 1};
+    m_whereaboutsView = new WhereaboutsView(m_program, m_whereabouts, pixelGrid(), this);
+    mirrorControl(m_whereabouts, *m_whereaboutsView, *this);
+    const auto follow = [this, &form] {
+        const Twips left = form.fraBrainstorm.bounds().left + gridLength(24);
+        m_whereabouts.setBounds({left, form.height - gridLength(19),
+                                 form.width - left - gridLength(24), gridLength(16)});
+    };
+    m_program.frmMain.sizeChanged.subscribe(follow);
+    follow();
 }
 
 void MainWindow::makeByKind(Control& control, ControlArea& area) {

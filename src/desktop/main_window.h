@@ -6,6 +6,7 @@
 #include "desktop/control_area.h"
 #include "desktop/label_view.h"
 #include "desktop/statement_list_view.h"
+#include "desktop/whereabouts_view.h"
 
 namespace orvanta::desktop {
 
@@ -28,6 +29,7 @@ private:
     void makeOthers();
     void makeLink(Label& label, LinkView::Ground ground, void (*clicked)(Program&));
     void makeMergeLink();
+    void makeWhereabouts();
     void makeByKind(Control& control, ControlArea& area);
     void orderTabs();
     ControlArea& areaOf(const Control& control);
@@ -42,6 +44,8 @@ private:
     Input m_input;
     ControlSet m_ownControls;  // the window's own, of which the program knows nothing
     Label m_merge{m_ownControls, "lblMerge", "Merge..."};
+    Label m_whereabouts{m_ownControls, "lblWhereabouts"};
+    WhereaboutsView* m_whereaboutsView = nullptr;
     std::unordered_map<const Panel*, ControlArea*> m_panels;
     const Panel* m_focusedScreen = nullptr;
     bool m_focusPending = false;

@@ -16,8 +16,6 @@ namespace orvanta::desktop {
 namespace {
 
 constexpr int leastRules = 3, mostRules = 5;
-constexpr std::array<const char*, 4> headings{"Strengths", "Weaknesses", "Opportunities",
-                                              "Threats"};
 
 /// Lengths on the paper, in pixels of the device that stands for it.
 class PaperGrid {
@@ -170,7 +168,7 @@ void paintHead(QPainter& painter, const QuestionSheets& sheets, const SheetPage&
     painter.setPen(theme::ink);
     painter.setFont(PaperGrid::font(12, true));
     painter.drawText(at(top, size).adjusted(grid.numberWidth(), 0, 0, 0),
-                     Qt::AlignLeft | Qt::AlignVCenter, QLatin1String(headings[indexOf(page.kind)]));
+                     Qt::AlignLeft | Qt::AlignVCenter, fromCp1252(nameOfSeveral(page.kind)));
 }
 
 void paintLine(QPainter& painter, const SheetLine& line, double width, const PaperGrid& grid) {

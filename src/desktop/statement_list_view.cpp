@@ -9,6 +9,7 @@
 #include <QToolTip>
 #include <utility>
 
+#include "analyze/mapping.h"
 #include "desktop/statement_row_painter.h"
 
 namespace orvanta::desktop {
@@ -34,6 +35,8 @@ void StatementDrag::finish(Program& program) const {
 StatementListView::StatementListView(Program& program, StatementList& list, Input input,
                                      QWidget* parent)
     : QListView(parent), m_program(program), m_list(list), m_input(input), m_model(list) {
+    if (isMappingList(program.frmMain, list))
+        m_mappingCounts = std::make_unique<MappingCounts>(list);
     setModel(&m_model);
     setItemDelegate(new StatementRowPainter(list, *this));
     setUniformItemSizes(true);
@@ -43,8 +46,12 @@ StatementListView::StatementListView(Program& program, StatementList& list, Inpu
     setVerticalScrollMode(ScrollPerPixel);
     setDragDropMode(DragDrop);
     setMouseTracking(true);
-    m_model.selectionMayDiffer = [this] { showSelection(); };
+    m_model.selectionMayDiffer = [this] {
+        if (m_mappingCounts) viewport()->update();
+        showSelection();
+    };
     m_model.rowCameIn = [this](int position) {
+        if (m_mappingCounts) viewport()->update();  // the row that it is mapped under tells of it
         m_lastCameIn = position;
         if (m_rowsCameIn++ == 0) QTimer::singleShot(0, this, [this] { reveal(); });
     };

@@ -4,7 +4,9 @@
 #include <QListView>
 #include <QMimeData>
 #include <QPointer>
+#include <memory>
 
+#include "analyze/mapping_counts.h"
 #include "core/window_events.h"
 #include "desktop/drop_hint.h"
 #include "desktop/statement_list_model.h"
@@ -43,6 +45,8 @@ public:
     int positionAt(const QPoint& point) const { return indexAt(point).row() + 1; }
     /// The row that lights up because it would take the drop, from 1; 0 for none.
     int litRow() const { return m_preview.target == DropTarget::Row ? m_previewRow : 0; }
+    /// What is mapped under each row; null for a list to which nothing is mapped.
+    const MappingCounts* mappingCounts() const { return m_mappingCounts.get(); }
     /// True if the list lights up as a whole.
     bool isLit() const { return m_preview.target == DropTarget::WholeList; }
 
@@ -71,6 +75,7 @@ private:
     StatementList& m_list;
     Input m_input;
     StatementListModel m_model;
+    std::unique_ptr<MappingCounts> m_mappingCounts;
     bool m_showing = false;
     int m_rowsCameIn = 0, m_lastCameIn = 0;  // since the last look at the event queue
     DropPreview m_preview;                   // of the drag that is over the list

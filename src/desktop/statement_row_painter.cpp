@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "core/statement_kind.h"
 #include "desktop/art.h"
 #include "desktop/conversions.h"
 #include "desktop/statement_list_view.h"
@@ -42,6 +43,31 @@ void drawContent(QPainter& painter, const QRect& place, const Row& row, const QF
     painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
 }
 
+/// Draws at the right of a row what is mapped under it; returns where that begins.
+int drawCounts(QPainter& painter, const QRect& place, const MappingCounts::Count& count,
+               const QFont& font) {
+    constexpr int smallPicture = 12, numberGap = 4;
+    const QFontMetrics metrics(font);
+    painter.setFont(font);
+    painter.setPen(theme::quietInk);
+    int right = place.right() - gap;
+    for (const auto& [kind, number] : {std::pair(StatementKind::Weakness, count.weaknesses),
+                                       std::pair(StatementKind::Strength, count.strengths)}) {
+        // Wide enough for two digits, so that the numbers of all rows stand below each other.
+        const QString text = QString::number(number);
+        const int width = std::max(metrics.horizontalAdvance(text),
+                                   metrics.horizontalAdvance(QStringLiteral("00")));
+        painter.drawText(QRect(right - width, place.top(), width, place.height()),
+                         Qt::AlignLeft | Qt::AlignVCenter, text);
+        right -= width + numberGap + smallPicture;
+        rowIcon(imageOf(kind))
+            .paint(&painter, QRect(right, place.top() + (place.height() - smallPicture) / 2,
+                                   smallPicture, smallPicture));
+        right -= gap;
+    }
+    return right;
+}
+
 }  // namespace
 
 int rowHeight(const QFontMetrics& metrics) { return std::max(pictureSize, metrics.height()) + 12; }
@@ -75,7 +101,12 @@ void StatementRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& o
     else if (!m_view.isLit())
         drawGround(*painter, option.rect, option.state & QStyle::State_Selected,
                    option.state & QStyle::State_MouseOver);
-    drawContent(*painter, option.rect, m_list.row(index.row() + 1), option.font);
+    const Row& row = m_list.row(index.row() + 1);
+    QRect room = option.rect;
+    const MappingCounts* counts = m_view.mappingCounts();
+    if (counts && row.image > 2)
+        room.setRight(drawCounts(*painter, room, counts->of(row.key), option.font));
+    drawContent(*painter, room, row, option.font);
     painter->restore();
 }
 

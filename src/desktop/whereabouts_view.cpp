@@ -1,0 +1,78 @@
+#include "desktop/whereabouts_view.h"
+
+#include <QPainter>
+#include <QTimer>
+#include <utility>
+
+#include "desktop/art.h"
+#include "desktop/theme.h"
+
+namespace orvanta::desktop {
+
+namespace {
+
+constexpr int pictureSize = 12, gap = 4, groupGap = 16;
+
+QString inWords(const std::array<int, 4>& counts) {
+    QStringList words;
+    for (const StatementKind kind : statementKinds)
+        words += fromCp1252(nameOfSeveral(kind)) + u' ' + QString::number(counts[indexOf(kind)]);
+    return words.join(QStringLiteral(", "));
+}
+
+}  // namespace
+
+WhereaboutsView::WhereaboutsView(Program& program, Label& model, const PixelGrid& pixelGrid,
+                                 QWidget* parent)
+    : QLabel(parent), m_program(program), m_model(model) {
+    setTextFormat(Qt::PlainText);
+    FrmMain& form = program.frmMain;
+    for (const auto list : statementLists) (form.*list).watch(*this);
+    for (Control* control : form.controls.all())
+        if (dynamic_cast<orvanta::Panel*>(control) || dynamic_cast<Label*>(control))
+            control->changed.subscribe([this] { mayDiffer(); });
+    const auto showSize = [this, pixelGrid] { setFont(pixelGrid.font(m_model.fontSize)); };
+    model.changed.subscribe(showSize);
+    showSize();
+    look();
+}
+
+void WhereaboutsView::mayDiffer() {
+    if (std::exchange(m_lookPending, true)) return;
+    QTimer::singleShot(0, this, [this] { look(); });
+}
+
+void WhereaboutsView::look() {
+    m_lookPending = false;
+    m_shown = whereaboutsOf(m_program);
+    const QString counts = inWords(m_shown.counts);
+    m_model.setToolTip(toCp1252(counts));
+    m_model.setVisible(!m_shown.place.empty());
+    setText(fromCp1252(m_shown.place) + QStringLiteral(". ") + counts + u'.');
+    update();
+}
+
+void WhereaboutsView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(theme::quietInk);
+    int right = width();
+    for (auto kind = statementKinds.rbegin(); kind != statementKinds.rend(); ++kind)
+        right = drawCount(painter, right, *kind) - groupGap;
+    const QRect room(0, 0, right, height());
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                     fontMetrics().elidedText(fromCp1252(m_shown.place), Qt::ElideRight, right));
+}
+
+/// Draws the picture and the number of a kind; returns where they begin.
+int WhereaboutsView::drawCount(QPainter& painter, int right, StatementKind kind) const {
+    const QString count = QString::number(m_shown.counts[indexOf(kind)]);
+    const int left = right - fontMetrics().horizontalAdvance(count);
+    painter.drawText(QRect(left, 0, right - left, height()), Qt::AlignRight | Qt::AlignVCenter,
+                     count);
+    const QRect picture(left - gap - pictureSize, (height() - pictureSize) / 2, pictureSize,
+                        pictureSize);
+    rowIcon(imageOf(kind)).paint(&painter, picture);
+    return picture.left();
+}
+
+}  // namespace orvanta::desktop
