@@ -53,12 +53,13 @@ void putBackground(ControlArea& area, const Control& footButton) {
     static_cast<DialogGround&>(area).setPicture(QStringLiteral("dialog_background"), footButton);
 }
 
-void putLabel(Label& model, ControlArea& area, const QColor& ink) {
+LabelView* putLabel(Label& model, ControlArea& area, const QColor& ink) {
     auto* view = new LabelView(model, area.pixelGrid(), &area);
     QPalette coloured;
     coloured.setColor(QPalette::WindowText, ink);
     view->setPalette(coloured);
     mirrorControl(model, *view, area);
+    return view;
 }
 
 /// The picture of the About box: it keeps its proportions above a ground of its own colour.
@@ -133,10 +134,12 @@ ReportDialog::ReportDialog(Program& program, FrmReportType& form, QWidget* owner
     : FormDialog(program, owner), m_form(form) {
     setObjectName(QStringLiteral("frmReportType"));
     putBackground(*m_area, form.OKButton);
-    for (Label* label : {&form.Label1, &form.Label2, &form.lblGenerating})
-        putLabel(*label, *m_area, theme::paper);
-    makeComboBox(form.cboFormat, *m_area);
+    LabelView* format = putLabel(form.Label1, *m_area, theme::paper);
+    LabelView* file = putLabel(form.Label2, *m_area, theme::paper);
+    putLabel(form.lblGenerating, *m_area, theme::paper);
+    format->setBuddy(makeComboBox(form.cboFormat, *m_area));
     TextBoxView* box = makeTextBox(form.txtEdit, *m_area, [](char) { return true; });
+    file->setBuddy(box);
     makePushButton(form.cmdBrowse, *m_area,
                    [this] { handle(m_program, [&] { browseForAnalyzeFile(m_program, m_form); }); });
     makePushButton(form.OKButton, *m_area, [this] {

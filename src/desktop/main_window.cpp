@@ -1,11 +1,13 @@
 #include "desktop/main_window.h"
 
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QIcon>
 #include <QPainter>
 #include <QPushButton>
 #include <QTimer>
 #include <algorithm>
+#include <utility>
 
 #include "core/design_grid.h"
 #include "desktop/art.h"
@@ -191,17 +193,22 @@ void MainWindow::makeByKind(Control& control, ControlArea& area) {
     }
 }
 
-/// Tab goes as the eye does: the column at the left, then each panel row by row.
+/// Tab goes as the eye does: the column at the left, then each panel row by row. Ahead of all is
+/// the switch of the voice, which would talk over a screen reader.
 void MainWindow::orderTabs() {
     std::vector<QWidget*> stops;
     for (QWidget* widget : findChildren<QWidget*>())
         if (isFocusable(widget) && !widget->objectName().isEmpty()) stops.push_back(widget);
     std::ranges::stable_sort(stops, {}, [this](const QWidget* widget) {
         const QPoint place = widget->mapTo(this, QPoint());
+        const bool isSwitch = widget == findChild<QCheckBox*>();
         const bool inColumn = widget->parentWidget() == this;
-        return std::tuple(!inColumn, place.y(), place.x());
+        return std::tuple(!isSwitch, !inColumn, place.y(), place.x());
     });
-    for (std::size_t i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
+    setFocusPolicy(Qt::TabFocus);  // else nothing can be told to follow the window itself
+    QWidget* former = this;
+    for (QWidget* stop : stops) setTabOrder(std::exchange(former, stop), stop);
+    setFocusPolicy(Qt::NoFocus);
 }
 
 void MainWindow::showSize() {

@@ -1,6 +1,7 @@
 #include "desktop/message_box.h"
 
 #include <QCoreApplication>
+#include <QLabel>
 #include <array>
 
 #include "desktop/conversions.h"
@@ -21,6 +22,12 @@ QMessageBox::Icon iconFor(MessageIcon icon) {
             return QMessageBox::Information;
     }
     return QMessageBox::NoIcon;
+}
+
+/// What the icon says to those who do not see it.
+QString wordFor(MessageIcon icon) {
+    constexpr std::array words{"", "Stop", "Question", "Information"};
+    return QLatin1String(words[static_cast<std::size_t>(icon)]);
 }
 
 QMessageBox::StandardButton standardButtonFor(MessageAnswer answer) {
@@ -54,6 +61,8 @@ MessageBox::MessageBox(const Message& message, QWidget* owner) : QMessageBox(own
     setTextFormat(Qt::PlainText);
     setText(fromCp1252(message.text));
     setIcon(iconFor(message.icon));
+    if (auto* picture = findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label")))
+        picture->setAccessibleName(wordFor(message.icon));
     setStandardButtons(set.buttons);
     setEscapeButton(standardButtonFor(set.onEscape));
     setDefaultButton(standardButtonFor(message.defaultAnswer));

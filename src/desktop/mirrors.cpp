@@ -65,9 +65,9 @@ QRadioButton* makeOption(Option& model, ControlArea& area) {
         widget->setAutoExclusive(true);
     };
     follow(model, show);
-    QObject::connect(widget, &QRadioButton::clicked, widget, [&model, show] {
-        model.setOn(true);
-        show();
+    // Not clicked: an assistive program toggles without a click.
+    QObject::connect(widget, &QRadioButton::toggled, widget, [&model](bool on) {
+        if (on) model.setOn(true);
     });
     mirrorControl(model, *widget, area);
     return widget;
@@ -83,7 +83,7 @@ QCheckBox* makeCheckBox(CheckBox& model, ControlArea& area, std::function<void(b
         widget->setChecked(model.isOn());
     };
     follow(model, show);
-    QObject::connect(widget, &QCheckBox::clicked, widget,
+    QObject::connect(widget, &QCheckBox::toggled, widget,
                      [clicked = std::move(clicked), show](bool on) {
                          clicked(on);
                          show();
@@ -132,8 +132,11 @@ QListWidget* makeListBox(ListBox& model, ControlArea& area) {
 }
 
 void makeSkinnedButton(SkinnedButton& model, ControlArea& area, const ButtonActs& acts) {
-    mirrorControl(model.image, *new ButtonPictureView(model, acts, &area), area);
-    mirrorControl(model.label, *new ButtonCaptionView(model, acts, area.pixelGrid(), &area), area);
+    auto* picture = new ButtonPictureView(model, acts, &area);
+    auto* caption = new ButtonCaptionView(model, acts, area.pixelGrid(), &area);
+    caption->setBuddy(picture);  // one control to assistive programs
+    mirrorControl(model.image, *picture, area);
+    mirrorControl(model.label, *caption, area);
 }
 
 }  // namespace orvanta::desktop

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QLocale>
 #include <QPainter>
 #include <QPrintPreviewDialog>
@@ -40,6 +41,14 @@ void addPaperChoice(QPrintPreviewDialog& preview, QPrinter& printer) {
     tools->addWidget(choice);
 }
 
+/// The dialog leaves its two boxes, the magnification and the page, without a name.
+void nameBoxes(QPrintPreviewDialog& preview) {
+    for (QLineEdit* box : preview.findChildren<QLineEdit*>()) {
+        const bool isZoom = qobject_cast<QComboBox*>(box->parentWidget());
+        box->setAccessibleName(isZoom ? QStringLiteral("Zoom") : QStringLiteral("Page"));
+    }
+}
+
 }  // namespace
 
 void printQuestionSheets(QPrinter& printer, const QuestionSheets& sheets) {
@@ -63,6 +72,7 @@ void PreviewingPrinter::print(const QuestionSheets& sheets) {
     preview.setWindowTitle(title);
     constexpr QSize roomy{900, 760};
     preview.resize(roomy);
+    nameBoxes(preview);
     addPaperChoice(preview, printer);
     QObject::connect(&preview, &QPrintPreviewDialog::paintRequested,
                      [&](QPrinter* paper) { printQuestionSheets(*paper, sheets); });

@@ -1,25 +1,16 @@
 #include "desktop/statement_list_model.h"
 
-#include <array>
-
 #include "desktop/art.h"
 #include "desktop/conversions.h"
 
 namespace orvanta::desktop {
 
-namespace {
-
-/// What a picture says to those who do not see it.
-QString kindName(int image) {
-    static constexpr std::array<const char*, 5> names{"", "Strength", "Weakness", "Opportunity",
-                                                      "Threat"};
-    return QLatin1String(names[image >= 1 && image <= 4 ? static_cast<std::size_t>(image) : 0]);
-}
-
-}  // namespace
-
 StatementListModel::StatementListModel(StatementList& list, QObject* parent)
-    : QAbstractListModel(parent), selectionMayDiffer([] {}), rowCameIn([](int) {}), m_list(list) {
+    : QAbstractListModel(parent),
+      describe([](int) { return std::string(); }),
+      selectionMayDiffer([] {}),
+      rowCameIn([](int) {}),
+      m_list(list) {
     list.watch(*this);
 }
 
@@ -36,7 +27,7 @@ QVariant StatementListModel::data(const QModelIndex& index, int role) const {
         case Qt::DecorationRole:
             return rowIcon(row.image);
         case Qt::AccessibleDescriptionRole:
-            return QString(kindName(row.image) + u' ' + fromCp1252(row.subItem)).trimmed();
+            return fromCp1252(describe(index.row() + 1));
         default:
             return {};
     }

@@ -19,7 +19,8 @@ public:
     /// True while the rows change: what Qt then says of the selection is not a person's act.
     bool isChanging() const { return m_changing; }
 
-    std::function<void()> selectionMayDiffer;  // the view's is to follow the list's
+    std::function<std::string(int position)> describe;  // for those who do not see the row
+    std::function<void()> selectionMayDiffer;           // the view's is to follow the list's
     std::function<void(int position)> rowCameIn;
 
 private:

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "analyze/mapping.h"
+#include "analyze/row_description.h"
 #include "desktop/statement_row_painter.h"
 
 namespace orvanta::desktop {
@@ -37,6 +38,9 @@ StatementListView::StatementListView(Program& program, StatementList& list, Inpu
     : QListView(parent), m_program(program), m_list(list), m_input(input), m_model(list) {
     if (isMappingList(program.frmMain, list))
         m_mappingCounts = std::make_unique<MappingCounts>(list);
+    m_model.describe = [this](int position) {
+        return describeRow(m_list, position, m_mappingCounts.get());
+    };
     setModel(&m_model);
     setItemDelegate(new StatementRowPainter(list, *this));
     setUniformItemSizes(true);

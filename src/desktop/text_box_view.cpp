@@ -64,8 +64,10 @@ TextBoxView::TextBoxView(TextBox& model, Typed typed, QWidget* parent)
     : QLineEdit(parent), m_model(model), m_typed(std::move(typed)) {
     setMaxLength(1'000'000);
     setValidator(new Entry(*this));
-    connect(this, &QLineEdit::textEdited,
-            [this](const QString& text) { m_model.setText(toCp1252(text)); });
+    // Not textEdited: an assistive program sets a text without typing it.
+    connect(this, &QLineEdit::textChanged, [this](const QString& text) {
+        if (!m_showing) m_model.setText(toCp1252(text));
+    });
     model.changed.subscribe([this] { showModel(); });
     showModel();
 }

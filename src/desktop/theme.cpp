@@ -1,10 +1,12 @@
 #include "desktop/theme.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFont>
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <QWidget>
 
 #include "desktop/art.h"
@@ -50,6 +52,16 @@ QPalette lightPalette() {
     return palette;
 }
 
+/// Fusion itself tells of the keyboard too faintly, and only after a press of Tab.
+void drawFocusEdge(QPainter& painter, const QRect& place) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(theme::deepBlue, 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(place).adjusted(1, 1, -1, -1), 3, 3);
+    painter.restore();
+}
+
 /// Fusion, light whatever colours the desktop asks for, with flat signs in its message boxes.
 class FlatStyle : public QProxyStyle {
 public:
@@ -60,6 +72,21 @@ public:
     void polish(QWidget* widget) override {
         QProxyStyle::polish(widget);
         if (widget->isWindow()) widget->setPalette(lightPalette());
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        if (element == PE_FrameFocusRect && button && button->isCheckable())
+            return drawFocusEdge(*painter, option->rect);
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if (control == CC_ComboBox && option->state & State_HasFocus)
+            drawFocusEdge(*painter, option->rect);
     }
 
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
@@ -83,7 +110,7 @@ QLineEdit:focus { border: 2px solid #003399; padding: 0 7px; }
 QFileDialog QLineEdit { min-height: 22px; }
 
 QListView { background: #ffffff; border: 1px solid #b9c5de; border-radius: 4px; padding: 2px; }
-QListView:focus { border: 1px solid #003399; }
+QListView:focus { border: 2px solid #003399; padding: 1px; }
 QListWidget::item { padding: 6px 8px; border-bottom: 1px solid #e4e9f3; color: #1b253b; }
 QListWidget::item:selected {
     background: #e3ebfb; border-left: 4px solid #003399; padding-left: 4px;

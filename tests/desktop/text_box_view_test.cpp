@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QtTest>
@@ -75,6 +76,13 @@ TEST_F(TextBoxViewTest, KeepsALongerTextOfTheProgramAndLetsItShrink) {
     EXPECT_EQ(model.text(), "123456789012345");
     QTest::keyClick(&view, Qt::Key_Backspace);
     EXPECT_EQ(model.text(), "12345678901234");
+}
+
+TEST_F(TextBoxViewTest, TakesATextThatAnAssistiveProgramSets) {
+    auto* told = QAccessible::queryAccessibleInterface(&view);
+    told->setText(QAccessible::Value, QString::fromUtf8("caf\xC3\xA9 \xD0\x96 and much more"));
+    EXPECT_EQ(model.text(), "caf\xE9 ? and");
+    EXPECT_EQ(view.text(), QString::fromUtf8("caf\xC3\xA9 ? and"));
 }
 
 TEST_F(TextBoxViewTest, ReportsEnterAsAReturnCharacter) {

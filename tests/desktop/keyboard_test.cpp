@@ -1,0 +1,100 @@
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QtTest>
+
+#include "desktop/dialogs.h"
+#include "painted_contrast.h"
+#include "window_bench.h"
+
+namespace orvanta::test {
+
+namespace {
+
+using namespace orvanta::desktop;
+
+/// The controls at which Tab stops, from the first on.
+std::vector<QWidget*> stopsOf(QWidget& window) {
+    std::vector<QWidget*> stops;
+    for (QWidget* widget = window.nextInFocusChain(); widget != &window;
+         widget = widget->nextInFocusChain())
+        if (widget->isVisible() && widget->isEnabled() && widget->focusPolicy() & Qt::TabFocus)
+            stops.push_back(widget);
+    return stops;
+}
+
+Texts namesOf(const std::vector<QWidget*>& widgets) {
+    Texts names;
+    for (const QWidget* widget : widgets) names.push_back(toCp1252(widget->objectName()));
+    return names;
+}
+
+/// That each control looks different while it has the keyboard.
+void expectVisibleFocus(QWidget& window) {
+    QApplication::setActiveWindow(&window);
+    for (QWidget* stop : stopsOf(window)) {
+        window.setFocus();
+        const QImage without = paintedAs(*stop);
+        stop->setFocus(Qt::TabFocusReason);
+        ASSERT_TRUE(stop->hasFocus()) << stop->objectName().toStdString();
+        const QImage with = paintedAs(*stop);
+        EXPECT_NE(with, without) << stop->objectName().toStdString();
+    }
+}
+
+class Keyboard : public testing::Test {
+protected:
+    Keyboard() { analysis.window().show(); }
+
+    WindowBench<AnalysisBench> analysis;
+};
+
+}  // namespace
+
+TEST_F(Keyboard, ReachesTheSwitchOfTheVoiceFirst) {
+    EXPECT_EQ(stopsOf(analysis.window()).front(), &analysis.widget("chkMute"));
+}
+
+TEST_F(Keyboard, GoesThroughAListScreenAsTheEyeDoes) {
+    analysis.next(1);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(namesOf(stopsOf(analysis.window())),
+              (Texts{"chkMute", "imgBtnOverview", "imgBtnBrainstorm", "imgBtnAnalyze",
+                     "imgBtnReport", "imgBtnAbout", "imgBtnQuit", "cmdUndo", "cmdRedo",
+                     "txtAStrength", "imgBtnASAdd", "lvAStrength", "imgBtnASEdit", "imgBtnASRemove",
+                     "imgBtnOAFile", "imgBtnAQuit", "imgBtnABack", "imgBtnANext"}));
+}
+
+TEST_F(Keyboard, ShowsWhereItIsOnEveryScreenOfAnAnalysis) {
+    for (int screen = 0; screen < 7; ++screen) {
+        QCoreApplication::processEvents();
+        expectVisibleFocus(analysis.window());
+        if (screen < 6) analysis.next(1);
+    }
+}
+
+TEST_F(Keyboard, ShowsWhereItIsOnTheScreensOfBrainstorming) {
+    analysis.click("Brainstorm");
+    QCoreApplication::processEvents();
+    expectVisibleFocus(analysis.window());
+    analysis.openBrainstorm();
+    QCoreApplication::processEvents();
+    expectVisibleFocus(analysis.window());
+}
+
+TEST_F(Keyboard, ShowsWhereItIsInTheDialogs) {
+    FrmEdit edit;
+    EditDialog editDialog(analysis.program(), edit, nullptr);
+    FrmReportType report;
+    ReportDialog reportDialog(analysis.program(), report, nullptr);
+    FrmAbout about;
+    AboutDialog aboutDialog(analysis.program(), about, nullptr);
+    for (QDialog* dialog :
+         std::initializer_list<QDialog*>{&editDialog, &reportDialog, &aboutDialog}) {
+        dialog->show();
+        expectVisibleFocus(*dialog);
+        dialog->hide();
+    }
+}
+
+}  // namespace orvanta::test
