@@ -1,0 +1,53 @@
+#!/usr/bin/env bash
+# Makes a picture of every screen and dialog: at 1x and 2x, on a light, a dark and a high-contrast
+# desktop. They lie in build/screens/THEME-SCALEx/ then.
+set -euo pipefail
+cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
+
+root=$PWD
+screens=$root/build/screens
+
+# GROUND INK BASE HIGHLIGHT, each as "red,green,blue": a colour scheme as the desktop stores it.
+scheme() {
+    local part
+    for part in Window View Button Tooltip Selection; do
+        printf '[Colors:%s]\n' "$part"
+        case $part in
+            View) printf 'BackgroundNormal=%s\nBackgroundAlternate=%s\n' "$3" "$1" ;;
+            Selection) printf 'BackgroundNormal=%s\n' "$4" ;;
+            *) printf 'BackgroundNormal=%s\n' "$1" ;;
+        esac
+        printf 'ForegroundNormal=%s\nForegroundLink=%s\n\n' "$2" "$4"
+    done
+}
+
+declare -A schemes=(
+    [light]="239,240,241 35,38,41 252,252,252 61,174,233"
+    [dark]="42,46,50 252,252,252 27,30,32 61,174,233"
+    [contrast]="0,0,0 255,255,0 0,0,0 0,255,255"
+)
+
+if [[ ${1:-} == inside ]]; then
+    read -r -a colours <<<"${schemes[$2]}"
+    scheme "${colours[@]}" >"$XDG_CONFIG_HOME/kdeglobals"
+    exec "$root/build/dev/bin/orvanta_screens" "$screens/$2-$3x"
+fi
+
+scripts/install.sh test
+if command -v ccache >/dev/null; then export CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
+cmake --preset dev
+cmake --build --preset dev --target orvanta_screens
+rm -rf -- "$screens"
+for theme in light dark contrast; do
+    for scale in 1 2; do
+        mkdir -p "$screens/$theme-${scale}x"
+        runtime=$(mktemp -d)
+        mkdir -m 700 -- "$runtime/Dana"
+        # The generic desktop of Qt that reads its colours from a file is that of KDE.
+        XDG_RUNTIME_DIR=$runtime XDG_CONFIG_HOME=$runtime HOME=$runtime/Dana \
+            QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME=kde KDE_SESSION_VERSION=5 \
+            QT_SCALE_FACTOR=$scale \
+            xvfb-run -a -s "-screen 0 2560x2048x24" scripts/screens.sh inside "$theme" "$scale"
+        rm -rf -- "$runtime"
+    done
+done
