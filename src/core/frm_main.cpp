@@ -73,7 +73,7 @@ void placeTopLevel(FrmMain& form) {
 
 constexpr Bounds moduleArea = grid(200, 64, 760, 576);
 constexpr Bounds stepArea = grid(0, 0, 760, 516);
-constexpr double buttonRow = 524;
+constexpr double buttonRow = 520;
 
 void placeWizardButtons(FrmMain& form) {
     const Stretch left = atBottom, right = atBottomRight;

@@ -161,7 +161,7 @@ AboutDialog::AboutDialog(Program& program, FrmAbout& form, QWidget* owner)
     putLabel(form.lblTitle, *m_area, theme::deepBlue);
     putLabel(form.lblR, *m_area, theme::deepBlue);
     for (Label* label : {&form.lblVersion, &form.Label1}) putLabel(*label, *m_area, theme::ink);
-    putLabel(form.lblDisclaimer, *m_area, theme::quietInk);
+    putLabel(form.lblDisclaimer, *m_area, theme::ink)->setForegroundRole(QPalette::PlaceholderText);
     auto* link =
         new LinkView(form.lblSupport, LinkView::Ground::Plain, m_area->pixelGrid(), m_area);
     connect(link, &QPushButton::clicked, [this] { openSupportPage(m_program); });

@@ -1,7 +1,9 @@
 #include "desktop/file_chooser.h"
 
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QStandardPaths>
+#include <QTreeView>
 
 #include "desktop/conversions.h"
 
@@ -34,6 +36,10 @@ FileChooser::FileChooser(const FileDialogRequest& request, QWidget* owner)
     setOption(DontConfirmOverwrite);
     setFileMode(AnyFile);
     setAcceptMode(request.mode == FileDialogMode::Open ? AcceptOpen : AcceptSave);
+    QHeaderView& columns = *findChild<QTreeView*>(QStringLiteral("treeView"))->header();
+    columns.setStretchLastSection(false);
+    columns.setSectionResizeMode(QHeaderView::ResizeToContents);
+    columns.setSectionResizeMode(0, QHeaderView::Stretch);
     if (!request.fileName.empty()) selectFile(fromCp1252(request.fileName));
 }
 

@@ -20,14 +20,16 @@ QColor inkOf(const Row& row) {
     return QColor(row.colour->red, row.colour->green, row.colour->blue);
 }
 
-void drawGround(QPainter& painter, const QRect& place, bool selected, bool underPointer) {
-    if (selected) {
+void drawGround(QPainter& painter, const QStyleOptionViewItem& option) {
+    const QRect& place = option.rect;
+    if (option.state & QStyle::State_Selected) {
         painter.fillRect(place, theme::selection);
         painter.fillRect(QRect(place.topLeft(), QSize(edgeWidth, place.height())), theme::deepBlue);
-    } else if (underPointer) {
+    } else if (option.state & QStyle::State_MouseOver) {
         painter.fillRect(place, theme::sideGround);
     }
-    painter.fillRect(QRect(place.left(), place.bottom(), place.width(), 1), theme::hairline);
+    painter.fillRect(QRect(place.left(), place.bottom(), place.width(), 1),
+                     option.palette.color(QPalette::Midlight));
 }
 
 void drawContent(QPainter& painter, const QRect& place, const Row& row, const QFont& font) {
@@ -44,12 +46,13 @@ void drawContent(QPainter& painter, const QRect& place, const Row& row, const QF
 }
 
 /// Draws at the right of a row what is mapped under it; returns where that begins.
-int drawCounts(QPainter& painter, const QRect& place, const MappingCounts::Count& count,
-               const QFont& font) {
+int drawCounts(QPainter& painter, const QStyleOptionViewItem& option,
+               const MappingCounts::Count& count) {
     constexpr int smallPicture = 12, numberGap = 4;
-    const QFontMetrics metrics(font);
-    painter.setFont(font);
-    painter.setPen(theme::quietInk);
+    const QRect& place = option.rect;
+    const QFontMetrics metrics(option.font);
+    painter.setFont(option.font);
+    painter.setPen(option.palette.color(QPalette::PlaceholderText));
     int right = place.right() - gap;
     for (const auto& [kind, number] : {std::pair(StatementKind::Weakness, count.weaknesses),
                                        std::pair(StatementKind::Strength, count.strengths)}) {
@@ -99,13 +102,11 @@ void StatementRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& o
     if (m_view.litRow() == index.row() + 1)
         drawDropGround(*painter, option.rect);
     else if (!m_view.isLit())
-        drawGround(*painter, option.rect, option.state & QStyle::State_Selected,
-                   option.state & QStyle::State_MouseOver);
+        drawGround(*painter, option);
     const Row& row = m_list.row(index.row() + 1);
     QRect room = option.rect;
     const MappingCounts* counts = m_view.mappingCounts();
-    if (counts && row.image > 2)
-        room.setRight(drawCounts(*painter, room, counts->of(row.key), option.font));
+    if (counts && row.image > 2) room.setRight(drawCounts(*painter, option, counts->of(row.key)));
     drawContent(*painter, room, row, option.font);
     painter->restore();
 }

@@ -8,6 +8,9 @@
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <QWidget>
+#include <algorithm>
+#include <cmath>
+#include <utility>
 
 #include "desktop/art.h"
 
@@ -34,8 +37,16 @@ QIcon discIcon(const QColor& disc, QChar sign) {
     return QIcon(drawn);
 }
 
-QPalette lightPalette() {
+/// A colour for what is said or drawn in passing: nothing is, where more contrast is asked for.
+QColor passing(const QColor& colour, const QPalette& desktop) {
+    return asksForContrast(desktop) ? theme::ink : colour;
+}
+
+QPalette lightPalette(const QPalette& desktop) {
     QPalette palette(theme::sideGround, theme::paper);
+    const QColor quietInk = passing(theme::quietInk, desktop);
+    palette.setColor(QPalette::Mid, passing(theme::outline, desktop));
+    palette.setColor(QPalette::Midlight, passing(theme::hairline, desktop));
     palette.setColor(QPalette::WindowText, theme::ink);
     palette.setColor(QPalette::Base, theme::paper);
     palette.setColor(QPalette::AlternateBase, theme::sideGround);
@@ -44,11 +55,11 @@ QPalette lightPalette() {
     palette.setColor(QPalette::Highlight, theme::deepBlue);
     palette.setColor(QPalette::HighlightedText, theme::paper);
     palette.setColor(QPalette::Link, theme::deepBlue);
-    palette.setColor(QPalette::PlaceholderText, theme::quietInk);
+    palette.setColor(QPalette::PlaceholderText, quietInk);
     palette.setColor(QPalette::ToolTipBase, theme::paper);
     palette.setColor(QPalette::ToolTipText, theme::ink);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, theme::quietInk);
+        palette.setColor(QPalette::Disabled, role, quietInk);
     return palette;
 }
 
@@ -62,16 +73,37 @@ void drawFocusEdge(QPainter& painter, const QRect& place) {
     painter.restore();
 }
 
+/// The box of Fusion has an edge too pale to be found.
+void drawTickBox(QPainter& painter, const QStyleOption& option) {
+    const bool isOn = option.state & QStyle::State_On;
+    const bool stands = isOn || option.state & QStyle::State_MouseOver;
+    const QRectF box = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(stands ? theme::deepBlue : option.palette.color(QPalette::Mid));
+    painter.setBrush(isOn ? theme::deepBlue : theme::paper);
+    painter.drawRoundedRect(box, 2, 2);
+    if (isOn) {
+        const auto at = [&box](double x, double y) {
+            return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
+        };
+        painter.setPen(QPen(theme::paper, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPolyline(QPolygonF{at(0.22, 0.52), at(0.42, 0.72), at(0.78, 0.3)});
+    }
+    painter.restore();
+}
+
 /// Fusion, light whatever colours the desktop asks for, with flat signs in its message boxes.
 class FlatStyle : public QProxyStyle {
 public:
-    FlatStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+    explicit FlatStyle(QPalette colours)
+        : QProxyStyle(QStringLiteral("Fusion")), m_colours(std::move(colours)) {}
 
     using QProxyStyle::polish;
-    void polish(QPalette& palette) override { palette = lightPalette(); }
+    void polish(QPalette& palette) override { palette = m_colours; }
     void polish(QWidget* widget) override {
         QProxyStyle::polish(widget);
-        if (widget->isWindow()) widget->setPalette(lightPalette());
+        if (widget->isWindow()) widget->setPalette(m_colours);
     }
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -79,6 +111,7 @@ public:
         const auto* button = qobject_cast<const QAbstractButton*>(widget);
         if (element == PE_FrameFocusRect && button && button->isCheckable())
             return drawFocusEdge(*painter, option->rect);
+        if (element == PE_IndicatorCheckBox) return drawTickBox(*painter, *option);
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
 
@@ -86,7 +119,7 @@ public:
                             QPainter* painter, const QWidget* widget) const override {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
         if (control == CC_ComboBox && option->state & State_HasFocus)
-            drawFocusEdge(*painter, option->rect);
+            drawFocusEdge(*painter, option->rect.adjusted(2, 2, -2, -2));  // on blue ground too
     }
 
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
@@ -102,65 +135,101 @@ public:
                 return QProxyStyle::standardIcon(icon, option, widget);
         }
     }
+
+private:
+    QPalette m_colours;
 };
 
+/// The names of colours stand for their values.
 constexpr auto flatLook = R"(
-QLineEdit { background: #ffffff; border: 1px solid #b9c5de; border-radius: 4px; padding: 0 8px; }
-QLineEdit:focus { border: 2px solid #003399; padding: 0 7px; }
+QLineEdit { background: @paper; border: 1px solid @outline; border-radius: 4px; padding: 0 8px; }
+QLineEdit:focus { border: 2px solid @deepBlue; padding: 0 7px; }
 QFileDialog QLineEdit { min-height: 22px; }
 
-QListView { background: #ffffff; border: 1px solid #b9c5de; border-radius: 4px; padding: 2px; }
-QListView:focus { border: 2px solid #003399; padding: 1px; }
-QListWidget::item { padding: 6px 8px; border-bottom: 1px solid #e4e9f3; color: #1b253b; }
+QListView { background: @paper; border: 1px solid @outline; border-radius: 4px; padding: 2px; }
+QListView:focus { border: 2px solid @deepBlue; padding: 1px; }
+QListWidget::item { padding: 6px 8px; border-bottom: 1px solid @hairline; color: @ink; }
 QListWidget::item:selected {
-    background: #e3ebfb; border-left: 4px solid #003399; padding-left: 4px;
+    background: @selection; border-left: 4px solid @deepBlue; padding-left: 4px;
 }
 
 QPushButton {
-    background: #ffffff; color: #003399; border: 1px solid #b9c5de; border-radius: 4px;
+    background: @paper; color: @deepBlue; border: 1px solid @outline; border-radius: 4px;
     padding: 3px;
 }
-QPushButton:hover { background: #f3f6fc; border-color: #003399; }
-QPushButton:pressed { background: #e3ebfb; }
-QPushButton:focus { border: 2px solid #003399; padding: 2px; }
-QPushButton:default { background: #003399; color: #ffffff; border-color: #003399; }
+QPushButton:hover { background: @sideGround; border-color: @deepBlue; }
+QPushButton:pressed { background: @selection; }
+QPushButton:focus { border: 2px solid @deepBlue; padding: 2px; }
+QPushButton:default { background: @deepBlue; color: @paper; border-color: @deepBlue; }
 QPushButton:default:hover { background: #0b409f; }
-QPushButton:default:focus { border: 2px solid #8fb0f0; }
-QPushButton:disabled { color: #5a6680; background: #f3f6fc; border-color: #e4e9f3; }
+QPushButton:default:focus, #frmEdit QLineEdit:focus, #frmReportType QLineEdit:focus,
+#frmReportType #cmdBrowse:focus { border: 2px solid #8fb0f0; }
+QPushButton:disabled { color: @quietInk; background: @sideGround; border-color: @hairline; }
 QMessageBox QPushButton, QFileDialog QPushButton, QPrintPreviewDialog QPushButton {
     min-width: 72px; min-height: 22px;
 }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 
 QRadioButton::indicator {
-    width: 14px; height: 14px; border: 1px solid #8fa3c8; border-radius: 8px; background: #ffffff;
+    width: 14px; height: 14px; border: 1px solid @outline; border-radius: 8px; background: @paper;
 }
-QRadioButton::indicator:hover { border-color: #003399; }
-QRadioButton::indicator:checked { width: 6px; height: 6px; border: 5px solid #003399; }
+QRadioButton::indicator:hover { border-color: @deepBlue; }
+QRadioButton::indicator:checked { width: 6px; height: 6px; border: 5px solid @deepBlue; }
 
-QToolTip { background: #ffffff; color: #1b253b; border: 1px solid #b9c5de; padding: 4px; }
+QToolTip { background: @paper; color: @ink; border: 1px solid @outline; padding: 4px; }
 
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; }
-QScrollBar::handle { background: #b9c5de; border-radius: 4px; margin: 2px; }
+QScrollBar::handle { background: @outline; border-radius: 4px; margin: 2px; }
 QScrollBar::handle:vertical { min-height: 32px; }
 QScrollBar::handle:horizontal { min-width: 32px; }
-QScrollBar::handle:hover { background: #8fa3c8; }
+QScrollBar::handle:hover { background: @outline; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )";
 
+QString sheetFor(const QPalette& colours) {
+    QString sheet = QString::fromLatin1(flatLook);
+    for (const auto& [name, colour] :
+         {std::pair("@paper", theme::paper), std::pair("@ink", theme::ink),
+          std::pair("@deepBlue", theme::deepBlue), std::pair("@sideGround", theme::sideGround),
+          std::pair("@selection", theme::selection),
+          std::pair("@quietInk", colours.color(QPalette::PlaceholderText)),
+          std::pair("@outline", colours.color(QPalette::Mid)),
+          std::pair("@hairline", colours.color(QPalette::Midlight))})
+        sheet.replace(QLatin1String(name), colour.name());
+    return sheet;
+}
+
+/// How much light a colour gives, from 0 to 1, as WCAG 2 has it.
+double luminanceOf(const QColor& colour) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
 }  // namespace
 
+bool asksForContrast(const QPalette& desktop) {
+    const double text = luminanceOf(desktop.color(QPalette::WindowText));
+    const double ground = luminanceOf(desktop.color(QPalette::Window));
+    const auto [darker, lighter] = std::minmax(text, ground);
+    constexpr double most = 19;  // the usual light and dark desktops keep below 18.5
+    return (lighter + 0.05) / (darker + 0.05) >= most;
+}
+
 void dressApplication(QApplication& application) {
+    const QPalette colours = lightPalette(QApplication::palette());
     // Else a widget under a style sheet takes its colours from the application, not its window.
     QApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles);
-    QApplication::setStyle(new FlatStyle);
-    QApplication::setPalette(lightPalette());
+    QApplication::setStyle(new FlatStyle(colours));
+    QApplication::setPalette(colours);
     QFont font(QStringList{QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans")});
     font.setPointSizeF(9);
     QApplication::setFont(font);
-    application.setStyleSheet(QString::fromLatin1(flatLook));
+    application.setStyleSheet(sheetFor(colours));
     QApplication::setWindowIcon(pictureIcon(QStringLiteral("logo")));
 }
 

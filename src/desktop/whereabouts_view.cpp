@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "desktop/art.h"
-#include "desktop/theme.h"
 
 namespace orvanta::desktop {
 
@@ -54,7 +53,7 @@ void WhereaboutsView::look() {
 
 void WhereaboutsView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setPen(theme::quietInk);
+    painter.setPen(palette().color(QPalette::PlaceholderText));
     int right = width();
     for (auto kind = statementKinds.rbegin(); kind != statementKinds.rend(); ++kind)
         right = drawCount(painter, right, *kind) - groupGap;

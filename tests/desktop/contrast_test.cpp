@@ -4,11 +4,13 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QStyleOptionButton>
 #include <QtTest>
 
 #include "desktop/dialogs.h"
 #include "desktop/message_box.h"
 #include "desktop/statement_list_view.h"
+#include "desktop/theme.h"
 #include "painted_contrast.h"
 #include "window_bench.h"
 
@@ -100,11 +102,58 @@ protected:
     const QColor green{0, 120, 60}, red{200, 0, 0};
 };
 
-std::vector<DesktopColours> desktopColours() {
-    return {{"Light", paletteOf(QColor(0xef, 0xef, 0xef), Qt::black, QColor(0x30, 0x8c, 0xc6))},
-            {"Dark", paletteOf(QColor(0x2a, 0x2e, 0x32), Qt::white, QColor(0x3d, 0xae, 0xe9))},
-            {"HighContrast", paletteOf(Qt::black, Qt::yellow, Qt::cyan)}};
-}
+const DesktopColours light{
+    "Light", paletteOf(QColor(0xef, 0xef, 0xef), Qt::black, QColor(0x30, 0x8c, 0xc6))};
+const DesktopColours dark{
+    "Dark", paletteOf(QColor(0x2a, 0x2e, 0x32), Qt::white, QColor(0x3d, 0xae, 0xe9))};
+const DesktopColours highContrast{"HighContrast", paletteOf(Qt::black, Qt::yellow, Qt::cyan)};
+
+std::vector<DesktopColours> desktopColours() { return {light, dark, highContrast}; }
+
+/// The program as it comes up on such a desktop.
+class Edges : public Legibility {
+protected:
+    Edges() {
+        dressApplication(*qApp);
+        bench.start();
+        bench.window().show();
+    }
+    ~Edges() override {
+        QApplication::setPalette(light.palette);
+        dressApplication(*qApp);
+    }
+
+    /// The contrast of the left edge of a part of a control with the paper beside it.
+    double edgeContrast(const std::string& control, const QRect& part) {
+        const QImage painted = paintedAs(bench.widget(control), part);
+        return contrast(painted.pixelColor(0, painted.height() / 2), theme::paper);
+    }
+    double edgeContrast(const std::string& control) {
+        return edgeContrast(control, bench.widget(control).rect());
+    }
+    double indicatorContrast(const std::string& control, QStyle::SubElement indicator) {
+        const QWidget& button = bench.widget(control);
+        QStyleOptionButton option;
+        option.initFrom(&button);
+        return edgeContrast(control, button.style()->subElementRect(indicator, &option, &button));
+    }
+
+    void expectEdges(double least) {
+        QCoreApplication::processEvents();
+        EXPECT_GE(indicatorContrast("chkMute", QStyle::SE_CheckBoxIndicator), least);
+        bench.click("Brainstorm");
+        EXPECT_GE(indicatorContrast("optMP", QStyle::SE_RadioButtonIndicator), least);
+        bench.openBrainstorm();
+        bench.widget("cmdUndo").setFocus();
+        QCoreApplication::processEvents();
+        EXPECT_GE(edgeContrast("txtStrength"), least);
+        EXPECT_GE(edgeContrast("lvBStrength"), least);
+    }
+
+    WindowBench<> bench;
+};
+class UsualDesktop : public Edges {};
+class HighContrastDesktop : public Edges {};
 
 }  // namespace
 
@@ -198,8 +247,21 @@ TEST_P(Legibility, HoldsForEveryTextOfTheDialogs) {
     }
 }
 
+TEST_P(UsualDesktop, ShowsTheEdgesOfControls) { expectEdges(outstanding); }
+
+TEST_P(HighContrastDesktop, GetsStrongEdges) { expectEdges(7); }
+
+TEST_P(HighContrastDesktop, GetsNoFaintTexts) {
+    bench.click("Brainstorm");
+    QCoreApplication::processEvents();
+    EXPECT_GE(writtenContrast(paintedAs(bench.widget("lblWhereabouts"))), 12);
+}
+
 const auto nameOfColours = [](const auto& info) { return info.param.name; };
 INSTANTIATE_TEST_SUITE_P(On, LegibleRows, testing::ValuesIn(desktopColours()), nameOfColours);
 INSTANTIATE_TEST_SUITE_P(On, Legibility, testing::ValuesIn(desktopColours()), nameOfColours);
+
+INSTANTIATE_TEST_SUITE_P(On, UsualDesktop, testing::Values(light, dark), nameOfColours);
+INSTANTIATE_TEST_SUITE_P(On, HighContrastDesktop, testing::Values(highContrast), nameOfColours);
 
 }  // namespace orvanta::test
