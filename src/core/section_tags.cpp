@@ -28,4 +28,12 @@ std::optional<SectionTag> tagOf(std::string_view trimmedLine, std::span<const Se
     return SectionTag{*section, opens};
 }
 
+std::optional<Section> OpenSection::takeLine(std::string_view trimmedLine,
+                                             std::span<const Section> known) {
+    const auto tag = tagOf(trimmedLine, known);
+    if (!tag) return m_open;
+    take(*tag);
+    return std::nullopt;
+}
+
 }  // namespace orvanta

@@ -41,6 +41,8 @@ public:
         else if (!m_open)
             m_open = tag.section;
     }
+    /// Takes a trimmed line of a format; the section that it is data of, if it is data of one.
+    std::optional<Section> takeLine(std::string_view trimmedLine, std::span<const Section> known);
     std::optional<Section> section() const { return m_open; }
 
 private:

@@ -90,9 +90,7 @@ public:
 
     void take(std::string_view line) {
         const std::string_view trimmed = trimBlanks(line);
-        if (const auto tag = tagOf(trimmed, knownSections))
-            m_open.take(*tag);
-        else if (const auto section = m_open.section())
+        if (const auto section = m_open.takeLine(trimmed, knownSections))
             takeData(*section, line, trimmed);
     }
 

@@ -39,12 +39,9 @@ void takeData(Merged& merged, Section section, std::string_view line) {
 void readSource(std::string_view bytes, Merged& merged) {
     OpenSection open;
     LineSource lines(bytes);
-    while (const auto line = lines.next()) {
-        if (const auto tag = tagOf(trimBlanks(*line), knownSections))
-            open.take(*tag);
-        else if (const auto section = open.section())
+    while (const auto line = lines.next())
+        if (const auto section = open.takeLine(trimBlanks(*line), knownSections))
             takeData(merged, *section, *line);
-    }
 }
 
 std::string bytesOf(const Merged& merged) {

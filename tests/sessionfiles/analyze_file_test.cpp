@@ -4,14 +4,10 @@
 
 #include "analyze/list_marks.h"
 #include "bench.h"
+#include "full_analysis.h"
 
 namespace orvanta::test {
 namespace {
-
-/// A row line of an analyze file.
-std::string line(const std::string& key, const std::string& label, const std::string& text) {
-    return key + "<!-SWOT-!>" + label + "<!-SWOT-!>" + text;
-}
 
 class AnalyzeFile : public ::testing::Test {
 protected:
@@ -25,45 +21,20 @@ protected:
     Bench bench;
 };
 
-const Texts smallAnalysis{"<MODULE>",
-                          "MP",
-                          "</MODULE>",
-                          "<STRENGTH>",
-                          line("S2", "[Dana Reyes]: ", "Loyal customers"),
-                          line("S1", "[Lee Park]: ", "Strong brand"),
-                          "</STRENGTH>",
-                          "<WEAKNESS>",
-                          line("W1", "", "Slow delivery"),
-                          "</WEAKNESS>",
-                          "<OPPORTUNITY>",
-                          line("O1", "[Lee Park]: ", "New market"),
-                          "</OPPORTUNITY>",
-                          "<THREATS>",
-                          line("T1", "[Dana Reyes]: ", "New competitor"),
-                          "</THREATS>",
-                          "<OPPORTUNITYMAPPING>",
-                          line("O1", "[Lee Park]: ", "New market"),
-                          line("O1-S2", "[Dana Reyes]: ", "Loyal customers"),
-                          line("O1-W1", "", "Slow delivery"),
-                          "</OPPORTUNITYMAPPING>",
-                          "<THREATMAPPING>",
-                          line("T1", "[Dana Reyes]: ", "New competitor"),
-                          "</THREATMAPPING>"};
-
 TEST_F(AnalyzeFile, ComesBackByteForByteWhenItIsReadAndWritten) {
-    read(smallAnalysis);
-    EXPECT_EQ(analyzeBytes(bench.form(), false), lines(smallAnalysis));
+    read(fullAnalysis);
+    EXPECT_EQ(analyzeBytes(bench.form(), false), lines(fullAnalysis));
 }
 
 TEST_F(AnalyzeFile, TellsTheStepInItsTemporaryFormAlone) {
-    read(smallAnalysis);
+    read(fullAnalysis);
     bench.form().fraAnalyzeOpportunity.show();
     EXPECT_EQ(analyzeBytes(bench.form(), true),
-              lines({"<STEP>", "AO", "</STEP>"}) + lines(smallAnalysis));
+              lines({"<STEP>", "AO", "</STEP>"}) + lines(fullAnalysis));
 }
 
 TEST_F(AnalyzeFile, FillsThePickingListsInStep) {
-    read(smallAnalysis);
+    read(fullAnalysis);
     for (const char* list : {"lvAStrength", "lvStrengthOp", "lvStrengthTh"})
         EXPECT_EQ(bench.rows(list), (ShownRows{{"S2", "Loyal customers"}, {"S1", "Strong brand"}}));
     for (const char* list : {"lvAWeakness", "lvWeaknessOp", "lvWeaknessTh"})
@@ -71,7 +42,7 @@ TEST_F(AnalyzeFile, FillsThePickingListsInStep) {
 }
 
 TEST_F(AnalyzeFile, MarksItsMappedRows) {
-    read(smallAnalysis);
+    read(fullAnalysis);
     const StatementList& list = bench.list("lvOpportunity");
     EXPECT_EQ(list.row(1).image, 3);
     EXPECT_EQ(list.row(1).indent, 0);
@@ -84,55 +55,56 @@ TEST_F(AnalyzeFile, MarksItsMappedRows) {
 }
 
 TEST_F(AnalyzeFile, DropsARowWhoseTextHoldsTheDelimiter) {
-    read({"<STRENGTH>", line("S1", "", "a<!-SWOT-!>b"), line("S2", "", "kept"), "S3<!-SWOT-!>few",
-          "</STRENGTH>"});
+    read({"<STRENGTH>", rowLine("S1", "", "a<!-SWOT-!>b"), rowLine("S2", "", "kept"),
+          "S3<!-SWOT-!>few", "</STRENGTH>"});
     EXPECT_EQ(bench.rows("lvAStrength"), (ShownRows{{"S2", "kept"}}));
 }
 
 TEST_F(AnalyzeFile, NumbersTopRowsWithoutAKeyByTheirPlaceAmongTopRows) {
-    read({"<OPPORTUNITYMAPPING>", line("", "", "first"), line("X-S1", "", "mapped"),
-          line("  ", "", "second"), "</OPPORTUNITYMAPPING>", "<THREATMAPPING>", line("", "", "one"),
-          "</THREATMAPPING>"});
+    read({"<OPPORTUNITYMAPPING>", rowLine("", "", "first"), rowLine("X-S1", "", "mapped"),
+          rowLine("  ", "", "second"), "</OPPORTUNITYMAPPING>", "<THREATMAPPING>",
+          rowLine("", "", "one"), "</THREATMAPPING>"});
     EXPECT_EQ(bench.rows("lvOpportunity"),
               (ShownRows{{"O1", "first"}, {"X-S1", "mapped"}, {"O2", "second"}}));
     EXPECT_EQ(bench.rows("lvThreat"), (ShownRows{{"T1", "one"}}));
 }
 
 TEST_F(AnalyzeFile, TakesAKeyOfThreePartsForATopRow) {
-    read({"<OPPORTUNITYMAPPING>", line("O1-S1-S2", "", "odd"), "</OPPORTUNITYMAPPING>"});
+    read({"<OPPORTUNITYMAPPING>", rowLine("O1-S1-S2", "", "odd"), "</OPPORTUNITYMAPPING>"});
     EXPECT_EQ(bench.list("lvOpportunity").row(1).image, 3);
 }
 
 TEST_F(AnalyzeFile, RaisesTheKeyCounterToTheHighestKeyAndNeverLowersIt) {
-    read({"<STRENGTH>", line("S1", "", "a"), line("S9", "", "b"), line("S3", "", "c"),
+    read({"<STRENGTH>", rowLine("S1", "", "a"), rowLine("S9", "", "b"), rowLine("S3", "", "c"),
           "</STRENGTH>"});
     EXPECT_EQ(getNextKey(bench.program(), "S"), "S10");
     bench.form().keyCountW = 20;
-    read({"<WEAKNESS>", line("W7", "", "a"), "</WEAKNESS>"});
+    read({"<WEAKNESS>", rowLine("W7", "", "a"), "</WEAKNESS>"});
     EXPECT_EQ(bench.form().keyCountW, 20);
 }
 
 TEST_F(AnalyzeFile, LeavesTheCounterAloneForAKeyWithoutANumber) {
-    read({"<STRENGTH>", line("Sx", "", "a"), line("", "", "b"), line("S", "", "c"),
-          line("S-4", "", "d"), line("S1e-400", "", "e"), "</STRENGTH>"});
+    read({"<STRENGTH>", rowLine("Sx", "", "a"), rowLine("", "", "b"), rowLine("S", "", "c"),
+          rowLine("S-4", "", "d"), rowLine("S1e-400", "", "e"), "</STRENGTH>"});
     EXPECT_EQ(bench.form().keyCountS, 0);
     EXPECT_EQ(bench.list("lvAStrength").count(), 5);
 }
 
 TEST_F(AnalyzeFile, RoundsAFractionAndTakesLeadingDigitsAlone) {
-    read({"<STRENGTH>", line("S2.6", "", "a"), "</STRENGTH>", "<WEAKNESS>", line("W12abc", "", "b"),
-          "</WEAKNESS>"});
+    read({"<STRENGTH>", rowLine("S2.6", "", "a"), "</STRENGTH>", "<WEAKNESS>",
+          rowLine("W12abc", "", "b"), "</WEAKNESS>"});
     EXPECT_EQ(bench.form().keyCountS, 3);
     EXPECT_EQ(bench.form().keyCountW, 12);
 }
 
 TEST_F(AnalyzeFile, WithAKeyBeyondTheCounterFails) {
-    EXPECT_THROW(read({"<STRENGTH>", line("S2147483648", "", "a"), "</STRENGTH>"}), Failure);
+    EXPECT_THROW(read({"<STRENGTH>", rowLine("S2147483648", "", "a"), "</STRENGTH>"}), Failure);
 }
 
 TEST_F(AnalyzeFile, WithAKeyTwiceInAListFailsAndKeepsTheRowsReadSoFar) {
-    EXPECT_THROW(read({"<STRENGTH>", line("S1", "", "a"), line("S1", "", "b"), "</STRENGTH>"}),
-                 Failure);
+    EXPECT_THROW(
+        read({"<STRENGTH>", rowLine("S1", "", "a"), rowLine("S1", "", "b"), "</STRENGTH>"}),
+        Failure);
     EXPECT_EQ(bench.texts("lvAStrength"), Texts{"a"});
 }
 
@@ -145,13 +117,13 @@ TEST_F(AnalyzeFile, ShowsItsStepOnlyWhereThatIsWanted) {
 }
 
 TEST_F(AnalyzeFile, TrimsTextsAndKeepsKeysAndLabelsAsTheyStand) {
-    read({"<OPPORTUNITY>", line(" O1", " [x]: ", "  text  "), "</OPPORTUNITY>"});
+    read({"<OPPORTUNITY>", rowLine(" O1", " [x]: ", "  text  "), "</OPPORTUNITY>"});
     EXPECT_EQ(bench.rows("lvAOpportunity"), (ShownRows{{" O1", "text"}}));
     EXPECT_EQ(bench.list("lvAOpportunity").row(1).subItem, " [x]: ");
 }
 
 TEST_F(AnalyzeFile, EscapesNothing) {
-    read({"<STRENGTH>", line("S1", "", "a < b &lt; c"), "</STRENGTH>"});
+    read({"<STRENGTH>", rowLine("S1", "", "a < b &lt; c"), "</STRENGTH>"});
     EXPECT_EQ(bench.texts("lvAStrength"), Texts{"a < b &lt; c"});
     EXPECT_NE(analyzeBytes(bench.form(), false).find("a < b &lt; c"), std::string::npos);
 }

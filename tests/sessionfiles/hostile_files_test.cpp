@@ -5,6 +5,7 @@
 #include "analysis_bench.h"
 #include "core/text.h"
 #include "failure_of.h"
+#include "full_analysis.h"
 #include "hostile_bytes.h"
 #include "reports/html_report.h"
 #include "saving_bench.h"
@@ -26,34 +27,7 @@ const std::string goodBrainstorm =
     brainstormFile("Dana Reyes", "MP", {"Loyal customers", "Ready in &lt; 24 hours"},
                    {"Price is > 10% above market", "Slow"}, {"New \x80 market"}, {"Strike"});
 
-std::string rowLine(const std::string& key, const std::string& label, const std::string& text) {
-    return key + "<!-SWOT-!>" + label + "<!-SWOT-!>" + text;
-}
-
-const std::string goodAnalysis = lines({"<MODULE>",
-                                        "MP",
-                                        "</MODULE>",
-                                        "<STRENGTH>",
-                                        rowLine("S2", "[Dana]: ", "Loyal"),
-                                        rowLine("S1", "", "Strong brand"),
-                                        "</STRENGTH>",
-                                        "<WEAKNESS>",
-                                        rowLine("W1", "", "Slow"),
-                                        "</WEAKNESS>",
-                                        "<OPPORTUNITY>",
-                                        rowLine("O1", "[Lee]: ", "Market"),
-                                        "</OPPORTUNITY>",
-                                        "<THREATS>",
-                                        rowLine("T1", "[Dana]: ", "Rival"),
-                                        "</THREATS>",
-                                        "<OPPORTUNITYMAPPING>",
-                                        rowLine("O1", "[Lee]: ", "Market"),
-                                        rowLine("O1-S2", "[Dana]: ", "Loyal"),
-                                        rowLine("O1-W1", "", "Slow"),
-                                        "</OPPORTUNITYMAPPING>",
-                                        "<THREATMAPPING>",
-                                        rowLine("T1", "[Dana]: ", "Rival"),
-                                        "</THREATMAPPING>"});
+const std::string goodAnalysis = lines(fullAnalysis);
 
 /// A program that is given one bad file after the other, and the good one behind each.
 class HostileFile : public testing::Test {
