@@ -14,7 +14,8 @@ namespace {
 /// "All Files (*.x)|*.x" as Qt writes it, "All Files (*.x)".
 QString filterFrom(const std::string& filter) {
     const QString whole = fromCp1252(filter);
-    const QString description = whole.section(u'|', 0, 0), pattern = whole.section(u'|', 1, 1);
+    const QString pattern = whole.section(u'|', 1, 1);
+    QString description = whole.section(u'|', 0, 0);
     if (pattern.isEmpty() || description.contains(u'(' + pattern + u')')) return description;
     return description + QStringLiteral(" (") + pattern + u')';
 }
@@ -50,7 +51,8 @@ QLineEdit* FileChooser::nameBox() const {
 void FileChooser::accept() {
     m_typed = nameBox()->text();
     if (m_typed.isEmpty()) return QFileDialog::accept();  // a folder is selected: opens it
-    QDialog::accept();
+    // QFileDialog would judge the name by rules of its own.
+    QDialog::accept();  // NOLINT(bugprone-parent-virtual-call)
 }
 
 }  // namespace orvanta::desktop

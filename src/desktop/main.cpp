@@ -16,9 +16,9 @@ namespace {
 
 /// The program's own folder where it can be written, else one of the user's.
 QString scratchPath() {
-    const QString beside = QCoreApplication::applicationDirPath();
+    QString beside = QCoreApplication::applicationDirPath();
     if (QFileInfo(beside).isWritable()) return beside;
-    const QString own = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    QString own = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
     QDir().mkpath(own);
     return own;
 }

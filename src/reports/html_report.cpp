@@ -13,10 +13,10 @@ constexpr std::string_view head[] = {
     "<tr bgcolor='#003399'><td width='50%' height='30' bgcolor='#003399'>",
     "<strong><font color='#FFFFFF' face='Verdana, Arial, Helvetica, sans-serif'>",
     "Opportunity / Threat<br>&nbsp;&nbsp;&nbsp;&nbsp;+Strength / -Weakness</font></strong></td>",
-    "<td width='10%' height='30'><strong><font color='#FFFFFF' face='Verdana, Arial, Helvetica, "
-    "sans-serif'>Priority</font></strong></td>",
-    "<td width='40%' height='30'><strong><font color='#FFFFFF' face='Verdana, Arial, Helvetica, "
-    "sans-serif'>",
+    ("<td width='10%' height='30'><strong><font color='#FFFFFF' face='Verdana, Arial, Helvetica, "
+     "sans-serif'>Priority</font></strong></td>"),
+    ("<td width='40%' height='30'><strong><font color='#FFFFFF' face='Verdana, Arial, Helvetica, "
+     "sans-serif'>"),
     "Actions to Address</font></strong></td></tr>"};
 
 class Page {

@@ -9,13 +9,15 @@ WordObject& WordRef::object() const {
     return *m_object;
 }
 
-WordRef WordRef::get(std::string_view member, WordArguments arguments) const {
+WordRef WordRef::get(std::string_view member, const WordArguments& arguments) const {
     return WordRef(object().get(member, arguments));
 }
 
-void WordRef::put(std::string_view member, WordValue value) const { object().put(member, value); }
+void WordRef::put(std::string_view member, const WordValue& value) const {
+    object().put(member, value);
+}
 
-void WordRef::call(std::string_view member, WordArguments arguments) const {
+void WordRef::call(std::string_view member, const WordArguments& arguments) const {
     object().call(member, arguments);
 }
 

@@ -43,11 +43,11 @@ public:
     WordRef() = default;
     explicit WordRef(WordObjectPtr object) : m_object(std::move(object)) {}
 
-    WordRef get(std::string_view member, WordArguments arguments = {}) const;
+    WordRef get(std::string_view member, const WordArguments& arguments = {}) const;
     /// An item of a collection, by number from 1 or by name.
     WordRef item(WordValue which) const { return get("Item", {std::move(which)}); }
-    void put(std::string_view member, WordValue value) const;
-    void call(std::string_view member, WordArguments arguments = {}) const;
+    void put(std::string_view member, const WordValue& value) const;
+    void call(std::string_view member, const WordArguments& arguments = {}) const;
 
     WordValue value() const { return m_object; }
 

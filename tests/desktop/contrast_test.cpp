@@ -104,8 +104,8 @@ protected:
 
 const DesktopColours light{
     "Light", paletteOf(QColor(0xef, 0xef, 0xef), Qt::black, QColor(0x30, 0x8c, 0xc6))};
-const DesktopColours dark{
-    "Dark", paletteOf(QColor(0x2a, 0x2e, 0x32), Qt::white, QColor(0x3d, 0xae, 0xe9))};
+const DesktopColours dark{"Dark",
+                          paletteOf(QColor(0x2a, 0x2e, 0x32), Qt::white, QColor(0x3d, 0xae, 0xe9))};
 const DesktopColours highContrast{"HighContrast", paletteOf(Qt::black, Qt::yellow, Qt::cyan)};
 
 std::vector<DesktopColours> desktopColours() { return {light, dark, highContrast}; }
