@@ -3,6 +3,7 @@
 #include <QRect>
 #include <QWidget>
 #include <ostream>
+#include <stdexcept>
 
 #include "analysis_bench.h"
 #include "desktop/conversions.h"
@@ -27,7 +28,7 @@ public:
     template <class Widget = QWidget>
     Widget& widget(const std::string& name) {
         auto* found = m_window.findChild<QWidget*>(desktop::fromCp1252(name));
-        return *dynamic_cast<Widget*>(found);
+        return dynamic_cast<Widget&>(found ? *found : throw std::out_of_range(name));
     }
 
 private:
