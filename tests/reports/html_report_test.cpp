@@ -40,7 +40,7 @@ std::string analysisOf(const Mapped& opportunities, const Mapped& threats) {
     const auto section = [&](const std::string& word, const Mapped& rows) {
         file.push_back("<" + word + ">");
         for (const auto& [key, text] : rows)
-            file.push_back(key + "<!-SWOT-!>[Ann]: <!-SWOT-!>" + text);
+            file.emplace_back(key).append("<!-SWOT-!>[Ann]: <!-SWOT-!>").append(text);
         file.push_back("</" + word + ">");
     };
     section("OPPORTUNITYMAPPING", opportunities);

@@ -32,6 +32,7 @@ std::string contentOf(const std::filesystem::path& path) {
     ::setenv("XDG_RUNTIME_DIR", home.c_str(), 1);
     ::setenv("LC_ALL", "C.UTF-8", 1);
     std::vector<char*> words;
+    words.reserve(command.size() + 1);
     for (const std::string& word : command) words.push_back(const_cast<char*>(word.c_str()));
     words.push_back(nullptr);
     ::execv(words[0], words.data());
@@ -87,7 +88,7 @@ void DriverProcess::send(const std::string& line) {
 std::string DriverProcess::receive() {
     std::size_t end;
     while ((end = m_unread.find('\n')) == std::string::npos) readMore();
-    const std::string line = m_unread.substr(0, end);
+    std::string line = m_unread.substr(0, end);
     m_unread.erase(0, end + 1);
     return line;
 }

@@ -90,7 +90,7 @@ public:
         if (line.contains("file")) return file(line["file"].get<std::string>());
         if (line.contains("remove")) return remove(line["remove"].get<std::string>());
         if (line.contains("restart")) return restart();
-        const Json answer = ask(line);
+        Json answer = ask(line);
         if (hasExited(answer)) {
             m_driver->finish(0);
             m_driver.reset();
