@@ -63,6 +63,9 @@ Block blockOf(int number, const std::string& question, double width, const Paper
     Block block{QStringLiteral("%1.").arg(number), {}};
     const QString text = fromCp1252(question);
     QTextLayout layout(text, grid.onDevice(PaperGrid::questionFont()));
+    QTextOption anyBreak;
+    anyBreak.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);  // a word may be too long
+    layout.setTextOption(anyBreak);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
