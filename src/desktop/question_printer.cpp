@@ -4,11 +4,13 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QLocale>
+#include <QPageRanges>
 #include <QPainter>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QToolBar>
+#include <utility>
 
 #include "desktop/conversions.h"
 #include "desktop/question_sheet_pages.h"
@@ -49,6 +51,11 @@ void nameBoxes(QPrintPreviewDialog& preview) {
     }
 }
 
+/// False for a page, from 1, that the person has left out in the print dialog.
+bool isWanted(const QPrinter& printer, int page) {
+    return printer.printRange() != QPrinter::PageRange || printer.pageRanges().contains(page);
+}
+
 }  // namespace
 
 void printQuestionSheets(QPrinter& printer, const QuestionSheets& sheets) {
@@ -56,8 +63,10 @@ void printQuestionSheets(QPrinter& printer, const QuestionSheets& sheets) {
     if (!painter.isActive()) return;
     const QSizeF printable = printer.pageRect(QPrinter::DevicePixel).size();
     const std::vector<SheetPage> pages = sheetPages(sheets, printable, printer);
+    bool isFirst = true;
     for (std::size_t page = 0; page < pages.size(); ++page) {
-        if (page > 0) printer.newPage();
+        if (!isWanted(printer, static_cast<int>(page) + 1)) continue;
+        if (!std::exchange(isFirst, false)) printer.newPage();
         paintSheetPage(painter, sheets, pages, page, printable);
     }
 }

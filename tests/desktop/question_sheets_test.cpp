@@ -74,6 +74,20 @@ TEST_P(Paper, HoldsEachLineAboveItsFoot) {
         for (const SheetLine& line : page.lines) EXPECT_LT(line.bottom, size.height() - 50);
 }
 
+TEST(QuestionSheetPages, BreakAWordWiderThanThePage) {
+    const std::string word(400, 'x');
+    const std::vector<SheetPage> pages = pagesOf(sheetsWith(1, word));
+    std::string all;
+    int texts = 0;
+    for (const SheetLine& line : pages.front().lines)
+        if (!line.text.isEmpty()) {
+            all += line.text.toStdString();
+            ++texts;
+        }
+    EXPECT_EQ(all, "S1:" + word);
+    EXPECT_GT(texts, 3);
+}
+
 TEST(QuestionSheetPages, ShowEachQuestionOnceInTheOrderOfTheBank) {
     std::vector<QString> shown, expected;
     for (const SheetPage& page : pagesOf(sheetsWith(9)))
@@ -118,24 +132,46 @@ TEST(QuestionSheetPages, PaintInsideThePaperAndLeaveNoPageBlank) {
     }
 }
 
-TEST(QuestionSheetPdf, HoldsTheModuleTheKindsTheQuestionsAndThePageNumbers) {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("sheets.pdf"));
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(path);
-    printer.setPageSize(QPageSize(QPageSize::A4));
-    printQuestionSheets(printer, sheetsWith(8));
-    QProcess reader;
-    reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, "-"});
-    ASSERT_TRUE(reader.waitForFinished()) << "pdftotext is needed";
-    const QString text = QString::fromUtf8(reader.readAllStandardOutput());
+class QuestionSheetPdf : public testing::Test {
+protected:
+    QuestionSheetPdf() {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(m_path);
+        printer.setPageSize(QPageSize(QPageSize::A4));
+    }
+
+    QString printed(const QuestionSheets& sheets) {
+        printQuestionSheets(printer, sheets);
+        QProcess reader;
+        reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), m_path, "-"});
+        EXPECT_TRUE(reader.waitForFinished()) << "pdftotext is needed";
+        return QString::fromUtf8(reader.readAllStandardOutput());
+    }
+
+    QPrinter printer{QPrinter::HighResolution};
+
+private:
+    QTemporaryDir m_folder;
+    QString m_path = m_folder.filePath(QStringLiteral("sheets.pdf"));
+};
+
+TEST_F(QuestionSheetPdf, HoldsTheModuleTheKindsTheQuestionsAndThePageNumbers) {
+    const QString text = printed(sheetsWith(8));
     const auto pages = text.count('\f');
     EXPECT_GE(pages, 4);
     for (const char* expected : {"Marketing", "Strengths", "Threats", "Name", "Date",
                                  "S1: What do we do well?", "T8: What do we do well?"})
         EXPECT_TRUE(text.contains(QLatin1String(expected))) << expected;
     EXPECT_TRUE(text.contains(QStringLiteral("page %1 of %1").arg(pages)));
+}
+
+TEST_F(QuestionSheetPdf, HoldsThePagesThatWereAskedFor) {
+    printer.setPrintRange(QPrinter::PageRange);
+    printer.setFromTo(2, 3);
+    const QString text = printed(sheetsWith(1));
+    EXPECT_EQ(text.count('\f'), 2);
+    EXPECT_TRUE(text.contains(QStringLiteral("page 2 of 4"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("page 3 of 4"))) << text.toStdString();
 }
 
 }  // namespace orvanta::test
