@@ -1,0 +1,74 @@
+#include <gtest/gtest.h>
+
+#include <QtTest>
+
+#include "window_bench.h"
+
+namespace orvanta::test {
+
+namespace {
+
+/// The button "Brainstorm" of the real window, pressed at a place of the screen.
+class SkinnedButtonView : public testing::Test {
+protected:
+    SkinnedButtonView() { bench.start(); }
+
+    /// What a person hits in the middle of the button.
+    QWidget& hit() {
+        QWidget& picture = bench.widget("imgBtnBrainstorm");
+        return *bench.window().childAt(picture.mapTo(&bench.window(), picture.rect().center()));
+    }
+    Art art() { return bench.form().buttons[Button::Brainstorm].image.art(); }
+    bool hasActed() { return bench.form().fraBrainstorm.isVisible(); }
+
+    WindowBench<> bench;
+};
+
+}  // namespace
+
+TEST_F(SkinnedButtonView, IsHitOnItsCaption) {
+    EXPECT_EQ(hit().objectName(), QStringLiteral("lblBtnBrainstorm"));
+}
+
+TEST_F(SkinnedButtonView, IsPressedAndLetGoOnItsCaption) {
+    QTest::mousePress(&hit(), Qt::LeftButton);
+    EXPECT_EQ(art(), Art::LargeDown);
+    EXPECT_FALSE(hasActed());
+    QTest::mouseRelease(&hit(), Qt::LeftButton);
+    EXPECT_EQ(art(), Art::LargeNormal);
+    EXPECT_TRUE(hasActed());
+}
+
+TEST_F(SkinnedButtonView, ActsWhenItIsLetGoBesideIt) {
+    for (const char* part : {"imgBtnBrainstorm", "lblBtnBrainstorm"}) {
+        bench.form().fraBrainstorm.hide();
+        QTest::mousePress(&bench.widget(part), Qt::LeftButton);
+        QTest::mouseMove(&bench.widget(part), {-50, 300});
+        QTest::mouseRelease(&bench.widget(part), Qt::LeftButton, {}, {-50, 300});
+        EXPECT_TRUE(hasActed()) << part;
+        EXPECT_EQ(art(), Art::LargeNormal) << part;
+    }
+}
+
+TEST_F(SkinnedButtonView, TakesAnyButtonOfTheMouse) {
+    for (const auto mouseButton : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton})
+        for (const char* part : {"imgBtnBrainstorm", "lblBtnBrainstorm"}) {
+            bench.form().fraBrainstorm.hide();
+            QTest::mousePress(&bench.widget(part), mouseButton);
+            EXPECT_EQ(art(), Art::LargeDown) << part;
+            QTest::mouseRelease(&bench.widget(part), mouseButton);
+            EXPECT_TRUE(hasActed()) << part;
+        }
+}
+
+TEST_F(SkinnedButtonView, ActsTwiceAtADoubleClick) {
+    bench.openBrainstorm();
+    QWidget& caption = bench.widget("lblBtnBNext");
+    QTest::mouseClick(&caption, Qt::LeftButton);
+    QTest::mouseDClick(&caption, Qt::LeftButton);  // only the second press of the two
+    QTest::mouseRelease(&caption, Qt::LeftButton);
+    EXPECT_EQ(bench.form().questionStep, 3);
+    EXPECT_EQ(bench.form().buttons[Button::BNext].image.art(), Art::SmallNormal);
+}
+
+}  // namespace orvanta::test
