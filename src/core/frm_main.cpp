@@ -53,6 +53,8 @@ void placeTopLevel(FrmMain& form) {
         placeButton(form.buttons[button], nullptr, grid(16, top, largeWidth, largeHeight));
         top += 48;
     }
+    // Each module has a Quit of its own beside this one.
+    form.buttons[Button::Quit].image.accessibleName = "Quit Orvanta";
     place(form.chkMute, nullptr, grid(20, top + 8, 160, 24));
     place(form.cmdUndo, nullptr, grid(16, top + 48, 80, 36));
     place(form.cmdRedo, nullptr, grid(104, top + 48, 80, 36));

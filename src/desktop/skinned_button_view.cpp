@@ -29,7 +29,8 @@ ButtonPictureView::ButtonPictureView(SkinnedButton& model, ButtonActs acts, QWid
         m_acts.release();
     });
     const auto showName = [this, &model] {
-        setAccessibleName(shownCaption(model.label.caption()));
+        const std::string& ownName = model.image.accessibleName;
+        setAccessibleName(shownCaption(ownName.empty() ? model.label.caption() : ownName));
     };
     model.label.changed.subscribe(showName);
     showName();
