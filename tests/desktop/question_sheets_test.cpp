@@ -74,6 +74,20 @@ TEST_P(Paper, HoldsEachLineAboveItsFoot) {
         for (const SheetLine& line : page.lines) EXPECT_LT(line.bottom, size.height() - 50);
 }
 
+TEST(QuestionSheetPages, KeepTheNumberAndTheRulesOfAQuestionWithoutWords) {
+    QuestionSheets sheets = sheetsWith(3);
+    sheets.questions[0][1].clear();
+    std::string numbers;
+    int rules = 0;
+    const std::vector<SheetPage> pages = pagesOf(sheets);
+    for (const SheetLine& line : pages.front().lines) {
+        numbers += line.number.toStdString();
+        rules += line.isRule();
+    }
+    EXPECT_EQ(numbers, "1.2.3.");
+    EXPECT_EQ(rules, 15);
+}
+
 TEST(QuestionSheetPages, BreakAWordWiderThanThePage) {
     const std::string word(400, 'x');
     const std::vector<SheetPage> pages = pagesOf(sheetsWith(1, word));
