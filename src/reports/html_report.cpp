@@ -40,10 +40,9 @@ public:
         closeRow();
     }
 
-    std::string finish() {
-        writeLine({"</table>"});
-        return std::move(m_bytes);
-    }
+    void writeEnd() { writeLine({"</table>"}); }
+
+    const std::string& bytes() const { return m_bytes; }
 
 private:
     void writeLine(std::initializer_list<std::string_view> pieces) {
@@ -89,16 +88,23 @@ std::string htmlReportBytes(const ReportLists& lists) {
     Page page;
     page.writeEntries(lists.opportunityMapEntries, true);
     page.writeEntries(lists.threatMapEntries, false);
-    return page.finish();
+    page.writeEnd();
+    return page.bytes();
 }
 
 void generateHtmlReport(Program& program, const std::string& analyzeFile) {
     if (!fileExists(program, analyzeFile))
         return refuse(program.platform.messages, "File does not exists.");
-    ReportLists lists;
-    readReportSource(program.platform.disk.read(analyzeFile), ReportScope::Correlation, lists);
     const std::string page =
         program.scratchPath + pathSeparator + "System" + pathSeparator + "report.htm";
+    ReportLists lists;
+    try {
+        readReportSource(program.platform.disk.read(analyzeFile), ReportScope::Correlation, lists);
+    } catch (const Failure&) {
+        // The former page must not be taken for that of this analysis.
+        program.platform.disk.replace(page, Page().bytes());
+        throw;
+    }
     program.platform.disk.replace(page, htmlReportBytes(lists));
     program.platform.shell.open(page);
 }

@@ -173,6 +173,13 @@ TEST_F(WebPage, FailsInTheHandsOfTheDialogWhereItCanNotBeWritten) {
     EXPECT_EQ(bench.events(), Json::array());
 }
 
+TEST_F(WebPage, IsItsHeadAloneWhereTheAnalysisCanNotBeRead) {
+    bench.disk.files[page] = "former";
+    bench.disk.unreadable.emplace("docs/team.aze", ErrorNumber::PermissionDenied);
+    EXPECT_THROW(pageOf({{"O1", "A"}}, {}), Failure);
+    EXPECT_EQ(bench.disk.files[page], head);
+}
+
 TEST_F(WebPage, CountsTo32767AndNoFurther) {
     Mapped opportunities(32'767, {"O1", "A"});
     EXPECT_TRUE(pageOf(opportunities, {}).ends_with(closing(32'767) + closing(32'767) + end));
