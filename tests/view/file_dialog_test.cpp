@@ -14,7 +14,7 @@ class PreparedDialogs : public FileDialogs {
 public:
     std::optional<std::string> choose(const FileDialogRequest& request) override {
         requests.push_back(request);
-        const auto path = answers.front();
+        auto path = answers.front();
         answers.pop_front();
         return path;
     }
