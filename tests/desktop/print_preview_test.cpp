@@ -58,12 +58,15 @@ TEST_F(PrintPreview, ShowsTheSheetsUnderTheNameOfTheModule) {
 }
 
 TEST_F(PrintPreview, BeginsWithThePaperOfTheCountry) {
-    for (const auto& [country, size] :
-         {std::pair("en_US", QPageSize::Letter), std::pair("de_DE", QPageSize::A4)}) {
-        QLocale::setDefault(QLocale(QLatin1String(country)));
+    struct Country {
+        const char* name;
+        QPageSize::PageSizeId size;
+    };
+    for (const Country& country : {Country{"en_US", QPageSize::Letter}, {"de_DE", QPageSize::A4}}) {
+        QLocale::setDefault(QLocale(QLatin1String(country.name)));
         show([&](QPrintPreviewDialog& preview) {
-            EXPECT_EQ(sizeOf(preview), size) << country;
-            EXPECT_EQ(paperOf(preview).currentData().value<QPageSize::PageSizeId>(), size);
+            EXPECT_EQ(sizeOf(preview), country.size) << country.name;
+            EXPECT_EQ(paperOf(preview).currentData().value<QPageSize::PageSizeId>(), country.size);
         });
     }
 }
