@@ -102,16 +102,16 @@ private:
         return object;
     }
 
-    void put(const WordRef& object, std::string_view member, WordValue value) {
-        m_step([&] { object.put(member, std::move(value)); });
+    void put(const WordRef& object, std::string_view member, const WordValue& value) {
+        m_step([&] { object.put(member, value); });
     }
 
     void insert(const WordRef& range, std::string_view where, std::string text) {
         m_step([&] { range.call(where, {std::move(text)}); });
     }
 
-    void putFont(const WordRef& range, std::string_view member, WordValue value) {
-        m_step([&] { range.get("Font").put(member, std::move(value)); });
+    void putFont(const WordRef& range, std::string_view member, const WordValue& value) {
+        m_step([&] { range.get("Font").put(member, value); });
     }
 
     void collapse(const WordRef& range) {
@@ -189,13 +189,9 @@ private:
         });
     }
 
-    void putParagraphFormat(int rowNumber, std::string_view member, WordValue value) {
+    void putParagraphFormat(int rowNumber, std::string_view member, const WordValue& value) {
         m_step([&] {
-            row(rowNumber)
-                .get("Range")
-                .get("Paragraphs")
-                .get("Format")
-                .put(member, std::move(value));
+            row(rowNumber).get("Range").get("Paragraphs").get("Format").put(member, value);
         });
     }
 

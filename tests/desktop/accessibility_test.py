@@ -25,7 +25,7 @@ from gi.repository import Atspi, GLib  # noqa: E402
 
 warnings.simplefilter("ignore", DeprecationWarning)  # the bindings warn of themselves
 
-PATIENCE = 20  # seconds until what should come up counts as missing
+PATIENCE = 60  # seconds until what should come up counts as missing
 # What only holds others or belongs to a named control beside it; cells may be empty.
 NAMELESS = {"filler", "frame", "layered pane", "panel", "scroll bar", "separator", "split pane",
             "table cell", "tool bar", "unknown"}
