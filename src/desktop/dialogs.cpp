@@ -11,6 +11,7 @@
 
 #include "core/failures.h"
 #include "desktop/art.h"
+#include "desktop/clicks.h"
 #include "desktop/label_view.h"
 #include "desktop/mirrors.h"
 #include "desktop/theme.h"
@@ -164,7 +165,7 @@ AboutDialog::AboutDialog(Program& program, FrmAbout& form, QWidget* owner)
     putLabel(form.lblDisclaimer, *m_area, theme::ink)->setForegroundRole(QPalette::PlaceholderText);
     auto* link =
         new LinkView(form.lblSupport, LinkView::Ground::Plain, m_area->pixelGrid(), m_area);
-    connect(link, &QPushButton::clicked, [this] { openSupportPage(m_program); });
+    whenClicked(*link, [this] { openSupportPage(m_program); });
     mirrorControl(form.lblSupport, *link, *m_area);
     QPushButton* ok = makePushButton(form.cmdOK, *m_area, [this] { closeAboutBox(m_form); });
     ok->setDefault(true);

@@ -11,6 +11,7 @@
 
 #include "core/design_grid.h"
 #include "desktop/art.h"
+#include "desktop/clicks.h"
 #include "desktop/list_commands.h"
 #include "desktop/mirrors.h"
 #include "desktop/theme.h"
@@ -138,7 +139,7 @@ void MainWindow::makeOthers() {
 void MainWindow::makeLink(Label& label, LinkView::Ground ground, void (*clicked)(Program&)) {
     ControlArea& area = areaOf(label);
     auto* link = new LinkView(label, ground, pixelGrid(), &area);
-    connect(link, &QPushButton::clicked, [this, clicked] { clicked(m_program); });
+    whenClicked(*link, [this, clicked] { clicked(m_program); });
     mirrorControl(label, *link, area);
 }
 

@@ -8,6 +8,8 @@
 #include <QSignalBlocker>
 #include <utility>
 
+#include "desktop/clicks.h"
+
 namespace orvanta::desktop {
 
 namespace {
@@ -98,7 +100,7 @@ QPushButton* makePushButton(PushButton& model, ControlArea& area, std::function<
     widget->setAccessibleName(shownCaption(model.caption()));
     follow(model,
            [&model, widget, &area] { widget->setFont(area.pixelGrid().font(model.fontSize)); });
-    QObject::connect(widget, &QPushButton::clicked, widget, std::move(clicked));
+    whenClicked(*widget, std::move(clicked));
     mirrorControl(model, *widget, area);
     return widget;
 }

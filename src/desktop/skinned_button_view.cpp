@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "desktop/art.h"
+#include "desktop/clicks.h"
 #include "desktop/theme.h"
 
 namespace orvanta::desktop {
@@ -24,7 +25,7 @@ ButtonPictureView::ButtonPictureView(SkinnedButton& model, ButtonActs acts, QWid
     : QPushButton(parent), m_image(model.image), m_acts(std::move(acts)) {
     setFocusPolicy(Qt::TabFocus);
     setAutoDefault(false);
-    connect(this, &QPushButton::clicked, [this] {
+    whenClicked(*this, [this] {
         m_acts.press();
         m_acts.release();
     });

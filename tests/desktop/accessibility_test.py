@@ -2,10 +2,10 @@
 
     accessibility_test.py PROGRAM DATA_FOLDER
 
+Brings its own display and bus along, so that it neither meets nor disturbs those of a desktop.
 Walks every screen and dialog, looks for controls that have no name or none of their own, presses
 buttons through their accessible action, sets texts and reads rows. The program must end by itself
-and leave nothing on standard error, though there is no sound to be had here. Needs an
-accessibility bus and a display of its own.
+and leave nothing on standard error, though there is no sound to be had here.
 """
 
 import os
@@ -25,6 +25,7 @@ from gi.repository import Atspi, GLib  # noqa: E402
 
 warnings.simplefilter("ignore", DeprecationWarning)  # the bindings warn of themselves
 
+INSIDE = "ORVANTA_ACCESSIBILITY_TEST"
 PATIENCE = 60  # seconds until what should come up counts as missing
 # What only holds others or belongs to a named control beside it; cells may be empty.
 NAMELESS = {"filler", "frame", "layered pane", "panel", "scroll bar", "separator", "split pane",
@@ -97,8 +98,7 @@ class Program:
                            XDG_DATA_HOME=str(self.home), XDG_RUNTIME_DIR=str(self.home),
                            PATH=f"{self._opener()}:{os.environ['PATH']}",
                            PULSE_SERVER=f"unix:{self.home}/no-server",
-                           # Of what goes while this test is looking at it, Qt warns.
-                           QT_LOGGING_RULES="qt.accessibility.*=false",
+                           QT_LOGGING_RULES="qt.accessibility.*=false",  # see __exit__
                            QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
         with open(self.errors, "wb") as errors:
             self.process = subprocess.Popen([str(folder / pathlib.Path(binary).name)],
@@ -107,6 +107,8 @@ class Program:
     def __enter__(self):
         try:
             self.application = wait_for(self._on_the_bus, "the program")
+            # What this library keeps is out of date after each press.
+            self.application.set_cache_mask(Atspi.Cache.NONE)
         except BaseException:
             self.__exit__()
             raise
@@ -115,7 +117,9 @@ class Program:
     def __exit__(self, *_):
         self.process.kill()
         self.process.wait()
-        errors = self.errors.read_text()
+        # Of rows that go between two questions of this test Qt warns, in part without a category.
+        errors = [line for line in self.errors.read_text().splitlines()
+                  if not line.startswith("QAccessible")]
         expect(not errors, f"standard error says {errors}")
         shutil.rmtree(self.home)
 
@@ -369,21 +373,34 @@ def has_label(program, start):
 
 
 def press_until(program, button, reached):
-    """Presses a button until something is there; each press has to change what is shown."""
+    """Presses a button until something is there; each press has to change the line that tells
+    where the person is, which is the last to change."""
     for _ in range(100):
         if reached():
             return
-        before = told(program)
+        before = whereabouts(program)
         program.press(button)
-        wait_for(lambda: told(program) != before, f'a change after "{button}"')
+        wait_for(lambda: whereabouts(program) != before, f'a change after "{button}"')
     raise SystemExit(f'FAILED: no press of "{button}" leads on')
 
 
-def told(program):
-    return [node.get_name() for window in program.windows() for node in shown(window)]
+def whereabouts(program):
+    return next(node.get_name() for node in shown(program.window())
+                if node.get_role_name() == "label" and node.get_name().startswith("Step "))
+
+
+def on_a_desktop_of_its_own():
+    """Runs this test once more, with a bus whose socket lies in a folder of its own."""
+    with tempfile.TemporaryDirectory() as runtime:
+        environment = dict(os.environ, XDG_RUNTIME_DIR=runtime, XDG_CACHE_HOME=runtime,
+                           **{INSIDE: "1"})
+        return subprocess.run(["dbus-run-session", "--", "xvfb-run", "-a", sys.executable,
+                               *sys.argv], env=environment, check=False).returncode
 
 
 def main():
+    if INSIDE not in os.environ:
+        sys.exit(on_a_desktop_of_its_own())
     with Program(sys.argv[1], sys.argv[2]) as program:
         brainstorm(program, program.home)
         mute(program)

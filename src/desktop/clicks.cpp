@@ -1,0 +1,15 @@
+#include "desktop/clicks.h"
+
+#include <QApplication>
+#include <utility>
+
+namespace orvanta::desktop {
+
+void whenClicked(QAbstractButton& button, std::function<void()> act) {
+    QObject::connect(&button, &QAbstractButton::clicked, &button, [&button, act = std::move(act)] {
+        const QWidget* dialog = QApplication::activeModalWidget();
+        if (!dialog || dialog == button.window()) act();
+    });
+}
+
+}  // namespace orvanta::desktop
