@@ -10,7 +10,6 @@
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QToolBar>
-#include <utility>
 
 #include "desktop/conversions.h"
 #include "desktop/question_sheet_pages.h"
@@ -59,14 +58,15 @@ bool isWanted(const QPrinter& printer, int page) {
 }  // namespace
 
 void printQuestionSheets(QPrinter& printer, const QuestionSheets& sheets) {
-    QPainter painter(&printer);
-    if (!painter.isActive()) return;
     const QSizeF printable = printer.pageRect(QPrinter::DevicePixel).size();
     const std::vector<SheetPage> pages = sheetPages(sheets, printable, printer);
-    bool isFirst = true;
+    QPainter painter;  // begins with the first page, as it would print an empty one for none
     for (std::size_t page = 0; page < pages.size(); ++page) {
         if (!isWanted(printer, static_cast<int>(page) + 1)) continue;
-        if (!std::exchange(isFirst, false)) printer.newPage();
+        if (painter.isActive())
+            printer.newPage();
+        else if (!painter.begin(&printer))
+            return;
         paintSheetPage(painter, sheets, pages, page, printable);
     }
 }

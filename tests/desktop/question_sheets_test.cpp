@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QImage>
 #include <QPainter>
 #include <QPrinter>
@@ -186,6 +187,13 @@ TEST_F(QuestionSheetPdf, HoldsThePagesThatWereAskedFor) {
     EXPECT_EQ(text.count('\f'), 2);
     EXPECT_TRUE(text.contains(QStringLiteral("page 2 of 4"))) << text.toStdString();
     EXPECT_TRUE(text.contains(QStringLiteral("page 3 of 4"))) << text.toStdString();
+}
+
+TEST_F(QuestionSheetPdf, IsNotWrittenForPagesThatThereAreNot) {
+    printer.setPrintRange(QPrinter::PageRange);
+    printer.setFromTo(5, 9);
+    printQuestionSheets(printer, sheetsWith(1));
+    EXPECT_FALSE(QFile::exists(printer.outputFileName()));
 }
 
 }  // namespace orvanta::test
