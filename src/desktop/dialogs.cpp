@@ -54,11 +54,9 @@ void putBackground(ControlArea& area, const Control& footButton) {
     static_cast<DialogGround&>(area).setPicture(QStringLiteral("dialog_background"), footButton);
 }
 
-LabelView* putLabel(Label& model, ControlArea& area, const QColor& ink) {
+LabelView* putLabel(Label& model, ControlArea& area, QPalette::ColorRole ink) {
     auto* view = new LabelView(model, area.pixelGrid(), &area);
-    QPalette coloured;
-    coloured.setColor(QPalette::WindowText, ink);
-    view->setPalette(coloured);
+    view->setForegroundRole(ink);
     mirrorControl(model, *view, area);
     return view;
 }
@@ -105,7 +103,7 @@ EditDialog::EditDialog(Program& program, FrmEdit& form, QWidget* owner)
     : FormDialog(program, owner), m_form(form) {
     setObjectName(QStringLiteral("frmEdit"));
     putBackground(*m_area, form.btnOk.image);
-    putLabel(form.Label1, *m_area, theme::paper);
+    putLabel(form.Label1, *m_area, QPalette::HighlightedText);
     constexpr char enterKey = 13;
     const auto typed = [this](char character) {
         if (character == enterKey) handle(m_program, [&] { commitEdit(m_program, m_form); });
@@ -135,9 +133,9 @@ ReportDialog::ReportDialog(Program& program, FrmReportType& form, QWidget* owner
     : FormDialog(program, owner), m_form(form) {
     setObjectName(QStringLiteral("frmReportType"));
     putBackground(*m_area, form.OKButton);
-    LabelView* format = putLabel(form.Label1, *m_area, theme::paper);
-    LabelView* file = putLabel(form.Label2, *m_area, theme::paper);
-    putLabel(form.lblGenerating, *m_area, theme::paper);
+    LabelView* format = putLabel(form.Label1, *m_area, QPalette::HighlightedText);
+    LabelView* file = putLabel(form.Label2, *m_area, QPalette::HighlightedText);
+    putLabel(form.lblGenerating, *m_area, QPalette::HighlightedText);
     format->setBuddy(makeComboBox(form.cboFormat, *m_area));
     TextBoxView* box = makeTextBox(form.txtEdit, *m_area, [](char) { return true; });
     file->setBuddy(box);
@@ -159,10 +157,11 @@ AboutDialog::AboutDialog(Program& program, FrmAbout& form, QWidget* owner)
     : FormDialog(program, owner), m_form(form) {
     setObjectName(QStringLiteral("frmAbout"));
     mirrorControl(form.Image1, *new PictureView(m_area), *m_area);
-    putLabel(form.lblTitle, *m_area, theme::deepBlue);
-    putLabel(form.lblR, *m_area, theme::deepBlue);
-    for (Label* label : {&form.lblVersion, &form.Label1}) putLabel(*label, *m_area, theme::ink);
-    putLabel(form.lblDisclaimer, *m_area, theme::ink)->setForegroundRole(QPalette::PlaceholderText);
+    putLabel(form.lblTitle, *m_area, QPalette::Link);
+    putLabel(form.lblR, *m_area, QPalette::Link);
+    for (Label* label : {&form.lblVersion, &form.Label1})
+        putLabel(*label, *m_area, QPalette::WindowText);
+    putLabel(form.lblDisclaimer, *m_area, QPalette::PlaceholderText);
     auto* link =
         new LinkView(form.lblSupport, LinkView::Ground::Plain, m_area->pixelGrid(), m_area);
     whenClicked(*link, [this] { openSupportPage(m_program); });

@@ -30,8 +30,8 @@ ButtonPictureView::ButtonPictureView(SkinnedButton& model, ButtonActs acts, QWid
         m_acts.release();
     });
     const auto showName = [this, &model] {
-        const std::string& ownName = model.image.accessibleName;
-        setAccessibleName(shownCaption(ownName.empty() ? model.label.caption() : ownName));
+        if (model.image.accessibleName.empty())
+            setAccessibleName(shownCaption(model.label.caption()));
     };
     model.label.changed.subscribe(showName);
     showName();

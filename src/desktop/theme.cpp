@@ -37,16 +37,13 @@ QIcon discIcon(const QColor& disc, QChar sign) {
     return QIcon(drawn);
 }
 
-/// A colour for what is said or drawn in passing: nothing is, where more contrast is asked for.
-QColor passing(const QColor& colour, const QPalette& desktop) {
-    return asksForContrast(desktop) ? theme::ink : colour;
-}
-
 QPalette lightPalette(const QPalette& desktop) {
     QPalette palette(theme::sideGround, theme::paper);
-    const QColor quietInk = passing(theme::quietInk, desktop);
-    palette.setColor(QPalette::Mid, passing(theme::outline, desktop));
-    palette.setColor(QPalette::Midlight, passing(theme::hairline, desktop));
+    // Nothing is said or drawn in passing where more contrast is asked for.
+    const bool strong = asksForContrast(desktop);
+    const QColor quietInk = strong ? theme::ink : theme::quietInk;
+    palette.setColor(QPalette::Mid, strong ? theme::ink : theme::outline);
+    palette.setColor(QPalette::Midlight, strong ? theme::ink : theme::hairline);
     palette.setColor(QPalette::WindowText, theme::ink);
     palette.setColor(QPalette::Base, theme::paper);
     palette.setColor(QPalette::AlternateBase, theme::sideGround);
@@ -183,7 +180,6 @@ QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; }
 QScrollBar::handle { background: @outline; border-radius: 4px; margin: 2px; }
 QScrollBar::handle:vertical { min-height: 32px; }
 QScrollBar::handle:horizontal { min-width: 32px; }
-QScrollBar::handle:hover { background: @outline; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )";
@@ -212,12 +208,14 @@ double luminanceOf(const QColor& colour) {
 
 }  // namespace
 
+double contrast(const QColor& one, const QColor& other) {
+    const auto [darker, lighter] = std::minmax({luminanceOf(one), luminanceOf(other)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
 bool asksForContrast(const QPalette& desktop) {
-    const double text = luminanceOf(desktop.color(QPalette::WindowText));
-    const double ground = luminanceOf(desktop.color(QPalette::Window));
-    const auto [darker, lighter] = std::minmax(text, ground);
     constexpr double most = 19;  // the usual light and dark desktops keep below 18.5
-    return (lighter + 0.05) / (darker + 0.05) >= most;
+    return contrast(desktop.color(QPalette::WindowText), desktop.color(QPalette::Window)) >= most;
 }
 
 void dressApplication(QApplication& application) {

@@ -26,6 +26,9 @@ inline constexpr QColor dropGround{0xc9, 0xda, 0xff};
 
 }  // namespace theme
 
+/// How far two colours stand apart, from 1 to 21, as WCAG 2 has it.
+double contrast(const QColor& one, const QColor& other);
+
 /// Whether these are the colours of a desktop for people who need high contrast.
 bool asksForContrast(const QPalette& desktop);
 

@@ -2,16 +2,13 @@
 
 #include "core/failures.h"
 #include "core/messages.h"
-#include "core/modules.h"
 #include "core/text.h"
 #include "questions/narration.h"
 #include "questions/question_banks.h"
 
 namespace orvanta {
 
-namespace {
-
-QuestionSheets sheetsOf(const Program& program, const Module& module) {
+QuestionSheets questionSheetsOf(const Program& program, const Module& module) {
     QuestionBanks banks;  // a copy of its own: the wizard's questions stay as they are
     const CarryOn step;   // what can be read of a damaged bank is printed all the same
     step([&] {
@@ -29,8 +26,6 @@ QuestionSheets sheetsOf(const Program& program, const Module& module) {
     return sheets;
 }
 
-}  // namespace
-
 void printQuestions(Program& program) {
     stopNarration(program);
     const Module* module = chosenModule(program.frmMain);
@@ -38,7 +33,7 @@ void printQuestions(Program& program) {
         refuse(program.platform.messages, "Please select any SWOT analysis type.");
         return;
     }
-    program.platform.questionPrinter.print(sheetsOf(program, *module));
+    program.platform.questionPrinter.print(questionSheetsOf(program, *module));
 }
 
 }  // namespace orvanta

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "core/modules.h"
 #include "core/session_state.h"
 
 namespace orvanta {
@@ -14,6 +15,9 @@ struct QuestionSheets {
     std::string title;                                  // its name
     std::array<std::vector<std::string>, 4> questions;  // by statement kind, in bank order
 };
+
+/// The questions of a module as its bank holds them; what can't be read of the bank is missing.
+QuestionSheets questionSheetsOf(const Program& program, const Module& module);
 
 /// Prints the questions of the chosen module.
 void printQuestions(Program& program);

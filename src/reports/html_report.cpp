@@ -42,7 +42,7 @@ public:
 
     void writeEnd() { writeLine({"</table>"}); }
 
-    const std::string& bytes() const { return m_bytes; }
+    std::string takeBytes() { return std::move(m_bytes); }
 
 private:
     void writeLine(std::initializer_list<std::string_view> pieces) {
@@ -89,7 +89,7 @@ std::string htmlReportBytes(const ReportLists& lists) {
     page.writeEntries(lists.opportunityMapEntries, true);
     page.writeEntries(lists.threatMapEntries, false);
     page.writeEnd();
-    return page.bytes();
+    return page.takeBytes();
 }
 
 void generateHtmlReport(Program& program, const std::string& analyzeFile) {
@@ -102,7 +102,7 @@ void generateHtmlReport(Program& program, const std::string& analyzeFile) {
         readReportSource(program.platform.disk.read(analyzeFile), ReportScope::Correlation, lists);
     } catch (const Failure&) {
         // The former page must not be taken for that of this analysis.
-        program.platform.disk.replace(page, Page().bytes());
+        program.platform.disk.replace(page, Page().takeBytes());
         throw;
     }
     program.platform.disk.replace(page, htmlReportBytes(lists));

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "analysis_bench.h"
+#include "full_analysis.h"
 
 namespace orvanta::test {
 namespace {
@@ -26,11 +27,6 @@ Json clickEvents(Bench& bench, const std::string& button) {
     for (const Json& event : bench.events())
         if (event["event"] != "art") rest.push_back(event);
     return rest;
-}
-
-std::string rowLine(const std::string& key, const std::string& label, const std::string& text) {
-    const std::string delimiter = "<!-SWOT-!>";
-    return key + delimiter + label + delimiter + text;
 }
 
 /// An analysis that was left at the opportunity mapping.

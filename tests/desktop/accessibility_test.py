@@ -86,7 +86,6 @@ class Program:
     def __init__(self, binary, data):
         self.home = pathlib.Path(tempfile.mkdtemp())
         self.errors = self.home / "errors"
-        self.process = None
         folder = self.home / "app"
         (folder / "Sounds").mkdir(parents=True)
         (folder / "Sounds" / "gbs_S1.swf").write_bytes(clip())
@@ -189,8 +188,7 @@ class Program:
 
     def check_names(self, screen):
         """Finds the controls of the window in front that say nothing of themselves."""
-        window = self.window()
-        nodes = list(shown(window))
+        nodes = list(shown(self.window()))
         expect(len(nodes) > 3, f"{screen} is empty")
         expect(nodes[0].get_name().strip(), f"{screen}: the window has no title")
         for node in nodes[1:]:

@@ -247,6 +247,13 @@ TEST_P(Legibility, HoldsForEveryTextOfTheDialogs) {
     }
 }
 
+TEST(Contrast, IsTheRatioThatWcagGives) {
+    EXPECT_NEAR(contrast(Qt::black, Qt::white), 21, 1e-9);
+    EXPECT_NEAR(contrast(QColor(0x76, 0x76, 0x76), Qt::white), 4.54, 0.005);
+    EXPECT_NEAR(contrast(Qt::yellow, Qt::blue), 8.00, 0.005);
+    EXPECT_EQ(contrast(Qt::red, Qt::red), 1);
+}
+
 TEST_P(UsualDesktop, ShowsTheEdgesOfControls) { expectEdges(outstanding); }
 
 TEST_P(HighContrastDesktop, GetsStrongEdges) { expectEdges(7); }

@@ -3,20 +3,12 @@
 #include <QHash>
 #include <QPixmap>
 #include <algorithm>
-#include <cmath>
+
+#include "desktop/theme.h"
 
 namespace orvanta::test {
 
 namespace {
-
-double linear(double share) {
-    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-}
-
-double luminance(const QColor& colour) {
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-}
 
 QHash<QRgb, int> coloursOf(const QImage& picture) {
     QHash<QRgb, int> colours;
@@ -26,11 +18,6 @@ QHash<QRgb, int> coloursOf(const QImage& picture) {
 }
 
 }  // namespace
-
-double contrast(const QColor& one, const QColor& other) {
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 QColor groundOf(const QImage& picture) {
     const QHash<QRgb, int> colours = coloursOf(picture);
@@ -42,7 +29,7 @@ double writtenContrast(const QImage& picture) {
     const QColor ground = groundOf(picture);
     double most = 1;
     for (auto colour = colours.keyBegin(); colour != colours.keyEnd(); ++colour)
-        most = std::max(most, contrast(ground, QColor(*colour)));
+        most = std::max(most, desktop::contrast(ground, QColor(*colour)));
     return most;
 }
 

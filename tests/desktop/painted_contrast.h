@@ -5,9 +5,6 @@
 
 namespace orvanta::test {
 
-/// The contrast of two colours as WCAG 2 defines it, from 1 to 21.
-double contrast(const QColor& one, const QColor& other);
-
 /// The colour that fills most of a picture: the ground behind its text.
 QColor groundOf(const QImage& picture);
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "analysis_bench.h"
+#include "full_analysis.h"
 
 namespace orvanta::test {
 namespace {
@@ -39,8 +40,7 @@ std::string analysisOf(const Mapped& opportunities, const Mapped& threats) {
     Texts file{"<MODULE>", "GBS", "</MODULE>"};
     const auto section = [&](const std::string& word, const Mapped& rows) {
         file.push_back("<" + word + ">");
-        for (const auto& [key, text] : rows)
-            file.emplace_back(key).append("<!-SWOT-!>[Ann]: <!-SWOT-!>").append(text);
+        for (const auto& [key, text] : rows) file.push_back(rowLine(key, "[Ann]: ", text));
         file.push_back("</" + word + ">");
     };
     section("OPPORTUNITYMAPPING", opportunities);

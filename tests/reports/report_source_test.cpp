@@ -6,6 +6,7 @@
 #include <cctype>
 
 #include "analysis_bench.h"
+#include "full_analysis.h"
 
 namespace orvanta::test {
 namespace {
@@ -17,7 +18,7 @@ std::string entry(const std::string& key, const std::string& text) {
 }
 
 std::string rowLine(const std::string& key, const std::string& text) {
-    return key + delimiter + "[Ann]: " + delimiter + text;
+    return test::rowLine(key, "[Ann]: ", text);
 }
 
 ReportLists read(const Texts& file, ReportScope scope = ReportScope::Everything) {

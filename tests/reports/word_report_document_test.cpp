@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "full_analysis.h"
 #include "report_bench.h"
 #include "rtf_reader.h"
 
@@ -30,7 +31,7 @@ RtfDocument documentOf(const Texts& file) {
 }
 
 std::string line(const std::string& key, const std::string& text) {
-    return key + "<!-SWOT-!>[Ann]: <!-SWOT-!>" + text;
+    return rowLine(key, "[Ann]: ", text);
 }
 
 RtfTable table(const RtfDocument& document, TableNumber number) {

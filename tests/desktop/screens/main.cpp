@@ -14,7 +14,6 @@
 #include <iostream>
 #include <iterator>
 
-#include "core/text.h"
 #include "desktop/dialogs.h"
 #include "desktop/file_chooser.h"
 #include "desktop/message_box.h"
@@ -22,7 +21,6 @@
 #include "desktop/question_printer.h"
 #include "desktop/theme.h"
 #include "presentation/question_sheets.h"
-#include "questions/question_banks.h"
 #include "window_bench.h"
 
 namespace orvanta::test {
@@ -253,18 +251,8 @@ private:
             m_album.take(*preview, QStringLiteral("print-preview"));
             preview->close();
         });
-        PreviewingPrinter().print(questionSheets());
-    }
-
-    QuestionSheets questionSheets() {
-        QuestionSheets sheets{"mp", "Marketing Planning", {}};
-        for (const StatementKind kind : statementKinds) {
-            const auto [questions, count] = bankListOf(kind);
-            for (int i = 1; i <= m_bench.program().questions.*count; ++i)
-                sheets.questions[indexOf(kind)].emplace_back(
-                    trimBlanks(questionAt(m_bench.program().questions.*questions, i)));
-        }
-        return sheets;
+        const Program& program = m_bench.program();
+        PreviewingPrinter().print(questionSheetsOf(program, *chosenModule(program.frmMain)));
     }
 
     Album& m_album;
