@@ -131,15 +131,19 @@ protected:
     double edgeContrast(const std::string& control) {
         return edgeContrast(control, bench.widget(control).rect());
     }
-    double indicatorContrast(const std::string& control, QStyle::SubElement indicator) {
+    QRect indicator(const std::string& control, QStyle::SubElement element) {
         const QWidget& button = bench.widget(control);
         QStyleOptionButton option;
         option.initFrom(&button);
-        return edgeContrast(control, button.style()->subElementRect(indicator, &option, &button));
+        return button.style()->subElementRect(element, &option, &button);
+    }
+    double indicatorContrast(const std::string& control, QStyle::SubElement element) {
+        return edgeContrast(control, indicator(control, element));
     }
 
     void expectEdges(double least) {
         QCoreApplication::processEvents();
+        EXPECT_FALSE(bench.form().chkMute.isOn());
         EXPECT_GE(indicatorContrast("chkMute", QStyle::SE_CheckBoxIndicator), least);
         bench.click("Brainstorm");
         EXPECT_GE(indicatorContrast("optMP", QStyle::SE_RadioButtonIndicator), least);
@@ -148,6 +152,13 @@ protected:
         QCoreApplication::processEvents();
         EXPECT_GE(edgeContrast("txtStrength"), least);
         EXPECT_GE(edgeContrast("lvBStrength"), least);
+    }
+
+    /// What the sound switch shows within its edge.
+    QColor groundOfTickBox() {
+        QCoreApplication::processEvents();
+        return groundOf(
+            paintedAs(bench.widget("chkMute"), indicator("chkMute", QStyle::SE_CheckBoxIndicator)));
     }
 
     WindowBench<> bench;
@@ -256,12 +267,38 @@ TEST(Contrast, IsTheRatioThatWcagGives) {
 
 TEST_P(UsualDesktop, ShowsTheEdgesOfControls) { expectEdges(outstanding); }
 
+TEST_P(UsualDesktop, DoesNotAskForMoreContrast) {
+    EXPECT_FALSE(asksForContrast(GetParam().palette));
+}
+
+TEST_P(UsualDesktop, TellsASwitchThatIsOnByItsWholeBox) {
+    const QColor off = groundOfTickBox();
+    bench.form().chkMute.setOn(true);
+    EXPECT_GE(contrast(groundOfTickBox(), off), outstanding);
+}
+
 TEST_P(HighContrastDesktop, GetsStrongEdges) { expectEdges(7); }
 
 TEST_P(HighContrastDesktop, GetsNoFaintTexts) {
     bench.click("Brainstorm");
     QCoreApplication::processEvents();
     EXPECT_GE(writtenContrast(paintedAs(bench.widget("lblWhereabouts"))), 12);
+}
+
+TEST_P(HighContrastDesktop, GetsStrongLinesAndNumbersInItsRows) {
+    WindowBench<AnalysisBench> analysis;
+    analysis.goTo(mappingSides()[0]);
+    analysis.map("lvStrengthOp", 1, "lvOpportunity", 1);
+    analysis.list("lvOpportunity").select(0);
+    analysis.window().show();
+    QCoreApplication::processEvents();
+    auto& view = analysis.widget<StatementListView>("lvOpportunity");
+    const QRect row = view.visualRect(view.indexAtPosition(1));
+    const QImage painted = paintedAs(*view.viewport(), row);
+    EXPECT_GE(contrast(painted.pixelColor(row.width() / 2, row.height() - 1), groundOf(painted)),
+              7);
+    const QImage counts = paintedAs(*view.viewport(), row.adjusted(row.width() - 80, 0, 0, -1));
+    EXPECT_GE(writtenContrast(counts), 12);
 }
 
 const auto nameOfColours = [](const auto& info) { return info.param.name; };

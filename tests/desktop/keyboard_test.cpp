@@ -4,6 +4,7 @@
 #include <QtTest>
 
 #include "desktop/dialogs.h"
+#include "desktop/theme.h"
 #include "painted_contrast.h"
 #include "window_bench.h"
 
@@ -40,6 +41,15 @@ void expectVisibleFocus(QWidget& window) {
         const QImage with = paintedAs(*stop);
         EXPECT_NE(with, without) << stop->objectName().toStdString();
     }
+}
+
+/// How far the rim of a control that has the keyboard stands out of the ground at its left.
+double rimContrast(QDialog& dialog, const char* name) {
+    auto& control = *dialog.findChild<QWidget*>(QLatin1String(name));
+    control.setFocus(Qt::TabFocusReason);
+    const QImage painted = paintedAs(control, control.rect().adjusted(-1, 0, 0, 0));
+    const auto at = [&painted](int x) { return painted.pixelColor(x, painted.height() / 2); };
+    return std::max(contrast(at(0), at(1)), contrast(at(0), at(2)));
 }
 
 class Keyboard : public testing::Test {
@@ -95,6 +105,20 @@ TEST_F(Keyboard, ShowsWhereItIsInTheDialogs) {
         expectVisibleFocus(*dialog);
         dialog->hide();
     }
+}
+
+TEST_F(Keyboard, StandsOutOfTheBlueGroundOfDialogs) {
+    FrmEdit edit;
+    EditDialog editDialog(analysis.program(), edit, nullptr);
+    FrmReportType report;
+    ReportDialog reportDialog(analysis.program(), report, nullptr);
+    for (QDialog* dialog : std::initializer_list<QDialog*>{&editDialog, &reportDialog}) {
+        dialog->show();
+        QApplication::setActiveWindow(dialog);
+        EXPECT_GE(rimContrast(*dialog, "txtEdit"), 3);
+    }
+    EXPECT_GE(rimContrast(reportDialog, "cmdBrowse"), 3);
+    EXPECT_GE(rimContrast(reportDialog, "cboFormat"), 3);
 }
 
 }  // namespace orvanta::test

@@ -47,6 +47,14 @@ TEST(MainWindow, NamesEveryControlForThoseWhoDoNotSeeIt) {
     }
 }
 
+TEST(MainWindow, KeepsTheNameOfItsOwnThatAButtonHas) {
+    WindowBench bench;
+    bench.start();
+    bench.form().buttons[Button::Quit].label.changed();
+    auto* told = QAccessible::queryAccessibleInterface(&bench.widget("imgBtnQuit"));
+    EXPECT_EQ(told->text(QAccessible::Name), QStringLiteral("Quit Orvanta"));
+}
+
 class MainWindowAt : public testing::TestWithParam<double> {};
 
 TEST_P(MainWindowAt, PlacesEveryControlWhereItsModelIs) {

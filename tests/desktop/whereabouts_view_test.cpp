@@ -25,6 +25,11 @@ protected:
         return toCp1252(bench.widget<QLabel>("lblWhereabouts").text());
     }
 
+    QRect placeInWindow(const char* name) {
+        QWidget& widget = bench.widget(name);
+        return {widget.mapTo(&bench.window(), QPoint()), widget.size()};
+    }
+
     WindowBench<> bench;
 };
 
@@ -66,11 +71,14 @@ TEST_F(WhereaboutsLine, CoversNothing) {
     bench.openBrainstorm();
     told();
     for (const char* name : {"imgBtnBQuit", "imgBtnBBack", "imgBtnBNext", "lvBStrength"}) {
-        QWidget& other = bench.widget(name);
-        EXPECT_FALSE(QRect(other.mapTo(&bench.window(), QPoint()), other.size())
-                         .intersects(bench.widget("lblWhereabouts").geometry()))
-            << name;
+        EXPECT_FALSE(placeInWindow(name).intersects(placeInWindow("lblWhereabouts"))) << name;
     }
+}
+
+TEST_F(WhereaboutsLine, KeepsAwayFromTheLargeButtonAboveIt) {
+    bench.click("Analyze");
+    told();
+    EXPECT_GT(placeInWindow("lblWhereabouts").top(), placeInWindow("imgBtnOAFile").bottom() + 1);
 }
 
 TEST_F(WhereaboutsLine, StaysAtTheFootOfAWindowThatGrows) {
