@@ -4,7 +4,10 @@
 
 #include <memory>
 
+#include "../reports/report_bench.h"
 #include "analysis_bench.h"
+#include "presentation/about_box.h"
+#include "presentation/edit_dialog.h"
 #include "presentation/splash.h"
 #include "reports/report_dialog.h"
 
@@ -27,6 +30,25 @@ const std::vector<Display> displays{
     {"Finer", 20, 1, 1, 1, 0, 1},
     {"Large", 12, 12 / 15.0, 1 - 1.3 / 15, 1 - 4.95 / 15, 2, 1.01},
     {"Larger", 10, 10 / 15.0, 1 - 1.2 / 15, 1 - 2.95 / 15, 3, 1},
+};
+
+/// Keeps the width in which each dialog is shown, as a share of the designed one.
+class MeasuredForms : public ModalForms {
+public:
+    void run(FrmSplash& form) override { measure(form); }
+    void run(FrmEdit& form) override { measure(form); }
+    void run(FrmReportType& form) override { measure(form); }
+    void run(FrmAbout& form) override { measure(form); }
+    void repaint(FrmReportType&) override {}
+    void setWaitCursor(bool) override {}
+
+    std::vector<double> widths;
+
+private:
+    template <class Form>
+    void measure(const Form& form) {
+        widths.push_back(form.width.value / Form().width.value);
+    }
 };
 
 class LayoutOn : public testing::TestWithParam<Display> {
@@ -127,6 +149,20 @@ TEST_P(LayoutOn, ShrinksTheSplash) {
     shrinkForLargeFonts(splash, display.twipsPerPixel);
     EXPECT_DOUBLE_EQ(splash.width.value, FrmSplash().width.value * display.left);
     EXPECT_DOUBLE_EQ(splash.height.value, FrmSplash().height.value * display.splashHeight);
+}
+
+TEST_P(LayoutOn, IsThatOfEachDialogWhenItIsShown) {
+    bench.play({{"do", "start"}, {"twipsPerPixel", display.twipsPerPixel}});
+    const Platform& world = bench.program().platform;
+    MeasuredForms forms;
+    Platform platform = withOthers(world, forms, world.wordProcessors);
+    Program program(platform, "app", "app");
+    showSplash(program);
+    showEditDialog(program, "BS", "text");
+    openReportDialog(program);
+    openAboutBox(program);
+    ASSERT_EQ(forms.widths.size(), 4);
+    for (const double width : forms.widths) EXPECT_DOUBLE_EQ(width, display.left);
 }
 
 TEST_P(LayoutOn, IsInPlaceBeforeTheOptionsCloseUp) {
