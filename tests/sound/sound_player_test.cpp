@@ -1,6 +1,7 @@
 #include "desktop/sound/sound_player.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -159,6 +160,14 @@ TEST_F(SoundPlayerTest, IsSilentForAFolder) {
     log.await(2);
     play(folder());
     EXPECT_EQ(log.await(3), (Calls{"made", "start 100", "stop"}));
+}
+
+TEST_F(SoundPlayerTest, DoesNotWaitAtAPipe) {
+    const std::string pipe = folder() + "/mp_S1.swf";
+    ASSERT_EQ(::mkfifo(utf8From1252(pipe).c_str(), 0600), 0);
+    play(pipe);
+    play(clip("mp_S2.swf", 100));
+    EXPECT_EQ(log.await(2), (Calls{"made", "start 100"}));
 }
 
 TEST_F(SoundPlayerTest, IsSilentForAFileBeyondTheSizeOfAMovie) {
