@@ -143,10 +143,29 @@ TEST(Movie, SkipsTheLeadInOfTheCoding) {
     const Form form{Coding::Mp3, 44100, 1};
     Samples click(44100);
     click[22050] = 30000;
-    const Samples played =
-        samplesOfMovie(MovieWriter().defineSound(1, form, click).startSound(1).file());
-    const auto loudest = std::ranges::max_element(played) - played.begin();
-    EXPECT_NEAR(static_cast<double>(loudest) / playedChannels, 22050, 2);
+    for (const Bytes& file : {MovieWriter().defineSound(1, form, click).startSound(1).file(),
+                              MovieWriter().stream(form, click).file()}) {
+        const Samples played = samplesOfMovie(file);
+        const auto loudest = std::ranges::max_element(played) - played.begin();
+        EXPECT_NEAR(static_cast<double>(loudest) / playedChannels, 22050, 2);
+    }
+}
+
+TEST(Movie, KeepsToTheFirstHeadOfItsStream) {
+    const Samples samples = tone(pitch, 44100, 2, seconds);
+    const Bytes file = MovieWriter().stream(pcm44, samples).streamHead(pcm11).file();
+    EXPECT_EQ(samplesOfMovie(file), samples);
+}
+
+TEST(Movie, WhoseNellymoserClaimsTwoChannelsIsHeardAsTheOneThatItIs) {
+    const Form form{Coding::Nellymoser, 16000, 1};
+    MovieWriter movie;
+    movie.streamHead({Coding::Nellymoser, 16000, 2});
+    for (const Bytes& piece : codedInPieces(tone(pitch, 16000, 1, seconds), form))
+        movie.streamBlock(form, piece);
+    const Samples played = samplesOfMovie(movie.file());
+    EXPECT_NEAR(lengthOf(played), seconds, 0.15);
+    EXPECT_GT(shareOf(pitch, played, 0), 0.8);
 }
 
 TEST(Movie, PrefersItsStreamToAnEvent) {
