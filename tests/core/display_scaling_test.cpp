@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "../reports/report_bench.h"
+#include "report_bench.h"
 #include "analysis_bench.h"
 #include "presentation/about_box.h"
 #include "presentation/edit_dialog.h"

@@ -7,13 +7,14 @@
 
 #include "analysis_bench.h"
 #include "core/text.h"
+#include "data_folder.h"
 #include "questions/question_banks.h"
 
 namespace orvanta::test {
 namespace {
 
 std::string shipped(const std::string& name) {
-    std::ifstream file(ORVANTA_DATA "/" + name, std::ios::binary);
+    std::ifstream file(dataFolder() + "/" + name, std::ios::binary);
     EXPECT_TRUE(file) << name << " is missing";
     return {std::istreambuf_iterator<char>(file), {}};
 }

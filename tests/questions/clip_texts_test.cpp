@@ -7,6 +7,7 @@
 
 #include "bench.h"
 #include "core/modules.h"
+#include "data_folder.h"
 #include "questions/narration.h"
 #include "view/file_disk.h"
 
@@ -76,7 +77,7 @@ TEST(ClipTexts, OfNoFilesAreNone) {
 }
 
 TEST(ClipTexts, OfTheSuppliedFilesSpeakOnEveryScreen) {
-    const std::vector<ClipText> clips = clipTexts(FileDisk(), ORVANTA_DATA);
+    const std::vector<ClipText> clips = clipTexts(FileDisk(), dataFolder());
     for (const Module& module : modules)
         for (const StatementKind kind : statementKinds)
             EXPECT_NE(textOf(clips, clipName(module.code, kind, 2)), "no such clip");

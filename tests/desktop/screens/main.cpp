@@ -14,6 +14,7 @@
 #include <iostream>
 #include <iterator>
 
+#include "data_folder.h"
 #include "desktop/dialogs.h"
 #include "desktop/file_chooser.h"
 #include "desktop/message_box.h"
@@ -77,7 +78,7 @@ public:
     explicit Session(Album& album) : m_album(album) {
         for (const char* name : {"gbs", "hrp", "mp", "psd", "sbd", "analyze"}) {
             const std::string file = std::string(name) + "questions.txt";
-            m_bench.disk.files["app/" + file] = bytesOf(std::string(ORVANTA_DATA) + '/' + file);
+            m_bench.disk.files["app/" + file] = bytesOf(dataFolder() + '/' + file);
         }
     }
 
