@@ -1,61 +1,43 @@
 #include "analyze/mapping.h"
 
-#include <algorithm>
+#include <optional>
 
-#include "analyze/list_marks.h"
-#include "analyze/mapping_keys.h"
 #include "core/kind_controls.h"
+#include "core/mapping_keys.h"
 #include "core/messages.h"
-#include "core/text.h"
+#include "core/row_marks.h"
 #include "journal/journal.h"
 
 namespace orvanta {
 
 namespace {
 
-struct Side {
-    ListMember mappingList;
-    std::string_view parentWord;
-    int parentImage;
-    std::string_view journalTag;
+/// Which picking list a list is.
+struct Picking {
+    MappingSide side;
+    StatementKind kind;
 };
 
-constexpr Side opportunitySide{&FrmMain::lvOpportunity, "opportunity", 3, "ADD_OM"};
-constexpr Side threatSide{&FrmMain::lvThreat, "threat", 4, "ADD_TM"};
-
-struct PickingList {
-    ListMember list;
-    const Side& side;
-    std::string_view section;  // "S" or "W"
-    int image;                 // of the mapped rows that go back to it
-};
-
-constexpr std::array<PickingList, 4> pickingLists{{
-    {&FrmMain::lvStrengthOp, opportunitySide, "S", 1},
-    {&FrmMain::lvWeaknessOp, opportunitySide, "W", 2},
-    {&FrmMain::lvStrengthTh, threatSide, "S", 1},
-    {&FrmMain::lvWeaknessTh, threatSide, "W", 2},
-}};
-
-const PickingList* pickingListOf(const FrmMain& form, const StatementList& list) {
-    const auto found = std::ranges::find_if(
-        pickingLists, [&](const PickingList& picking) { return &(form.*picking.list) == &list; });
-    return found == pickingLists.end() ? nullptr : &*found;
+std::optional<Picking> pickingOf(const FrmMain& form, const StatementList& list) {
+    for (const MappingSide side : mappingSides)
+        for (const StatementKind kind : {StatementKind::Strength, StatementKind::Weakness})
+            if (&(form.*sideControls[side].picking(kind)) == &list) return Picking{side, kind};
+    return std::nullopt;
 }
 
-/// The picking list of a side that a drag now carries a statement from; null for none.
-const PickingList* draggedFrom(const FrmMain& form, const Side& side) {
-    for (const PickingList& picking : pickingLists)
-        if (&picking.side == &side && picking.section == form.dragSection) return &picking;
-    return nullptr;
+/// The kind that a drag now carries; none if it carries none.
+std::optional<StatementKind> draggedKind(const FrmMain& form) {
+    for (const StatementKind kind : {StatementKind::Strength, StatementKind::Weakness})
+        if (form.dragSection == std::string{letterOf(kind)}) return kind;
+    return std::nullopt;
 }
 
-const Side& sideOf(const FrmMain& form, const StatementList& mappingList) {
-    return &mappingList == &form.lvThreat ? threatSide : opportunitySide;
+MappingSide sideOf(const FrmMain& form, const StatementList& mappingList) {
+    return &mappingList == &form.lvThreat ? MappingSide::Threats : MappingSide::Opportunities;
 }
 
-/// True if the list maps this child under this parent. Ends that hold a "-" themselves make no
-/// key of two parts, so nothing can be mapped between them.
+/// True if the list maps this child under this parent. Where one of the keys holds a "-" itself
+/// the two can be mapped, but no row of theirs has a key of two parts, so none is found.
 bool isMapped(const StatementList& mappingList, const std::string& parent,
               const std::string& child) {
     const std::string key = mappingRowKey(parent, child);
@@ -65,82 +47,78 @@ bool isMapped(const StatementList& mappingList, const std::string& parent,
 /// Position of the last strength mapped under a parent, or of the parent if it has none.
 int lastStrengthUnder(const StatementList& mappingList, int parentPosition) {
     int position = parentPosition;
-    while (position < mappingList.count()) {
-        const auto parts = splitAt(mappingList.row(position + 1).key, "-");
-        if (parts.size() < 2 || !parts[1].starts_with('S')) break;
+    while (position < mappingList.count() &&
+           mappedKindOf(mappingList.row(position + 1).key) == StatementKind::Strength)
         ++position;
-    }
     return position;
 }
 
-void removeMappingRow(Program& program, const Side& side) {
+void removeMappingRow(Program& program, MappingSide side) {
     FrmMain& form = program.frmMain;
-    StatementList& list = form.*side.mappingList;
+    StatementList& list = mappingList(form, side);
     const Row* row = list.selectedRow();
     if (!row) return;
-    const auto parts = splitAt(row->key, "-");
-    std::string_view extra;
-    if (parts.size() > 1)
-        extra = parts[1].starts_with('S') ? "S" : "W";
-    else if (hasMappedRows(list, parts.front()))
-        return refuseMappedRows(program);
-    pushUserChange(program, side.journalTag, recordedPosition(list.selected()), row->key,
-                   trimBlanks(row->text), extra);
-    list.remove(list.selected());
+    const bool isParent = row->key.find('-') == std::string::npos;
+    if (isParent && hasMappedRows(list, row->key)) return refuseMappedRows(program);
+    const std::int16_t position = recordedPosition(list.selected());
+    recordUnmapped(program, side, {position, row->key, row->text});
+    list.remove(position);
     form.editAFlag = true;
 }
 
 }  // namespace
 
 void dragOverList(Program& program, StatementList& list) {
-    if (const PickingList* picking = pickingListOf(program.frmMain, list))
-        program.frmMain.dragSection = picking->section;
+    if (const auto picking = pickingOf(program.frmMain, list))
+        program.frmMain.dragSection = letterOf(picking->kind);
 }
 
 void mapDroppedStatement(Program& program, StatementList& mappingList, int position) {
     FrmMain& form = program.frmMain;
-    const Side& side = sideOf(form, mappingList);
+    const SideControls& side = sideControls[sideOf(form, mappingList)];
     if (!takesMapping(form, mappingList, position)) return;
-    const PickingList* source = draggedFrom(form, side);
+    const auto kind = draggedKind(form);
     const Row* child = statementToMap(form, mappingList);
-    if (source && !child) return;
+    if (kind && !child) return;
     const std::string childKey = child ? child->key : std::string();
     if (isMapped(mappingList, mappingList.row(position).key, childKey)) {
         inform(program.platform.messages, "This statement have already been mapped with this " +
                                               std::string(side.parentWord) + ".");
         return;
     }
-    if (source) insertMappingRow(form.*source->list, mappingList, {}, position, form.dragSection);
+    if (kind)
+        insertMappingRow(form.*side.picking(*kind), mappingList, {}, position, form.dragSection);
     form.dragSection.clear();
     form.editAFlag = true;
 }
 
 void unmapDroppedRow(Program& program, StatementList& pickingList) {
-    if (!rowToTakeBack(program.frmMain, pickingList)) return;
-    const PickingList* picking = pickingListOf(program.frmMain, pickingList);
-    StatementList& mappingList = program.frmMain.*picking->side.mappingList;
-    mappingList.remove(mappingList.selected());
+    FrmMain& form = program.frmMain;
+    if (!rowToTakeBack(form, pickingList)) return;
+    StatementList& list = mappingList(form, pickingOf(form, pickingList)->side);
+    list.remove(list.selected());
 }
 
 void insertMappingRow(StatementList& sourceList, StatementList& targetList,
                       const std::string& textPrefix, int position, std::string_view section) {
     const Row* child = sourceList.selectedRow();
     if (position == 0 || !child) return;
-    const bool weakness = section == "W";
-    const int above = weakness ? lastStrengthUnder(targetList, position) : position;
-    const int image = imageOf(weakness ? StatementKind::Weakness : StatementKind::Strength);
+    const auto kind = section == "W" ? StatementKind::Weakness : StatementKind::Strength;
+    const int above =
+        kind == StatementKind::Weakness ? lastStrengthUnder(targetList, position) : position;
     targetList.insert(above + 1, {.key = mappingRowKey(targetList.row(position).key, child->key),
                                   .text = textPrefix + child->text,
-                                  .image = image,
-                                  .largeImage = image,
+                                  .image = imageOf(kind),
+                                  .largeImage = imageOf(kind),
                                   .subItem = child->subItem});
-    markMappedRow(targetList, above + 1,
-                  weakness ? StatementKind::Weakness : StatementKind::Strength);
+    markMappedRow(targetList, above + 1, kind);
     targetList.select(above + 1);
 }
 
-void removeOpportunityMappingRow(Program& program) { removeMappingRow(program, opportunitySide); }
-void removeThreatMappingRow(Program& program) { removeMappingRow(program, threatSide); }
+void removeOpportunityMappingRow(Program& program) {
+    removeMappingRow(program, MappingSide::Opportunities);
+}
+void removeThreatMappingRow(Program& program) { removeMappingRow(program, MappingSide::Threats); }
 
 void refuseMappedRows(Program& program) {
     refuse(program.platform.messages,
@@ -148,7 +126,7 @@ void refuseMappedRows(Program& program) {
 }
 
 bool isPickingList(const FrmMain& form, const StatementList& list) {
-    return pickingListOf(form, list) != nullptr;
+    return pickingOf(form, list).has_value();
 }
 
 bool isMappingList(const FrmMain& form, const StatementList& list) {
@@ -156,19 +134,20 @@ bool isMappingList(const FrmMain& form, const StatementList& list) {
 }
 
 bool takesMapping(const FrmMain& form, const StatementList& mappingList, int position) {
-    return position != 0 &&
-           mappingList.row(position).image == sideOf(form, mappingList).parentImage;
+    const StatementKind parents = sideControls[sideOf(form, mappingList)].parentKind;
+    return position != 0 && mappingList.row(position).image == imageOf(parents);
 }
 
 const Row* statementToMap(const FrmMain& form, const StatementList& mappingList) {
-    const PickingList* source = draggedFrom(form, sideOf(form, mappingList));
-    return source ? (form.*source->list).selectedRow() : nullptr;
+    const auto kind = draggedKind(form);
+    if (!kind) return nullptr;
+    return (form.*sideControls[sideOf(form, mappingList)].picking(*kind)).selectedRow();
 }
 
 const Row* rowToTakeBack(const FrmMain& form, const StatementList& pickingList) {
-    const PickingList* picking = pickingListOf(form, pickingList);
-    const Row* row = (form.*picking->side.mappingList).selectedRow();
-    return row && row->image == picking->image ? row : nullptr;
+    const auto picking = pickingOf(form, pickingList);
+    const Row* row = (form.*sideControls[picking->side].mapping.list).selectedRow();
+    return row && row->image == imageOf(picking->kind) ? row : nullptr;
 }
 
 }  // namespace orvanta

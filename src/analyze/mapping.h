@@ -10,7 +10,7 @@ namespace orvanta {
 /// A drag passes over a list: over a picking list it now carries what is selected there.
 void dragOverList(Program& program, StatementList& list);
 
-/// A drop on a row of lvOpportunity or lvThreat; 0 beside all rows.
+/// A drop on a row of lvOpportunity or lvThreat; 0 outside every row.
 void mapDroppedStatement(Program& program, StatementList& mappingList, int position);
 
 /// A drop on a picking list takes the selected mapped row of its kind back.

@@ -1,6 +1,6 @@
 #include "analyze/mapping_counts.h"
 
-#include "analyze/mapping_keys.h"
+#include "core/mapping_keys.h"
 
 namespace orvanta {
 
@@ -15,10 +15,12 @@ MappingCounts::Count MappingCounts::of(const std::string& parentKey) const {
 }
 
 void MappingCounts::count(int position, int change) {
-    const MappingKey key = mappingKeyFrom(m_list.row(position).key);
+    const std::string& rowKey = m_list.row(position).key;
+    const MappingKey key = mappingKeyFrom(rowKey);
     if (!key.isMapped) return;
     Count& count = m_counts[std::string(key.parent)];
-    (key.child.starts_with('S') ? count.strengths : count.weaknesses) += change;
+    const bool strength = mappedKindOf(rowKey) == StatementKind::Strength;
+    (strength ? count.strengths : count.weaknesses) += change;
 }
 
 }  // namespace orvanta

@@ -1,6 +1,6 @@
 #include "analyze/row_description.h"
 
-#include "analyze/mapping_keys.h"
+#include "core/mapping_keys.h"
 #include "core/statement_kind.h"
 
 namespace orvanta {
@@ -28,8 +28,7 @@ std::string parentOf(const StatementList& list, const Row& row) {
 std::string describeRow(const StatementList& list, int position, const MappingCounts* counts) {
     const Row& row = list.row(position);
     std::string words;
-    for (const StatementKind kind : statementKinds)
-        if (imageOf(kind) == row.image) words = std::string(nameOf(kind)) + ", ";
+    if (const auto kind = kindOfImage(row.image)) words = std::string(nameOf(*kind)) + ", ";
     words += "row " + std::to_string(position) + " of " + std::to_string(list.count());
     if (const auto name = nameIn(row.subItem); !name.empty())
         words.append(", said by ").append(name);

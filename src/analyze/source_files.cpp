@@ -4,26 +4,28 @@
 
 #include "core/constants.h"
 #include "core/failures.h"
+#include "core/files.h"
 #include "core/kind_controls.h"
+#include "core/mapping_side.h"
 #include "core/messages.h"
-#include "core/workspace.h"
+#include "core/remembered_paths.h"
 #include "sessionfiles/brainstorm_file.h"
 
 namespace orvanta {
 
 namespace {
 
-void copyRows(FrmMain& form, const KindControls& controls) {
-    const StatementList& source = form.*controls.analyzeList;
-    const int image = imageOf(controls.kind);
+void copyRows(FrmMain& form, StatementKind kind) {
+    const StatementList& source = listOf(form, Session::Analyze, kind);
+    const int image = imageOf(kind);
     for (int position = 1; position <= source.count(); ++position) {
         const Row& row = source.row(position);
-        const Row copy{.key = letterOf(controls.kind) + std::to_string(position),
+        const Row copy{.key = letterOf(kind) + std::to_string(position),
                        .text = row.text,
                        .image = image,
                        .largeImage = image,
                        .subItem = row.subItem};
-        forEachCompanion(form, controls, [&](StatementList& list) { list.add(copy); });
+        forEachCompanion(form, kind, [&](StatementList& list) { list.add(copy); });
     }
 }
 
@@ -31,15 +33,12 @@ void copyRows(FrmMain& form, const KindControls& controls) {
 
 void addAnalyzeSourceFile(Program& program) {
     FrmMain& form = program.frmMain;
-    form.cd.initialPath = form.lastPathBSM;
-    form.cd.filter = brainstormFilter;
-    form.cd.fileName.clear();
     const CarryOn step;
-    if (!step([&] { form.cd.showOpen(); })) return;
-    const std::string path = form.cd.fileName;
+    std::string path;
+    if (!step([&] { path = form.cd.askToOpen(brainstormFilter, form.lastPathBSM); })) return;
     if (!fileExists(program, path)) return;
     // Ahead of the test for duplicates: a path that is refused below is remembered all the same.
-    rememberPath(program, lastSavedPathBSM, &FrmMain::lastPathBSM, path);
+    rememberPath(program, brainstormPath, path);
     if (std::ranges::find(form.lstFiles.items(), path) != form.lstFiles.items().end()) {
         refuse(program.platform.messages, "File already added.");
         return;
@@ -70,9 +69,10 @@ bool consolidateSourceFiles(Program& program) {
         form.lstFiles.clear();
         return false;
     }
-    for (const KindControls& controls : kindControls)
-        forEachCompanion(form, controls, [](StatementList& list) { list.clear(); });
-    for (const KindControls& controls : kindControls) copyRows(form, controls);
+    for (const StatementKind kind : statementKinds) {
+        forEachCompanion(form, kind, [](StatementList& list) { list.clear(); });
+        copyRows(form, kind);
+    }
     return true;
 }
 

@@ -1,62 +1,63 @@
 #include "analyze/statements.h"
 
 #include "analyze/mapping.h"
-#include "analyze/mapping_keys.h"
+#include "core/answer_prompt.h"
 #include "core/failures.h"
+#include "core/frm_edit.h"
 #include "core/kind_controls.h"
-#include "core/messages.h"
-#include "core/text.h"
+#include "core/mapping_keys.h"
+#include "core/mapping_side.h"
 #include "journal/journal.h"
-#include "presentation/edit_dialog.h"
 
 namespace orvanta {
 
 namespace {
 
-constexpr std::array<ListMember, 2> mappingLists{&FrmMain::lvOpportunity, &FrmMain::lvThreat};
-
-std::string tag(std::string_view operation, const KindControls& kind) {
-    return std::string(operation) + "_A_" + letterOf(kind.kind);
+StatementList& mainList(Program& program, StatementKind kind) {
+    return listOf(program.frmMain, Session::Analyze, kind);
 }
 
-void addStatement(Program& program, const KindControls& kind) {
+void addStatement(Program& program, StatementKind kind) {
     FrmMain& form = program.frmMain;
-    TextBox& box = form.*kind.reviewBox;
-    const std::string text(trimBlanks(box.text()));
-    if (text.empty()) {
-        refuse(program.platform.messages, kind.blankMessage);
-        box.giveFocus();
-        return;
-    }
+    TextBox& box = form.*controlsOf(Session::Analyze, kind).box;
+    StatementList& list = mainList(program, kind);
+    const auto text = answerIn(program, box, kind);
+    if (!text) return;
     form.editAFlag = true;
-    const int image = imageOf(kind.kind);
-    const Row row{
-        .key = getNextKey(program, kind.kind), .text = text, .image = image, .largeImage = image};
-    const std::int16_t position = recordedPosition((form.*kind.analyzeList).count() + 1);
-    (form.*kind.analyzeList).add(row);
-    forEachCompanion(form, kind, [&](StatementList& list) { list.add(row); });
-    pushUserChange(program, tag("DEL", kind), position, row.key, text);
-    box.setText({});
-    box.giveFocus();
+    const Row row{.key = getNextKey(program, kind),
+                  .text = *text,
+                  .image = imageOf(kind),
+                  .largeImage = imageOf(kind)};
+    const std::int16_t position = recordedPosition(list.count() + 1);
+    list.add(row);
+    forEachCompanion(form, kind, [&](StatementList& companion) { companion.add(row); });
+    recordAdded(program, Session::Analyze, kind, {position, row.key, row.text});
+    emptyForNextAnswer(box);
 }
 
-void carryText(FrmMain& form, const KindControls& kind) {
-    const StatementList& main = form.*kind.analyzeList;
-    const Row& row = *main.selectedRow();
-    if (kind.mappingList) return setTextOfKey(form.*kind.mappingList, row.key, row.text);
-    for (const ListMember list : kind.pickingLists) (form.*list).setText(main.selected(), row.text);
-    for (const ListMember list : mappingLists) setTextOfMappedRows(form.*list, row.key, row.text);
+/// Gives the companions the text of the selected row.
+void carryText(Program& program, StatementKind kind) {
+    FrmMain& form = program.frmMain;
+    const StatementList& list = mainList(program, kind);
+    const Row& row = *list.selectedRow();
+    if (const auto side = sideOfParents(kind))
+        return setTextOfKey(mappingList(form, *side), row.key, row.text);
+    forEachCompanion(form, kind, [&](StatementList& companion) {
+        companion.setText(list.selected(), row.text);
+    });
+    for (const MappingSide side : mappingSides)
+        setTextOfMappedRows(mappingList(form, side), row.key, row.text);
 }
 
-void editStatement(Program& program, const KindControls& kind) {
-    StatementList& list = program.frmMain.*kind.analyzeList;
+void editStatement(Program& program, StatementKind kind) {
+    const StatementList& list = mainList(program, kind);
     if (!list.selectedRow()) return;
     const std::int16_t position = recordedPosition(list.selected());
     const std::string oldText = list.selectedRow()->text;
-    showEditDialog(program, std::string("A") + letterOf(kind.kind), oldText);
+    showEditDialog(program, Session::Analyze, kind, oldText);
     if (list.selectedRow()->text != oldText)
-        pushUserChange(program, tag("EDIT", kind), position, list.selectedRow()->key, oldText);
-    carryText(program.frmMain, kind);
+        recordEdited(program, Session::Analyze, kind, {position, list.selectedRow()->key, oldText});
+    carryText(program, kind);
 }
 
 void removeMappedRows(StatementList& mappingList, std::string_view childKey) {
@@ -69,89 +70,90 @@ void removeMappedRows(StatementList& mappingList, std::string_view childKey) {
     }
 }
 
-void removePicked(Program& program, const KindControls& kind) {
+void removePicked(Program& program, StatementKind kind) {
     reportingFailures(program.platform.messages, [&] {
         FrmMain& form = program.frmMain;
-        StatementList& main = form.*kind.analyzeList;
-        const Row* row = main.selectedRow();
+        StatementList& list = mainList(program, kind);
+        const Row* row = list.selectedRow();
         if (!row) return;
         // The rows mapped from the statement go with it, unasked and unrecorded.
-        for (const ListMember list : mappingLists) removeMappedRows(form.*list, row->key);
-        const std::int16_t position = recordedPosition(main.selected());
-        pushUserChange(program, tag("ADD", kind), position, row->key, trimBlanks(row->text));
-        for (const ListMember list : kind.pickingLists) (form.*list).remove(position);
-        main.remove(position);
+        for (const MappingSide side : mappingSides)
+            removeMappedRows(mappingList(form, side), row->key);
+        const std::int16_t position = recordedPosition(list.selected());
+        recordRemoved(program, Session::Analyze, kind, {position, row->key, row->text});
+        forEachCompanion(form, kind, [&](StatementList& companion) { companion.remove(position); });
+        list.remove(position);
         form.editAFlag = true;
     });
 }
 
-void removeParent(Program& program, const KindControls& kind) {
+void removeParent(Program& program, StatementKind kind) {
     reportingFailures(program.platform.messages, [&] {
         FrmMain& form = program.frmMain;
-        StatementList& main = form.*kind.analyzeList;
-        StatementList& mappingList = form.*kind.mappingList;
-        const Row* row = main.selectedRow();
+        StatementList& list = mainList(program, kind);
+        StatementList& mappings = mappingList(form, *sideOfParents(kind));
+        const Row* row = list.selectedRow();
         if (!row) return;
-        std::string removedRows;
-        if (const int position = mappingList.positionOf(row->key)) {
-            if (hasMappedRows(mappingList, row->key)) return refuseMappedRows(program);
-            removedRows = removedRowEntry(row->key, position);
-            mappingList.remove(position);
+        const int mappingPosition = mappings.positionOf(row->key);
+        if (mappingPosition) {
+            if (hasMappedRows(mappings, row->key)) return refuseMappedRows(program);
+            mappings.remove(mappingPosition);
         }
-        pushUserChange(program, tag("ADD", kind), recordedPosition(main.selected()), row->key,
-                       trimBlanks(row->text), removedRows);
-        main.remove(main.selected());
+        const std::int16_t position = recordedPosition(list.selected());
+        recordRemoved(program, Session::Analyze, kind, {position, row->key, row->text},
+                      mappingPosition);
+        list.remove(position);
         form.editAFlag = true;
     });
 }
 
 // Uneven on purpose: adding and editing an opportunity report no failure of their own.
-void reporting(Program& program, void (*change)(Program&, const KindControls&),
-               StatementKind kind) {
-    reportingFailures(program.platform.messages, [&] { change(program, controlsOf(kind)); });
+void reporting(Program& program, void (*change)(Program&, StatementKind), StatementKind kind) {
+    if (kind == StatementKind::Opportunity) return change(program, kind);
+    reportingFailures(program.platform.messages, [&] { change(program, kind); });
 }
 
 }  // namespace
 
-void addAnalyzeStrength(Program& program) {
-    reporting(program, addStatement, StatementKind::Strength);
-}
-void addAnalyzeWeakness(Program& program) {
-    reporting(program, addStatement, StatementKind::Weakness);
-}
-void addAnalyzeOpportunity(Program& program) {
-    addStatement(program, controlsOf(StatementKind::Opportunity));
-}
-void addAnalyzeThreat(Program& program) { reporting(program, addStatement, StatementKind::Threat); }
-void editAnalyzeStrength(Program& program) {
-    reporting(program, editStatement, StatementKind::Strength);
-}
-void editAnalyzeWeakness(Program& program) {
-    reporting(program, editStatement, StatementKind::Weakness);
-}
-void editAnalyzeOpportunity(Program& program) {
-    editStatement(program, controlsOf(StatementKind::Opportunity));
-}
-void editAnalyzeThreat(Program& program) {
-    reporting(program, editStatement, StatementKind::Threat);
-}
-void removeAnalyzeStrength(Program& program) {
-    removePicked(program, controlsOf(StatementKind::Strength));
-}
-void removeAnalyzeWeakness(Program& program) {
-    removePicked(program, controlsOf(StatementKind::Weakness));
-}
-void removeAnalyzeOpportunity(Program& program) {
-    removeParent(program, controlsOf(StatementKind::Opportunity));
-}
-void removeAnalyzeThreat(Program& program) {
-    removeParent(program, controlsOf(StatementKind::Threat));
+void addAnalyzeStatement(Program& program, StatementKind kind) {
+    reporting(program, addStatement, kind);
 }
 
-void addAnalyzeStatement(Program& program, StatementKind kind) {
-    constexpr std::array adds{addAnalyzeStrength, addAnalyzeWeakness, addAnalyzeOpportunity,
-                              addAnalyzeThreat};
-    adds[indexOf(kind)](program);
+void editAnalyzeStatement(Program& program, StatementKind kind) {
+    reporting(program, editStatement, kind);
+}
+
+void removeAnalyzeStatement(Program& program, StatementKind kind) {
+    (isMappable(kind) ? removePicked : removeParent)(program, kind);
+}
+
+void addAnalyzeStrength(Program& program) { addAnalyzeStatement(program, StatementKind::Strength); }
+void addAnalyzeWeakness(Program& program) { addAnalyzeStatement(program, StatementKind::Weakness); }
+void addAnalyzeOpportunity(Program& program) {
+    addAnalyzeStatement(program, StatementKind::Opportunity);
+}
+void addAnalyzeThreat(Program& program) { addAnalyzeStatement(program, StatementKind::Threat); }
+void editAnalyzeStrength(Program& program) {
+    editAnalyzeStatement(program, StatementKind::Strength);
+}
+void editAnalyzeWeakness(Program& program) {
+    editAnalyzeStatement(program, StatementKind::Weakness);
+}
+void editAnalyzeOpportunity(Program& program) {
+    editAnalyzeStatement(program, StatementKind::Opportunity);
+}
+void editAnalyzeThreat(Program& program) { editAnalyzeStatement(program, StatementKind::Threat); }
+void removeAnalyzeStrength(Program& program) {
+    removeAnalyzeStatement(program, StatementKind::Strength);
+}
+void removeAnalyzeWeakness(Program& program) {
+    removeAnalyzeStatement(program, StatementKind::Weakness);
+}
+void removeAnalyzeOpportunity(Program& program) {
+    removeAnalyzeStatement(program, StatementKind::Opportunity);
+}
+void removeAnalyzeThreat(Program& program) {
+    removeAnalyzeStatement(program, StatementKind::Threat);
 }
 
 }  // namespace orvanta

@@ -9,6 +9,8 @@ namespace orvanta {
 // opportunity or threat has one row of the same key in its mapping list.
 
 void addAnalyzeStatement(Program& program, StatementKind kind);
+void editAnalyzeStatement(Program& program, StatementKind kind);
+void removeAnalyzeStatement(Program& program, StatementKind kind);
 
 void addAnalyzeStrength(Program& program);
 void addAnalyzeWeakness(Program& program);

@@ -7,6 +7,5 @@ namespace orvanta {
 void analyzeNext(Program& program);
 void analyzeBack(Program& program);
 void analyzeQuit(Program& program);
-void openAnalyzeFile(Program& program);
 
 }  // namespace orvanta

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <string_view>
-
 #include "core/session_state.h"
 
 namespace orvanta {
 
 void addBrainstormStatement(Program& program, StatementKind kind);
+void editBrainstormStatement(Program& program, StatementKind kind);
+void removeBrainstormStatement(Program& program, StatementKind kind);
 
 void addBrainstormStrength(Program& program);
 void addBrainstormWeakness(Program& program);

@@ -1,15 +1,15 @@
 #include "brainstorm/wizard.h"
 
-#include <algorithm>
+#include <optional>
 
 #include "brainstorm/statements.h"
 #include "core/answer_prompt.h"
 #include "core/failures.h"
 #include "core/kind_controls.h"
-#include "core/main_window.h"
 #include "core/messages.h"
 #include "core/modules.h"
 #include "core/text.h"
+#include "questions/bank_reader.h"
 #include "questions/narration.h"
 #include "questions/question_banks.h"
 #include "sessionfiles/saving.h"
@@ -23,13 +23,17 @@ constexpr Bounds topLeftCorner(Bounds bounds) {
     return bounds;
 }
 
-/// The step on screen; null on the module choice screen.
-const KindControls* stepOnScreen(const FrmMain& form) {
-    const auto isShown = [&](const KindControls& kind) {
-        return (form.*kind.questionPanel).isVisible();
-    };
-    const auto found = std::ranges::find_if(kindControls, isShown);
-    return found == kindControls.end() ? nullptr : &*found;
+constexpr StatementKind firstKind = statementKinds.front(), lastKind = statementKinds.back();
+
+/// The kind whose list is on screen; none on the module choice screen.
+std::optional<StatementKind> kindOnScreen(const FrmMain& form) {
+    for (const StatementKind kind : statementKinds)
+        if ((form.*kindControls[kind].questionPanel).isVisible()) return kind;
+    return std::nullopt;
+}
+
+StatementKind neighbour(StatementKind kind, int steps) {
+    return static_cast<StatementKind>(static_cast<int>(kind) + steps);
 }
 
 void setNextToolTip(FrmMain& form, const std::string& toolTip) {
@@ -37,9 +41,9 @@ void setNextToolTip(FrmMain& form, const std::string& toolTip) {
 }
 
 /// One press of Next or Back.
-class Walk {
+class WizardMove {
 public:
-    explicit Walk(Program& program)
+    explicit WizardMove(Program& program)
         : m_program(program), m_form(program.frmMain), m_code(chosenCode(program.frmMain)) {}
 
     bool startsQuestions() {
@@ -49,20 +53,20 @@ public:
             return false;
         }
         if (m_code.empty()) {
-            refuse(m_program.platform.messages, "Please select any SWOT analysis type.");
+            refuse(m_program.platform.messages, noModuleMessage);
             return false;
         }
         if (!loadModuleQuestions(m_program, m_code)) return false;
         m_form.onLastQuestion = false;
-        enter(kindControls.front());
+        enter(firstKind);
         return true;
     }
 
     /// False if the session was to be saved and was not.
-    bool goesOnFrom(const KindControls& kind) {
-        if (wantsAnswerAdded(m_program, m_form.*kind.answerBox))
-            addBrainstormStatement(m_program, kind.kind);
-        const bool last = &kind == &kindControls.back();
+    bool goesOnFrom(StatementKind kind) {
+        if (wantsAnswerAdded(m_program, m_form.*controlsOf(Session::Brainstorm, kind).box))
+            addBrainstormStatement(m_program, kind);
+        const bool last = kind == lastKind;
         const int count = countOf(kind);
         if (m_form.questionStep < count - 1) {
             announce(kind, ++m_form.questionStep);
@@ -75,7 +79,7 @@ public:
         return true;
     }
 
-    void goBackFrom(const KindControls& kind) {
+    void goBackFrom(StatementKind kind) {
         if (m_form.questionStep > 0) {
             m_form.onLastQuestion = false;
             --m_form.questionStep;
@@ -85,51 +89,55 @@ public:
                 goBackBeyond(kind);
         }
         // Only the last list ever turns the button into Save.
-        if (&kind == &kindControls.back()) m_form.buttons[Button::BNext].label.setCaption("Next>>");
+        if (kind == lastKind) setNextCaption(nextCaption);
     }
 
 private:
-    const std::vector<std::string>& questionsOf(const KindControls& kind) const {
-        return m_program.questions.*bankListOf(kind.kind).questions;
+    const std::vector<std::string>& questionsOf(StatementKind kind) const {
+        return m_program.questions.*bankListOf(kind).questions;
     }
-    std::int16_t countOf(const KindControls& kind) const {
-        return m_program.questions.*bankListOf(kind.kind).count;
+    std::int16_t countOf(StatementKind kind) const {
+        return m_program.questions.*bankListOf(kind).count;
     }
-    std::string clipOf(const KindControls& kind, int number) const {
-        return clipName(m_code, kind.kind, number);
+    std::string clipOf(StatementKind kind, int number) const {
+        return clipName(m_code, kind, number);
     }
 
-    void showQuestion(const KindControls& kind, int number) {
-        (m_form.*kind.question).setCaption(questionAt(questionsOf(kind), number));
+    void setNextCaption(std::string_view caption) {
+        m_form.buttons[Button::BNext].label.setCaption(std::string(caption));
+    }
+
+    void showQuestion(StatementKind kind, int number) {
+        (m_form.*kindControls[kind].question).setCaption(questionAt(questionsOf(kind), number));
     }
 
     /// Shows a question and speaks it the first time that it is reached. One that was passed
     /// with the sound off counts as not yet heard.
-    void announce(const KindControls& kind, std::int16_t number) {
+    void announce(StatementKind kind, std::int16_t number) {
         showQuestion(kind, number);
-        std::int16_t& narrated = m_form.*kind.narrated;
+        std::int16_t& narrated = m_form.*kindControls[kind].narrated;
         if (m_form.chkMute.isOn() || narrated >= number) return;
         narrate(m_program, clipOf(kind, number));
         narrated = number;
     }
 
     /// Unlike on the way forward, a question speaks at every return to it.
-    void askAgain(const KindControls& kind) {
+    void askAgain(StatementKind kind) {
         showQuestion(kind, m_form.questionStep);
         narrate(m_program, clipOf(kind, m_form.questionStep));
     }
 
-    void reachLastQuestion(const KindControls& kind, bool last) {
+    void reachLastQuestion(StatementKind kind, bool last) {
         ++m_form.questionStep;
         m_form.onLastQuestion = true;
         announce(kind, countOf(kind));
         if (!last) return;
-        m_form.buttons[Button::BNext].label.setCaption("Save...");
+        setNextCaption("Save...");
         setNextToolTip(m_form, "Browse to the location you would like to save this file.");
     }
 
-    void enter(const KindControls& kind) {
-        Panel& panel = m_form.*kind.questionPanel;
+    void enter(StatementKind kind) {
+        Panel& panel = m_form.*kindControls[kind].questionPanel;
         panel.show();
         clearJournal(m_program);
         panel.setBounds(topLeftCorner(panel.bounds()));
@@ -137,10 +145,10 @@ private:
         announce(kind, 1);
     }
 
-    bool leave(const KindControls& kind) {
+    bool leave(StatementKind kind) {
         m_form.onLastQuestion = false;
-        (m_form.*kind.questionPanel).hide();
-        enter(kindControls[indexOf(kind.kind) + 1]);
+        (m_form.*kindControls[kind].questionPanel).hide();
+        enter(neighbour(kind, 1));
         return true;
     }
 
@@ -152,15 +160,15 @@ private:
         return true;
     }
 
-    void goBackBeyond(const KindControls& kind) {
-        (m_form.*kind.questionPanel).hide();
-        if (&kind == &kindControls.front()) {
+    void goBackBeyond(StatementKind kind) {
+        (m_form.*kindControls[kind].questionPanel).hide();
+        if (kind == firstKind) {
             m_form.picBBack.hide();
             clearJournal(m_program);
             return;
         }
-        const KindControls& previous = kindControls[indexOf(kind.kind) - 1];
-        (m_form.*previous.questionPanel).show();
+        const StatementKind previous = neighbour(kind, -1);
+        (m_form.*kindControls[previous].questionPanel).show();
         clearJournal(m_program);
         m_form.questionStep = countOf(previous);
         m_form.onLastQuestion = true;
@@ -177,19 +185,19 @@ private:
 void brainstormNext(Program& program) {
     reportingFailures(program.platform.messages, [&] {
         stopNarration(program);
-        Walk walk(program);
-        const KindControls* step = stepOnScreen(program.frmMain);
-        const bool moved = step ? walk.goesOnFrom(*step) : walk.startsQuestions();
+        WizardMove move(program);
+        const auto kind = kindOnScreen(program.frmMain);
+        const bool moved = kind ? move.goesOnFrom(*kind) : move.startsQuestions();
         if (moved) program.frmMain.picBBack.show();
     });
 }
 
 void brainstormBack(Program& program) {
     reportingFailures(program.platform.messages, [&] {
-        Walk walk(program);
+        WizardMove move(program);
         stopNarration(program);
         setNextToolTip(program.frmMain, {});
-        if (const KindControls* step = stepOnScreen(program.frmMain)) walk.goBackFrom(*step);
+        if (const auto kind = kindOnScreen(program.frmMain)) move.goBackFrom(*kind);
     });
 }
 

@@ -1,5 +1,9 @@
 #include "core/answer_prompt.h"
 
+#include "core/kind_controls.h"
+#include "core/messages.h"
+#include "core/text.h"
+
 namespace orvanta {
 
 bool wantsAnswerAdded(Program& program, TextBox& box) {
@@ -12,6 +16,19 @@ bool wantsAnswerAdded(Program& program, TextBox& box) {
     if (answer == MessageAnswer::Yes) return true;
     box.setText({});
     return false;
+}
+
+std::optional<std::string> answerIn(Program& program, TextBox& box, StatementKind kind) {
+    std::string answer(trimBlanks(box.text()));
+    if (!answer.empty()) return answer;
+    refuse(program.platform.messages, kindControls[kind].blankMessage);
+    box.giveFocus();
+    return std::nullopt;
+}
+
+void emptyForNextAnswer(TextBox& box) {
+    box.setText({});
+    box.giveFocus();
 }
 
 }  // namespace orvanta

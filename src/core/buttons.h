@@ -1,11 +1,10 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
 
+#include "core/per_enum.h"
 #include "view/control.h"
 
 namespace orvanta {
@@ -53,9 +52,25 @@ enum class Button {
     Print,
     Quit,
     Report,
+    Count,
 };
 
-inline constexpr std::size_t buttonCount = 41;
+template <class T>
+using PerButton = PerEnum<Button, T>;
+
+enum class ButtonSize { Small, Large };
+
+/// What a person sees of a button. Texts are Windows-1252.
+struct ButtonFace {
+    std::string_view baseName;
+    ButtonSize size;
+    std::string_view caption, toolTip;
+};
+
+const ButtonFace& faceOf(Button button);
+
+/// The captions of the buttons that go on in a wizard.
+inline constexpr std::string_view nextCaption = "Next>>", backCaption = "<<Back";
 
 /// The picture and the caption of one button; either takes a press.
 struct SkinnedButton {
@@ -69,20 +84,16 @@ struct SkinnedButton {
     bool isReachable() const { return image.isReachable(); }
 };
 
-/// All skinned buttons of the main window. Captions and tool tips are those of their table.
+/// All skinned buttons of the main window, with the faces that they have at first.
 class SkinnedButtons {
 public:
     explicit SkinnedButtons(ControlSet& owner);
 
-    SkinnedButton& operator[](Button button) {
-        return *m_buttons[static_cast<std::size_t>(button)];
-    }
-    const SkinnedButton& operator[](Button button) const {
-        return *m_buttons[static_cast<std::size_t>(button)];
-    }
+    SkinnedButton& operator[](Button button) { return *m_buttons[button]; }
+    const SkinnedButton& operator[](Button button) const { return *m_buttons[button]; }
 
 private:
-    std::array<std::unique_ptr<SkinnedButton>, buttonCount> m_buttons;
+    PerButton<std::unique_ptr<SkinnedButton>> m_buttons;
 };
 
 }  // namespace orvanta

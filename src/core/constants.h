@@ -12,8 +12,5 @@ inline constexpr std::string_view brainstormFilter = "All Brainstorming Files (*
 inline constexpr std::string_view analyzeFilter = "All Analyze Files (*.aze)|*.aze";
 
 inline constexpr std::string_view settingsSection = "System";
-inline constexpr std::string_view lastSavedPathBSM = "LastSavedPathBSM";
-inline constexpr std::string_view lastSavedPathAZE = "LastSavedPathAZE";
-inline constexpr std::string_view lastSavedPathRTF = "LastSavedPathRTF";
 
 }  // namespace orvanta

@@ -3,9 +3,9 @@
 #include <array>
 #include <utility>
 
+#include "core/frm_edit.h"
 #include "core/frm_main.h"
 #include "presentation/about_box.h"
-#include "presentation/edit_dialog.h"
 #include "presentation/splash.h"
 #include "reports/report_dialog.h"
 

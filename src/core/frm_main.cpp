@@ -1,10 +1,11 @@
 #include "core/frm_main.h"
 
-#include <array>
 #include <initializer_list>
 
+#include "core/analyze_steps.h"
 #include "core/design_grid.h"
 #include "core/kind_controls.h"
+#include "core/modules.h"
 
 namespace orvanta {
 
@@ -77,6 +78,19 @@ constexpr Bounds moduleArea = grid(200, 64, 760, 576);
 constexpr Bounds stepArea = grid(0, 0, 760, 516);
 constexpr double buttonRow = 520;
 
+void placeModulePanels(FrmMain& form) {
+    for (const SessionControls& session : sessionControls) {
+        Panel& module = form.*session.panel;
+        place(module, nullptr, moduleArea, whole);
+        module.hide();
+    }
+}
+
+void placeStepPanel(Panel& step, Panel& module) {
+    place(step, &module, stepArea, whole);
+    step.hide();
+}
+
 void placeWizardButtons(FrmMain& form) {
     const Stretch left = atBottom, right = atBottomRight;
     placeHeld(form.buttons[Button::BQuit], form.picBQuit, form.fraBrainstorm,
@@ -105,9 +119,11 @@ void placeModuleChoice(FrmMain& form) {
     form.lblModules.bold = true;
     place(form.lblSelectModule, &panel, grid(24, 124, 480, 40), wide);
     double top = 176;
-    for (Option* option : {&form.optGBS, &form.optMP, &form.optSBD, &form.optPSD, &form.optHRP}) {
-        place(*option, &panel, grid(32, top, 460, 24), wide);
-        option->setVisible(false);
+    for (const ModuleId module : offeredModules) {
+        Option& option = form.*modules[module].option;
+        place(option, &panel, grid(32, top, 460, 24), wide);
+        option.setVisible(false);
+        option.coveredBy = &form.brainstormSteps;
         top += 24;
     }
     const Bounds large = grid(544, 44, largeWidth + 24, largeHeight);
@@ -117,62 +133,39 @@ void placeModuleChoice(FrmMain& form) {
     place(form.lblDistribute, &panel, large + grid(0, 108, 0, -8), atRight);
     form.lblDistribute.setToolTip("Use this link to email the Brainstorm module to your team.");
     for (Control* covered : std::initializer_list<Control*>{
-             &form.lblName, &form.txtName, &form.lblModules, &form.lblSelectModule, &form.optGBS,
-             &form.optMP, &form.optSBD, &form.optPSD, &form.optHRP, &form.picBOpen,
+             &form.lblName, &form.txtName, &form.lblModules, &form.lblSelectModule, &form.picBOpen,
              &form.picBtnPrint, &form.lblDistribute})
         covered->coveredBy = &form.brainstormSteps;
 }
 
-struct ListScreen {
-    Panel& panel;
-    Label& heading;
-    TextBox& box;
-    StatementList& list;
-    const ListButtons& buttons;
-    std::string kind;
-};
-
 constexpr double listWidth = 608, sideButtons = 648;
 
-void placeListScreen(FrmMain& form, const ListScreen& screen) {
-    place(screen.heading, &screen.panel, grid(24, 20, 712, 56), wide);
-    screen.heading.fontSize = {11.25};
-    screen.heading.bold = true;
-    place(screen.box, &screen.panel, grid(24, 88, listWidth, 32), wide);
-    placeSmall(form.buttons[screen.buttons.add], screen.panel, sideButtons, 88, atRight);
-    place(screen.list, &screen.panel, grid(24, 136, listWidth, 372), whole);
-    placeSmall(form.buttons[screen.buttons.edit], screen.panel, sideButtons, 136, atRight);
-    placeSmall(form.buttons[screen.buttons.remove], screen.panel, sideButtons, 176, atRight);
-    screen.box.accessibleName = "New " + screen.kind;
-    screen.list.accessibleName = screen.kind + " list";
+void placeHeading(Label& heading, Panel& panel) {
+    place(heading, &panel, grid(24, 20, 712, 56), wide);
+    heading.fontSize = {11.25};
+    heading.bold = true;
 }
 
-void placeListScreens(FrmMain& form) {
-    for (const KindControls& controls : kindControls) {
-        const std::string kind(nameOf(controls.kind));
-        placeListScreen(
-            form, {form.*controls.questionPanel, form.*controls.question, form.*controls.answerBox,
-                   form.*controls.brainstormList, controls.brainstormButtons, kind});
-        placeListScreen(
-            form, {form.*controls.reviewPanel, form.*controls.instruction, form.*controls.reviewBox,
-                   form.*controls.analyzeList, controls.analyzeButtons, kind});
-    }
+void placeListScreen(FrmMain& form, Panel& panel, Label& heading, StatementKind kind,
+                     const StatementControls& controls) {
+    TextBox& box = form.*controls.box;
+    StatementList& list = form.*controls.list;
+    placeHeading(heading, panel);
+    place(box, &panel, grid(24, 88, listWidth, 32), wide);
+    placeSmall(form.buttons[controls.buttons.add], panel, sideButtons, 88, atRight);
+    place(list, &panel, grid(24, 136, listWidth, 372), whole);
+    placeSmall(form.buttons[controls.buttons.edit], panel, sideButtons, 136, atRight);
+    placeSmall(form.buttons[controls.buttons.remove], panel, sideButtons, 176, atRight);
+    box.accessibleName = "New " + std::string(nameOf(kind));
+    list.accessibleName = std::string(nameOf(kind)) + " list";
 }
 
-struct MappingScreen {
-    Panel FrmMain::*panel;
-    Label FrmMain::*instruction, FrmMain::*parents, FrmMain::*strengths, FrmMain::*weaknesses;
-    StatementList FrmMain::*parentList, FrmMain::*strengthList, FrmMain::*weaknessList;
-};
-
-constexpr std::array<MappingScreen, 2> mappingScreens{{
-    {&FrmMain::fraAnalyzeOpportunity, &FrmMain::lblAOMapping, &FrmMain::lblOpportunities,
-     &FrmMain::lblStrengthsOp, &FrmMain::lblWeaknessesOp, &FrmMain::lvOpportunity,
-     &FrmMain::lvStrengthOp, &FrmMain::lvWeaknessOp},
-    {&FrmMain::fraAnalyzeThreat, &FrmMain::lblATMapping, &FrmMain::lblThreats,
-     &FrmMain::lblStrengthsTh, &FrmMain::lblWeaknessesTh, &FrmMain::lvThreat,
-     &FrmMain::lvStrengthTh, &FrmMain::lvWeaknessTh},
-}};
+void placeBrainstormStep(FrmMain& form, StatementKind kind) {
+    const KindControls& controls = kindControls[kind];
+    Panel& panel = form.*controls.questionPanel;
+    placeStepPanel(panel, form.fraBrainstorm);
+    placeListScreen(form, panel, form.*controls.question, kind, controls.in[Session::Brainstorm]);
+}
 
 void placeHeadedList(Label& heading, StatementList& list, Panel& panel, Bounds area,
                      Stretch stretch) {
@@ -184,18 +177,30 @@ void placeHeadedList(Label& heading, StatementList& list, Panel& panel, Bounds a
     list.accessibleName = heading.caption();
 }
 
-void placeMappingScreen(FrmMain& form, const MappingScreen& screen) {
-    Panel& panel = form.*screen.panel;
-    Label& instruction = form.*screen.instruction;
-    place(instruction, &panel, grid(24, 20, 712, 56), wide);
-    instruction.fontSize = {11.25};
-    instruction.bold = true;
-    placeHeadedList(form.*screen.parents, form.*screen.parentList, panel, grid(24, 88, 396, 420),
-                    {0, 0, 0.5, 1});
-    placeHeadedList(form.*screen.strengths, form.*screen.strengthList, panel,
-                    grid(436, 88, 300, 204), {0.5, 0, 1, 0.5});
-    placeHeadedList(form.*screen.weaknesses, form.*screen.weaknessList, panel,
-                    grid(436, 304, 300, 204), {0.5, 0.5, 1, 1});
+void placeMappingScreen(FrmMain& form, Panel& panel, Label& heading, const SideControls& side) {
+    placeHeading(heading, panel);
+    const auto placeList = [&](const HeadedList& headed, Bounds area, Stretch stretch) {
+        placeHeadedList(form.*headed.heading, form.*headed.list, panel, area, stretch);
+    };
+    placeList(side.mapping, grid(24, 88, 396, 420), {0, 0, 0.5, 1});
+    placeList(side.strengths, grid(436, 88, 300, 204), {0.5, 0, 1, 0.5});
+    placeList(side.weaknesses, grid(436, 304, 300, 204), {0.5, 0.5, 1, 1});
+}
+
+/// What the Analyze screens say until their texts have been loaded.
+constexpr std::string_view builtInInstruction =
+    "Before we move on, take a look through your list and see if there are any that should drop "
+    "off or perhaps be consolidated with others.";
+
+void placeAnalyzeStep(FrmMain& form, const StepControls& step) {
+    if (!step.panel) return;
+    Panel& panel = form.*step.panel;
+    Label& heading = form.*step.heading;
+    placeStepPanel(panel, form.fraAnalyze);
+    heading.setCaption(std::string(builtInInstruction));
+    if (step.kind)
+        placeListScreen(form, panel, heading, *step.kind, controlsOf(Session::Analyze, *step.kind));
+    if (step.side) placeMappingScreen(form, panel, heading, sideControls[*step.side]);
 }
 
 void placeSourceFiles(FrmMain& form) {
@@ -215,42 +220,22 @@ void placeSourceFiles(FrmMain& form) {
         covered->coveredBy = &form.analyzeSteps;
 }
 
-void placePanels(FrmMain& form) {
-    for (Panel* module : {&form.fraBrainstorm, &form.fraAnalyze}) {
-        place(*module, nullptr, moduleArea, whole);
-        module->hide();
-    }
-    for (Panel* step :
-         {&form.fraStrength, &form.fraWeakness, &form.fraOpportunity, &form.fraThreats}) {
-        place(*step, &form.fraBrainstorm, stepArea, whole);
-        step->hide();
-    }
-    for (Panel* step : {&form.fraASSummary, &form.fraAWeakness, &form.fraAOpportunity,
-                        &form.fraAThreats, &form.fraAnalyzeOpportunity, &form.fraAnalyzeThreat}) {
-        place(*step, &form.fraAnalyze, stepArea, whole);
-        step->hide();
-    }
-}
-
-/// What the Analyze screens say until their texts have been loaded.
-constexpr std::string_view builtInInstruction =
-    "Before we move on, take a look through your list and see if there are any that should drop "
-    "off or perhaps be consolidated with others.";
-
 }  // namespace
 
 FrmMain::FrmMain(FileDialogs& dialogs)
     : width(gridLength(960)), height(gridLength(640)), cd(dialogs) {
     placeTopLevel(*this);
-    placePanels(*this);
+    placeModulePanels(*this);
     placeWizardButtons(*this);
     placeModuleChoice(*this);
     placeSourceFiles(*this);
-    placeListScreens(*this);
-    for (const MappingScreen& screen : mappingScreens) placeMappingScreen(*this, screen);
-    for (Label* instruction : {&lblAStrength, &lblAWeakness, &lblAOpportunity, &lblAThreats,
-                               &lblAOMapping, &lblATMapping})
-        instruction->setCaption(std::string(builtInInstruction));
+    for (const StatementKind kind : statementKinds) placeBrainstormStep(*this, kind);
+    for (const StepControls& step : stepControls) placeAnalyzeStep(*this, step);
+}
+
+void showUndoRedo(FrmMain& form, bool visible) {
+    form.cmdUndo.setVisible(visible);
+    form.cmdRedo.setVisible(visible);
 }
 
 }  // namespace orvanta

@@ -139,12 +139,9 @@ struct FrmMain {
     std::int32_t keyCountS = 0, keyCountW = 0, keyCountO = 0, keyCountT = 0;
 };
 
-/// The fourteen statement lists, Brainstorm first.
-inline constexpr std::array<StatementList FrmMain::*, 14> statementLists{
-    &FrmMain::lvBStrength,    &FrmMain::lvBWeakness,   &FrmMain::lvBOpportunity,
-    &FrmMain::lvBThreat,      &FrmMain::lvAStrength,   &FrmMain::lvAWeakness,
-    &FrmMain::lvAOpportunity, &FrmMain::lvAThreat,     &FrmMain::lvStrengthOp,
-    &FrmMain::lvWeaknessOp,   &FrmMain::lvOpportunity, &FrmMain::lvStrengthTh,
-    &FrmMain::lvWeaknessTh,   &FrmMain::lvThreat};
+using ListMember = StatementList FrmMain::*;
+
+/// Undo and Redo, shown and hidden together.
+void showUndoRedo(FrmMain& form, bool visible);
 
 }  // namespace orvanta

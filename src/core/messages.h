@@ -18,6 +18,9 @@ inline void inform(MessageBoxes& messages, std::string_view text) {
                    .title = std::string(appTitle)});
 }
 
+inline constexpr std::string_view noModuleMessage = "Please select any SWOT analysis type.";
+inline constexpr std::string_view noSourceMessage = "File does not exists.";
+
 /// Asks before an existing file is replaced; false for any answer but Yes. `title` is left out
 /// where the box carries the default one.
 inline bool mayOverwrite(MessageBoxes& messages, std::optional<std::string> title) {

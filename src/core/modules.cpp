@@ -16,8 +16,8 @@ std::string wordOf(const Module& module) {
 
 const Module* chosenModule(const FrmMain& form) {
     const auto on = [&](const Module& module) { return (form.*module.option).isOn(); };
-    const auto found = std::ranges::find_if(modules, on);
-    return found == modules.end() ? nullptr : &*found;
+    const auto* found = std::ranges::find_if(modules, on);
+    return found == modules.end() ? nullptr : found;
 }
 
 std::string chosenCode(const FrmMain& form) {
@@ -31,7 +31,7 @@ std::string chosenModuleWord(const FrmMain& form) {
 }
 
 void chooseModuleByWord(FrmMain& form, std::string_view word) {
-    const auto found = std::ranges::find(modules, word, wordOf);
+    const auto* found = std::ranges::find(modules, word, wordOf);
     if (found != modules.end()) (form.*found->option).setOn(true);
 }
 

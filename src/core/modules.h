@@ -1,26 +1,37 @@
 #pragma once
 
-#include <array>
+#include <string>
 #include <string_view>
 
 #include "core/frm_main.h"
+#include "core/per_enum.h"
 
 namespace orvanta {
 
-/// One of the five question banks that a person can choose.
+/// The question banks that a person can choose, in the order in which their options are tested:
+/// the first that is on counts.
+enum class ModuleId { GBS, HRP, MP, PSD, SBD, Count };
+
+template <class T>
+using PerModule = PerEnum<ModuleId, T>;
+
 struct Module {
     Option FrmMain::*option;
     std::string_view code;  // in file names
 };
 
-/// In the order in which the options are tested; the first that is on counts.
-inline constexpr std::array<Module, 5> modules{{
-    {&FrmMain::optGBS, "gbs"},
-    {&FrmMain::optHRP, "hrp"},
-    {&FrmMain::optMP, "mp"},
-    {&FrmMain::optPSD, "psd"},
-    {&FrmMain::optSBD, "sbd"},
+inline constexpr PerModule<Module> modules{{
+    {ModuleId::GBS, {.option = &FrmMain::optGBS, .code = "gbs"}},
+    {ModuleId::HRP, {.option = &FrmMain::optHRP, .code = "hrp"}},
+    {ModuleId::MP, {.option = &FrmMain::optMP, .code = "mp"}},
+    {ModuleId::PSD, {.option = &FrmMain::optPSD, .code = "psd"}},
+    {ModuleId::SBD, {.option = &FrmMain::optSBD, .code = "sbd"}},
 }};
+
+/// The modules from top to bottom of the screen.
+inline constexpr std::array offeredModules{ModuleId::GBS, ModuleId::MP, ModuleId::SBD,
+                                           ModuleId::PSD, ModuleId::HRP};
+static_assert(offeredModules.size() == countOf<ModuleId>);
 
 /// The module whose option is on; null for none.
 const Module* chosenModule(const FrmMain& form);

@@ -1,21 +1,28 @@
 #include "core/section_tags.h"
 
 #include <algorithm>
-#include <array>
+
+#include "core/per_enum.h"
 
 namespace orvanta {
 
 namespace {
 
-constexpr std::array<std::string_view, 9> words{
-    "STEP",         "NAME",        "MODULE",  "STRENGTH",
-    "WEAKNESS",     "OPPORTUNITY", "THREATS", "OPPORTUNITYMAPPING",
-    "THREATMAPPING"};
-static_assert(words[static_cast<std::size_t>(Section::ThreatMapping)] == "THREATMAPPING");
+constexpr PerEnum<Section, std::string_view> words{{
+    {Section::Step, "STEP"},
+    {Section::Name, "NAME"},
+    {Section::Module, "MODULE"},
+    {Section::Strength, "STRENGTH"},
+    {Section::Weakness, "WEAKNESS"},
+    {Section::Opportunity, "OPPORTUNITY"},
+    {Section::Threats, "THREATS"},
+    {Section::OpportunityMapping, "OPPORTUNITYMAPPING"},
+    {Section::ThreatMapping, "THREATMAPPING"},
+}};
 
 }  // namespace
 
-std::string_view wordOf(Section section) { return words[static_cast<std::size_t>(section)]; }
+std::string_view wordOf(Section section) { return words[section]; }
 
 std::optional<SectionTag> tagOf(std::string_view trimmedLine, std::span<const Section> known) {
     if (!trimmedLine.starts_with('<') || !trimmedLine.ends_with('>')) return std::nullopt;

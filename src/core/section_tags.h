@@ -18,6 +18,7 @@ enum class Section {
     Threats,  // plural against the singular of the other three; the formats are fixed
     OpportunityMapping,
     ThreatMapping,
+    Count,
 };
 
 std::string_view wordOf(Section section);

@@ -5,27 +5,21 @@
 #include "core/constants.h"
 #include "core/failures.h"
 #include "core/kind_controls.h"
+#include "core/mapping_side.h"
 #include "core/modules.h"
 
 namespace orvanta {
 
 namespace {
 
-constexpr std::array<std::int32_t FrmMain::*, 4> keyCounts{
-    &FrmMain::keyCountS, &FrmMain::keyCountW, &FrmMain::keyCountO, &FrmMain::keyCountT};
-
-constexpr std::array<StatementList FrmMain::*, 10> analyzeLists{
-    &FrmMain::lvAStrength,   &FrmMain::lvAWeakness,  &FrmMain::lvAOpportunity, &FrmMain::lvAThreat,
-    &FrmMain::lvOpportunity, &FrmMain::lvStrengthOp, &FrmMain::lvWeaknessOp,   &FrmMain::lvThreat,
-    &FrmMain::lvStrengthTh,  &FrmMain::lvWeaknessTh};
+constexpr PerKind<std::int32_t FrmMain::*> keyCounts{{
+    {StatementKind::Strength, &FrmMain::keyCountS},
+    {StatementKind::Weakness, &FrmMain::keyCountW},
+    {StatementKind::Opportunity, &FrmMain::keyCountO},
+    {StatementKind::Threat, &FrmMain::keyCountT},
+}};
 
 }  // namespace
-
-const std::string& questionAt(const std::vector<std::string>& questions, int number) {
-    if (number < 1 || number > static_cast<int>(questions.size()))
-        throw Failure(ErrorNumber::SubscriptOutOfRange);
-    return questions[static_cast<std::size_t>(number) - 1];
-}
 
 Program::Program(Platform& platform, std::string appPath, std::string scratchPath)
     : platform(platform),
@@ -33,7 +27,7 @@ Program::Program(Platform& platform, std::string appPath, std::string scratchPat
       scratchPath(std::move(scratchPath)),
       frmMain(platform.fileDialogs) {}
 
-std::int32_t& keyCount(FrmMain& form, StatementKind kind) { return form.*keyCounts[indexOf(kind)]; }
+std::int32_t& keyCount(FrmMain& form, StatementKind kind) { return form.*keyCounts[kind]; }
 
 std::string getNextKey(Program& program, StatementKind kind) {
     std::int32_t& count = keyCount(program.frmMain, kind);
@@ -60,11 +54,11 @@ void clearBrainstorm(Program& program) {
     FrmMain& form = program.frmMain;
     form.txtName.setText({});
     for (const Module& module : modules) (form.*module.option).setOn(false);
-    for (const KindControls& controls : kindControls) {
-        (form.*controls.answerBox).setText({});
-        (form.*controls.brainstormList).clear();
+    for (const StatementKind kind : statementKinds) {
+        (form.*controlsOf(Session::Brainstorm, kind).box).setText({});
+        listOf(form, Session::Brainstorm, kind).clear();
     }
-    form.buttons[Button::BNext].label.setCaption("Next>>");
+    form.buttons[Button::BNext].label.setCaption(std::string(nextCaption));
     form.editFlag = false;
     form.cd.filter = brainstormFilter;
     clearJournal(program);
@@ -73,8 +67,11 @@ void clearBrainstorm(Program& program) {
 
 void clearAnalye(Program& program) {
     FrmMain& form = program.frmMain;
-    for (const auto list : analyzeLists) (form.*list).clear();
-    form.buttons[Button::ANext].label.setCaption("Next>>");
+    for (const StatementKind kind : statementKinds) {
+        listOf(form, Session::Analyze, kind).clear();
+        forEachCompanion(form, kind, [](StatementList& list) { list.clear(); });
+    }
+    form.buttons[Button::ANext].label.setCaption(std::string(nextCaption));
     form.editAFlag = false;
     // Meant here too: an analysis begins by adding brainstorm files.
     form.cd.filter = brainstormFilter;

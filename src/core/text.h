@@ -16,7 +16,7 @@ std::vector<std::string_view> splitAt(std::string_view text, std::string_view de
 
 std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
 
-/// The number that a text of digits alone stands for; none for any other text.
+/// The decimal number, with or without a "-" in front, that the whole text is; none for any other.
 std::optional<int> positionFrom(std::string_view text);
 
 /// Gives the lines of a text one by one. CR LF, CR and LF each end a line; the last line needs

@@ -144,7 +144,7 @@ ReportDialog::ReportDialog(Program& program, FrmReportType& form, QWidget* owner
     makePushButton(form.OKButton, *m_area, [this] {
         handle(m_program, [&] { acceptReport(m_program, m_form); });
     })->setDefault(true);
-    makePushButton(form.CancelButton, *m_area, [this] { closeReportDialog(m_form); });
+    makePushButton(form.CancelButton, *m_area, [this] { m_form.close(); });
     const auto showEnabled = [this] { m_area->setEnabled(m_form.enabled); };  // the close box stays
     form.enabledChanged.subscribe(showEnabled);
     showEnabled();
@@ -166,7 +166,7 @@ AboutDialog::AboutDialog(Program& program, FrmAbout& form, QWidget* owner)
         new LinkView(form.lblSupport, LinkView::Ground::Plain, m_area->pixelGrid(), m_area);
     whenClicked(*link, [this] { openSupportPage(m_program); });
     mirrorControl(form.lblSupport, *link, *m_area);
-    QPushButton* ok = makePushButton(form.cmdOK, *m_area, [this] { closeAboutBox(m_form); });
+    QPushButton* ok = makePushButton(form.cmdOK, *m_area, [this] { m_form.close(); });
     ok->setDefault(true);
     form.closed.subscribe([this] { done(Accepted); });
     dress(form.caption, form.width, form.height);

@@ -36,7 +36,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    void closeForm() override { cancelEdit(m_form); }
+    void closeForm() override { m_form.close(); }
 
 private:
     FrmEdit& m_form;
@@ -49,7 +49,7 @@ public:
     bool shows(const FrmReportType& form) const { return &form == &m_form; }
 
 protected:
-    void closeForm() override { closeReportDialog(m_form); }
+    void closeForm() override { m_form.close(); }
 
 private:
     FrmReportType& m_form;
@@ -60,7 +60,7 @@ public:
     AboutDialog(Program& program, FrmAbout& form, QWidget* owner);
 
 protected:
-    void closeForm() override { closeAboutBox(m_form); }
+    void closeForm() override { m_form.close(); }
 
 private:
     FrmAbout& m_form;

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "core/list_commands.h"
+#include "app/list_commands.h"
 #include "desktop/conversions.h"
 
 namespace orvanta::desktop {

@@ -5,7 +5,7 @@
 #include <QStandardPaths>
 #include <cstdlib>
 
-#include "core/startup.h"
+#include "app/startup.h"
 #include "desktop/conversions.h"
 #include "desktop/main_window.h"
 #include "desktop/platform.h"

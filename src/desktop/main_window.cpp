@@ -107,8 +107,7 @@ void MainWindow::makePanels() {
 }
 
 void MainWindow::makeButtons() {
-    for (std::size_t i = 0; i < buttonCount; ++i) {
-        const auto button = static_cast<Button>(i);
+    for (const Button button : allOf<Button>) {
         SkinnedButton& model = m_program.frmMain.buttons[button];
         makeSkinnedButton(model, areaOf(model.image),
                           {[this, button] { buttonPressed(m_program, button); },

@@ -198,7 +198,7 @@ std::vector<SheetPage> sheetPages(const QuestionSheets& sheets, const QSizeF& pr
     for (const StatementKind kind : statementKinds) {
         std::vector<Block> blocks;
         int number = 0;
-        for (const std::string& question : sheets.questions[indexOf(kind)])
+        for (const std::string& question : sheets.questions[kind])
             blocks.push_back(
                 blockOf(++number, question, printable.width() - grid.numberWidth(), grid));
         for (SheetPage& page : Flow(kind, printable, grid).pagesOf(blocks))

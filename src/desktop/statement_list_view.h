@@ -7,7 +7,7 @@
 #include <memory>
 
 #include "analyze/mapping_counts.h"
-#include "core/window_events.h"
+#include "app/window_events.h"
 #include "desktop/drop_hint.h"
 #include "desktop/statement_list_model.h"
 

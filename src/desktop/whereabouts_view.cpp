@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <utility>
 
+#include "core/statement_lists.h"
 #include "desktop/art.h"
 
 namespace orvanta::desktop {
@@ -12,10 +13,10 @@ namespace {
 
 constexpr int pictureSize = 12, gap = 4, groupGap = 16;
 
-QString inWords(const std::array<int, 4>& counts) {
+QString inWords(const PerKind<int>& counts) {
     QStringList words;
     for (const StatementKind kind : statementKinds)
-        words += fromCp1252(nameOfSeveral(kind)) + u' ' + QString::number(counts[indexOf(kind)]);
+        words += fromCp1252(nameOfSeveral(kind)) + u' ' + QString::number(counts[kind]);
     return words.join(QStringLiteral(", "));
 }
 
@@ -64,7 +65,7 @@ void WhereaboutsView::paintEvent(QPaintEvent*) {
 
 /// Draws the picture and the number of a kind; returns where they begin.
 int WhereaboutsView::drawCount(QPainter& painter, int right, StatementKind kind) const {
-    const QString count = QString::number(m_shown.counts[indexOf(kind)]);
+    const QString count = QString::number(m_shown.counts[kind]);
     const int left = right - fontMetrics().horizontalAdvance(count);
     painter.drawText(QRect(left, 0, right - left, height()), Qt::AlignRight | Qt::AlignVCenter,
                      count);

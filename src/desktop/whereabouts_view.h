@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-#include "core/whereabouts.h"
+#include "app/whereabouts.h"
 #include "desktop/conversions.h"
 
 namespace orvanta::desktop {

@@ -1,59 +1,51 @@
 #include "journal/journal.h"
 
-#include <algorithm>
-
-#include "core/constants.h"
 #include "core/failures.h"
+#include "core/mapping_keys.h"
+#include "core/text.h"
+#include "journal/journal_records.h"
 
 namespace orvanta {
 
 namespace {
 
-std::string recordOf(std::string_view tag, std::int16_t position, std::string_view key,
-                     std::string_view text, std::string_view extra) {
-    std::string record(tag);
-    for (const std::string& field :
-         {std::to_string(position), std::string(key), std::string(text), std::string(extra)})
-        record.append(journalDelimiter).append(field);
-    return record;
+void pushUserChange(Program& program, const std::string& tag, const ChangedRow& row,
+                    std::string_view extra = {}) {
+    pushJournalRecord(program, true, tag, row.position, row.key, row.text, true, extra);
 }
 
-void store(JournalRecords& records, std::size_t firstSearched, std::string record) {
-    const auto free = std::find(records.begin() + static_cast<std::ptrdiff_t>(firstSearched),
-                                records.end(), std::string());
-    if (free != records.end()) {
-        *free = std::move(record);
-        return;
-    }
-    std::rotate(records.begin(), records.begin() + 1, records.end());
-    records.back() = std::move(record);
+/// The letter of what was mapped; empty for a parent row.
+std::string mappedLetterOf(std::string_view key) {
+    if (key.find('-') == std::string_view::npos) return {};
+    return {letterOf(mappedKindOf(key))};
 }
 
 }  // namespace
 
-void pushJournalRecord(Program& program, bool toUndo, std::string_view tag, std::int16_t position,
-                       std::string_view key, std::string_view text, bool clearRedo,
-                       std::string_view extra) {
-    reportingFailures(program.platform.messages, [&] {
-        FrmMain& form = program.frmMain;
-        std::string record = recordOf(tag, position, key, text, extra);
-        // Uneven on purpose: the redo stack is filled from its second entry on, and its first
-        // one only by the shift of a full stack.
-        if (!toUndo) return store(form.redoRecords, 1, std::move(record));
-        store(form.undoRecords, 0, std::move(record));
-        if (clearRedo) form.redoRecords.fill({});
-    });
-}
-
 std::int16_t recordedPosition(int position) { return narrowed<std::int16_t>(position); }
 
-void pushUserChange(Program& program, std::string_view tag, std::int16_t position,
-                    std::string_view key, std::string_view text, std::string_view extra) {
-    pushJournalRecord(program, true, tag, position, key, text, true, extra);
+void recordAdded(Program& program, Session session, StatementKind kind, const ChangedRow& row) {
+    pushUserChange(program, tagOf(Operation::Delete, endingOf(session, kind)), row);
 }
 
-std::string removedRowEntry(std::string_view key, int position) {
-    return std::string(key) + '|' + std::to_string(position) + ',';
+void recordRemoved(Program& program, Session session, StatementKind kind, const ChangedRow& row,
+                   int mappingPosition) {
+    const std::string extra =
+        mappingPosition ? extraOf({.key = row.key, .position = mappingPosition}) : std::string();
+    pushUserChange(program, tagOf(Operation::Add, endingOf(session, kind)),
+                   {row.position, row.key, trimBlanks(row.text)}, extra);
+}
+
+void recordEdited(Program& program, Session session, StatementKind kind, const ChangedRow& row) {
+    // Nothing reads the key of a Brainstorm row again.
+    const std::string_view key = session == Session::Analyze ? row.key : std::string_view();
+    pushUserChange(program, tagOf(Operation::Edit, endingOf(session, kind)),
+                   {row.position, key, row.text});
+}
+
+void recordUnmapped(Program& program, MappingSide side, const ChangedRow& row) {
+    pushUserChange(program, tagOf(Operation::Add, sideControls[side].recordEnding),
+                   {row.position, row.key, trimBlanks(row.text)}, mappedLetterOf(row.key));
 }
 
 }  // namespace orvanta

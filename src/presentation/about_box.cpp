@@ -40,12 +40,6 @@ void openAboutBox(Program& program) {
     program.platform.modalForms.run(form);
 }
 
-void closeAboutBox(FrmAbout& form) {
-    if (!form.open) return;
-    form.open = false;
-    form.closed();
-}
-
 void openSupportPage(Program& program) { program.platform.shell.open(supportPage()); }
 
 }  // namespace orvanta

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "core/session_state.h"
+#include "view/modal_form.h"
 
 namespace orvanta {
 
 /// The host of the product's pages.
 inline constexpr std::string_view webHost = "www.orvanta.example";
 
-struct FrmAbout {
+struct FrmAbout : ModalForm {
     FrmAbout();
 
     ControlSet controls;
@@ -21,12 +22,9 @@ struct FrmAbout {
     Label lblSupport{controls, "lblSupport"};
     Label lblDisclaimer{controls, "lblDisclaimer"};
     PushButton cmdOK{controls, "cmdOK", "OK"};
-    bool open = true;
-    Notice closed;
 };
 
 void openAboutBox(Program& program);
-void closeAboutBox(FrmAbout& form);
 void openSupportPage(Program& program);
 
 }  // namespace orvanta

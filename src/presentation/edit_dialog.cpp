@@ -1,7 +1,5 @@
 #include "presentation/edit_dialog.h"
 
-#include "core/design_grid.h"
-#include "core/display_scaling.h"
 #include "core/kind_controls.h"
 #include "core/messages.h"
 #include "core/text.h"
@@ -10,50 +8,19 @@ namespace orvanta {
 
 namespace {
 
-void storeIn(StatementList& list, bool& flag, const std::string& text) {
-    list.setText(list.selected(), text);  // as typed, blanks at its ends included
-    flag = true;                          // also when the text is the same
-}
-
 /// A code that names no list stores nothing.
 void store(FrmMain& form, std::string_view code, const std::string& text) {
-    if (code.size() != 2) return;
-    for (const KindControls& controls : kindControls) {
-        if (code[1] != letterOf(controls.kind)) continue;
-        if (code[0] == 'B') storeIn(form.*controls.brainstormList, form.editFlag, text);
-        if (code[0] == 'A') storeIn(form.*controls.analyzeList, form.editAFlag, text);
-    }
-}
-
-/// The caption lies in the middle of the picture.
-void placeButton(SkinnedButton& button, double left, const Bounds& caption,
-                 const std::string& text) {
-    button.image.setBounds(grid(left, 104, 88, 32));
-    button.image.setArt(Art::SmallNormal);
-    button.label.setBounds(caption);
-    button.label.setCaption(text);
-    button.label.fontSize = {9.75};
-    button.label.bold = true;
+    for (const Session session : allOf<Session>)
+        for (const StatementKind kind : statementKinds) {
+            const SessionControls& controls = sessionControls[session];
+            if (code != std::string{controls.letter, letterOf(kind)}) continue;
+            StatementList& list = listOf(form, session, kind);
+            list.setText(list.selected(), text);  // as typed, blanks at its ends included
+            form.*controls.editFlag = true;       // also when the text is the same
+        }
 }
 
 }  // namespace
-
-FrmEdit::FrmEdit() {
-    Label1.setBounds({{240}, {360}, {1455}, {210}});
-    Label1.bold = true;
-    txtEdit.setBounds({{240}, {720}, {7095}, {375}});
-    txtEdit.accessibleName = Label1.caption();
-    placeButton(btnCancel, 140, {{2400}, {1680}, {735}, {240}}, "Cancel");
-    placeButton(btnOk, 278, {{4680}, {1680}, {300}, {240}}, "OK");
-}
-
-void showEditDialog(Program& program, const std::string& fromControl, const std::string& text) {
-    FrmEdit form;
-    shrinkForLargeFonts(form, program.platform.screen.twipsPerPixel());
-    form.txtEdit.setText(text);
-    form.fromControl = fromControl;
-    program.platform.modalForms.run(form);
-}
 
 void commitEdit(Program& program, FrmEdit& form) {
     const std::string& text = form.txtEdit.text();
@@ -63,13 +30,7 @@ void commitEdit(Program& program, FrmEdit& form) {
         return;
     }
     store(program.frmMain, form.fromControl, text);
-    cancelEdit(form);
-}
-
-void cancelEdit(FrmEdit& form) {
-    if (!form.open) return;
-    form.open = false;
-    form.closed();
+    form.close();
 }
 
 void pressEditButton(Program& program, SkinnedButton& button) {
@@ -83,7 +44,7 @@ void releaseEditOk(Program& program, FrmEdit& form) {
 
 void releaseEditCancel(Program& program, FrmEdit& form) {
     form.btnCancel.image.setArt(program.frmMain.imgBtnSNormal.art());
-    cancelEdit(form);
+    form.close();
 }
 
 }  // namespace orvanta

@@ -3,8 +3,8 @@
 #include "core/failures.h"
 #include "core/messages.h"
 #include "core/text.h"
+#include "questions/bank_reader.h"
 #include "questions/narration.h"
-#include "questions/question_banks.h"
 
 namespace orvanta {
 
@@ -21,7 +21,7 @@ QuestionSheets questionSheetsOf(const Program& program, const Module& module) {
         const BankList list = bankListOf(kind);
         const auto count = static_cast<std::size_t>(banks.*list.count);
         for (std::size_t i = 0; i < count && i < (banks.*list.questions).size(); ++i)
-            sheets.questions[indexOf(kind)].emplace_back(trimBlanks((banks.*list.questions)[i]));
+            sheets.questions[kind].emplace_back(trimBlanks((banks.*list.questions)[i]));
     }
     return sheets;
 }
@@ -30,7 +30,7 @@ void printQuestions(Program& program) {
     stopNarration(program);
     const Module* module = chosenModule(program.frmMain);
     if (!module) {
-        refuse(program.platform.messages, "Please select any SWOT analysis type.");
+        refuse(program.platform.messages, noModuleMessage);
         return;
     }
     program.platform.questionPrinter.print(questionSheetsOf(program, *module));

@@ -11,9 +11,9 @@ namespace orvanta {
 
 /// What is printed: the questions of one module, to be answered on paper.
 struct QuestionSheets {
-    std::string code;                                   // of the module
-    std::string title;                                  // its name
-    std::array<std::vector<std::string>, 4> questions;  // by statement kind, in bank order
+    std::string code;                             // of the module
+    std::string title;                            // its name
+    PerKind<std::vector<std::string>> questions;  // in bank order
 };
 
 /// The questions of a module as its bank holds them; what can't be read of the bank is missing.

@@ -9,7 +9,7 @@ namespace orvanta {
 void distributeToTeam(Program& program) {
     const std::string code = chosenCode(program.frmMain);
     if (code.empty()) {
-        refuse(program.platform.messages, "Please select any SWOT analysis type.");
+        refuse(program.platform.messages, noModuleMessage);
         return;
     }
     // The escapes are part of the link, so that it survives in the body of a mail; the blank at

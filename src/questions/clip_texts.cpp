@@ -1,9 +1,10 @@
 #include "questions/clip_texts.h"
 
+#include "core/analyze_steps.h"
 #include "core/modules.h"
 #include "core/text.h"
-#include "questions/narration.h"
-#include "questions/question_banks.h"
+#include "questions/bank_reader.h"
+#include "questions/clip_names.h"
 
 namespace orvanta {
 
@@ -32,8 +33,10 @@ std::vector<ClipText> clipTexts(const Disk& disk, const std::string& appPath) {
         addModule(clips, module.code, banks);
     }
     readAnalyzeHeadings(disk, appPath, banks.analyzeQuestions);
-    for (std::size_t i = 0; i < analyzeClips.size(); ++i)
-        addText(clips, std::string(analyzeClips[i]), banks.analyzeQuestions[i]);
+    for (const AnalyzeStep step : allOf<AnalyzeStep>)
+        if (stepControls[step].heading)
+            addText(clips, std::string(stepControls[step].clip),
+                    banks.analyzeQuestions[headingIndexOf(step)]);
     return clips;
 }
 

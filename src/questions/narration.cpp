@@ -1,12 +1,8 @@
 #include "questions/narration.h"
 
-#include "core/workspace.h"
+#include "core/files.h"
 
 namespace orvanta {
-
-std::string clipName(std::string_view code, StatementKind kind, int number) {
-    return std::string(code) + '_' + letterOf(kind) + std::to_string(number);
-}
 
 std::string narrationPath(const Program& program, const std::string& clipName) {
     return program.appPath + pathSeparator + "Sounds" + pathSeparator + clipName + ".swf";

@@ -1,19 +1,11 @@
 #pragma once
 
-#include <array>
 #include <string>
-#include <string_view>
 
 #include "core/session_state.h"
+#include "questions/clip_names.h"
 
 namespace orvanta {
-
-/// The clip of a question of a module, numbered from 1.
-std::string clipName(std::string_view code, StatementKind kind, int number);
-
-/// The clips of the six Analyze screens, in the order of their headings.
-inline constexpr std::array<std::string_view, 6> analyzeClips{
-    "analyze_S", "analyze_W", "analyze_O", "analyze_T", "analyze_OM", "analyze_TM"};
 
 std::string narrationPath(const Program& program, const std::string& clipName);
 

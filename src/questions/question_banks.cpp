@@ -1,144 +1,22 @@
 #include "questions/question_banks.h"
 
-#include <array>
-
-#include "core/failures.h"
-#include "core/section_tags.h"
-#include "core/text.h"
+#include "core/analyze_steps.h"
+#include "questions/bank_reader.h"
 
 namespace orvanta {
-
-namespace {
-
-constexpr std::string_view questionTag = "<QUESTION>";
-
-constexpr std::array<BankList, 4> bankLists{{
-    {&QuestionBanks::strengthQuestions, &QuestionBanks::strengthCount},
-    {&QuestionBanks::weaknessQuestions, &QuestionBanks::weaknessCount},
-    {&QuestionBanks::opportunityQuestions, &QuestionBanks::opportunityCount},
-    {&QuestionBanks::threatQuestions, &QuestionBanks::threatCount},
-}};
-
-constexpr std::array bankSections{Section::Strength, Section::Weakness, Section::Opportunity,
-                                  Section::Threats};
-
-constexpr int boundStep = 10;
-
-const BankList& listOf(Section section) {
-    return bankLists[static_cast<std::size_t>(section) -
-                     static_cast<std::size_t>(Section::Strength)];
-}
-
-/// Adds a raw line to the question with this index, behind one blank.
-void joinLine(std::vector<std::string>& questions, int index, std::string_view line) {
-    if (index < 0 || index >= static_cast<int>(questions.size()))
-        throw Failure(ErrorNumber::SubscriptOutOfRange);
-    questions[static_cast<std::size_t>(index)].append(1, ' ').append(line);
-}
-
-class BankReading {
-public:
-    explicit BankReading(QuestionBanks& banks) : m_banks(banks) {}
-
-    void take(std::string_view line) {
-        const std::string_view trimmed = trimBlanks(line);
-        if (trimmed.empty()) return;
-        if (const auto tag = tagOf(trimmed, bankSections))
-            takeTag(*tag);
-        else if (m_open)
-            takeText(*m_open, trimmed, line);
-    }
-
-private:
-    // Unlike in session files, a closing tag must name the section that is open.
-    void takeTag(SectionTag tag) {
-        const BankList* named = &listOf(tag.section);
-        if (tag.opens && !m_open) {
-            m_open = named;
-            m_growthBound = boundStep;
-        } else if (!tag.opens && m_open == named) {
-            m_open = nullptr;
-        }
-    }
-
-    void takeText(const BankList& list, std::string_view trimmed, std::string_view line) {
-        std::int16_t& count = m_banks.*list.count;
-        if (trimmed == questionTag)
-            count = narrowed<std::int16_t>(count + 1);
-        else
-            joinLine(m_banks.*list.questions, count - 1, line);
-        if (count != m_growthBound) return;
-        m_growthBound += boundStep;
-        (m_banks.*list.questions).resize(static_cast<std::size_t>(m_growthBound) + 1);
-    }
-
-    QuestionBanks& m_banks;
-    const BankList* m_open = nullptr;
-    int m_growthBound = boundStep;  // one for all sections
-};
-
-}  // namespace
-
-BankList bankListOf(StatementKind kind) { return bankLists[indexOf(kind)]; }
-
-std::string bankPath(const std::string& appPath, std::string_view code) {
-    return appPath + pathSeparator + std::string(code) + "questions.txt";
-}
-
-bool loadQuestionBank(const Disk& disk, const std::string& path, QuestionBanks& into) {
-    for (const BankList& list : bankLists) into.*list.count = 0;
-    if (disk.kindOf(path) != PathKind::File) return false;
-    for (const BankList& list : bankLists) (into.*list.questions).assign(boundStep + 1, {});
-    const std::string bytes = disk.read(path);
-    BankReading reading(into);
-    LineSource lines(bytes);
-    while (const auto line = lines.next()) reading.take(*line);
-    bool everyList = true;
-    for (const BankList& list : bankLists) everyList = everyList && into.*list.count > 0;
-    return everyList;
-}
 
 bool loadModuleQuestions(Program& program, std::string_view code) {
     return loadQuestionBank(program.platform.disk, bankPath(program.appPath, code),
                             program.questions);
 }
 
-void readAnalyzeHeadings(const Disk& disk, const std::string& appPath,
-                         std::array<std::string, 7>& headings) {
-    headings.fill({});
-    int index = -1;
-    const std::string path = bankPath(appPath, "analyze");
-    if (disk.kindOf(path) == PathKind::File) {
-        const std::string bytes = disk.read(path);
-        LineSource lines(bytes);
-        while (index != 6) {
-            const auto line = lines.next();
-            if (!line) break;
-            const std::string_view trimmed = trimBlanks(*line);
-            if (trimmed == questionTag)
-                ++index;
-            else if (!trimmed.empty() && index != -1)
-                headings[static_cast<std::size_t>(index)].append(1, ' ').append(*line);
-        }
-    } else {
-        index = 0;
-    }
-    // The heading at the index goes too: without a seventh tag the last one read is not kept.
-    for (; index <= 5; ++index) {
-        if (index < 0) throw Failure(ErrorNumber::SubscriptOutOfRange);
-        headings[static_cast<std::size_t>(index)].clear();
-    }
-}
-
 void loadAnalyzeQuestions(Program& program) {
     try {
-        std::array<std::string, 7>& headings = program.questions.analyzeQuestions;
+        auto& headings = program.questions.analyzeQuestions;
         readAnalyzeHeadings(program.platform.disk, program.appPath, headings);
-        FrmMain& form = program.frmMain;
-        const std::array<Label*, 6> labels{&form.lblAStrength,    &form.lblAWeakness,
-                                           &form.lblAOpportunity, &form.lblAThreats,
-                                           &form.lblAOMapping,    &form.lblATMapping};
-        for (std::size_t i = 0; i < labels.size(); ++i) labels[i]->setCaption(headings[i]);
+        for (const AnalyzeStep step : allOf<AnalyzeStep>)
+            if (const auto label = stepControls[step].heading)
+                (program.frmMain.*label).setCaption(headings[headingIndexOf(step)]);
     } catch (const Failure& failure) {
         // The one report in the program that gives the description alone.
         program.platform.messages.show({.text = std::string(failure.description)});

@@ -6,30 +6,11 @@
 
 namespace orvanta {
 
-/// Where the questions of one kind are kept.
-struct BankList {
-    std::vector<std::string> QuestionBanks::*questions;
-    std::int16_t QuestionBanks::*count;
-};
-
-BankList bankListOf(StatementKind kind);
-
-/// The file of a module's bank in the program's folder; it offers the module by being there.
-std::string bankPath(const std::string& appPath, std::string_view code);
-
-/// Reads the bank of a module. True if each of the four lists has a question. A missing file
-/// leaves the texts as they were, with all counts at 0. Fails where the file can't be read, or
-/// with SubscriptOutOfRange where text stands ahead of a section's first question.
+/// Reads the bank of a module into the session, as loadQuestionBank does.
 bool loadModuleQuestions(Program& program, std::string_view code);
-/// The same from any file into any bank.
-bool loadQuestionBank(const Disk& disk, const std::string& path, QuestionBanks& into);
 
-/// Reads the headings of the six Analyze screens, all empty where the program's folder has no
-/// file of them. Fails as loadModuleQuestions does.
-void readAnalyzeHeadings(const Disk& disk, const std::string& appPath,
-                         std::array<std::string, 7>& headings);
-
-/// Reads the headings and shows them.
+/// Reads the headings of the Analyze screens and shows them. A failure is told by its
+/// description alone.
 void loadAnalyzeQuestions(Program& program);
 
 }  // namespace orvanta

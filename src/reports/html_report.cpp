@@ -1,8 +1,8 @@
 #include "reports/html_report.h"
 
 #include "core/failures.h"
+#include "core/files.h"
 #include "core/messages.h"
-#include "core/workspace.h"
 
 namespace orvanta {
 
@@ -94,7 +94,7 @@ std::string htmlReportBytes(const ReportLists& lists) {
 
 void generateHtmlReport(Program& program, const std::string& analyzeFile) {
     if (!fileExists(program, analyzeFile))
-        return refuse(program.platform.messages, "File does not exists.");
+        return refuse(program.platform.messages, noSourceMessage);
     const std::string page =
         program.scratchPath + pathSeparator + "System" + pathSeparator + "report.htm";
     ReportLists lists;

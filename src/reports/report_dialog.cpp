@@ -3,8 +3,9 @@
 #include "core/constants.h"
 #include "core/display_scaling.h"
 #include "core/failures.h"
+#include "core/files.h"
 #include "core/messages.h"
-#include "core/workspace.h"
+#include "core/remembered_paths.h"
 #include "questions/narration.h"
 #include "reports/html_report.h"
 #include "reports/word_report.h"
@@ -28,21 +29,18 @@ void showGenerating(FrmReportType& form, bool generating) {
 
 /// True if a target was chosen and may be written.
 bool choosesTarget(Program& program) {
-    FileDialog& cd = program.frmMain.cd;
-    cd.filter = "All RTF Files (*.rtf)|*.rtf";
-    cd.initialPath = program.frmMain.lastPathRTF;
-    cd.fileName.clear();
-    cd.showSave();
-    if (fileExists(program, cd.fileName) && !mayOverwrite(program.platform.messages, std::nullopt))
+    FrmMain& main = program.frmMain;
+    const std::string target = main.cd.askToSave("All RTF Files (*.rtf)|*.rtf", main.lastPathRTF);
+    if (fileExists(program, target) && !mayOverwrite(program.platform.messages, std::nullopt))
         return false;
-    rememberPath(program, lastSavedPathRTF, &FrmMain::lastPathRTF, cd.fileName);
+    rememberPath(program, documentPath, target);
     return true;
 }
 
 void generate(Program& program, FrmReportType& form) {
     const std::string analyzeFile = form.txtEdit.text();
     if (!fileExists(program, analyzeFile))
-        return refuse(program.platform.messages, "File does not exists.");
+        return refuse(program.platform.messages, noSourceMessage);
     const bool document = form.cboFormat.selectedIndex() != htmlFormat;
     if (document && !choosesTarget(program)) return;
     showGenerating(form, true);
@@ -56,7 +54,7 @@ void generate(Program& program, FrmReportType& form) {
     else
         generateHtmlReport(program, analyzeFile);
     form.OKButton.setEnabled(true);
-    closeReportDialog(form);
+    form.close();
     if (document && fileExists(program, target)) program.platform.shell.open(target);
 }
 
@@ -93,25 +91,17 @@ void openReportDialog(Program& program) {
 }
 
 void browseForAnalyzeFile(Program& program, FrmReportType& form) {
-    FileDialog& cd = program.frmMain.cd;
-    cd.filter = analyzeFilter;
-    cd.initialPath = program.frmMain.lastPathAZE;
-    cd.fileName.clear();
+    FrmMain& main = program.frmMain;
     const CarryOn step;
-    if (!step([&] { cd.showOpen(); })) return;
-    form.txtEdit.setText(cd.fileName);
-    rememberPath(program, lastSavedPathAZE, &FrmMain::lastPathAZE, cd.fileName);
+    std::string path;
+    if (!step([&] { path = main.cd.askToOpen(analyzeFilter, main.lastPathAZE); })) return;
+    form.txtEdit.setText(path);
+    rememberPath(program, analyzePath, path);
 }
 
 void acceptReport(Program& program, FrmReportType& form) {
     const CarryOn step;
     step([&] { generate(program, form); });
-}
-
-void closeReportDialog(FrmReportType& form) {
-    if (!form.open) return;
-    form.open = false;
-    form.closed();
 }
 
 }  // namespace orvanta

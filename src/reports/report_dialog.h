@@ -1,11 +1,12 @@
 #pragma once
 
 #include "core/session_state.h"
+#include "view/modal_form.h"
 
 namespace orvanta {
 
 /// Turns a saved analyze file into a report.
-struct FrmReportType {
+struct FrmReportType : ModalForm {
     FrmReportType();
 
     ControlSet controls;
@@ -23,8 +24,6 @@ struct FrmReportType {
                         "your word processor or web browser."};
     bool enabled = true;
     Notice enabledChanged;
-    bool open = true;
-    Notice closed;
 };
 
 /// The Reports button: stops the narration, shows the dialog and waits until it has closed.
@@ -35,6 +34,5 @@ void browseForAnalyzeFile(Program& program, FrmReportType& form);
 /// Makes the report and closes. Refusals leave the dialog as it was; any other failure leaves
 /// it in its waiting state.
 void acceptReport(Program& program, FrmReportType& form);
-void closeReportDialog(FrmReportType& form);
 
 }  // namespace orvanta

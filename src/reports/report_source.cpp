@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "analyze/mapping_keys.h"
 #include "core/constants.h"
+#include "core/mapping_keys.h"
 #include "core/section_tags.h"
 #include "core/text.h"
 
@@ -85,11 +85,11 @@ void readReportSource(std::string_view bytes, ReportScope scope, ReportLists& li
 bool classifyEntry(std::string_view entry, ReportRow& row) {
     const auto parts = splitAt(entry, rowFieldDelimiter);
     if (parts.size() != 2) return false;
-    const MappingKey key = mappingKeyFrom(parts[0]);
     row.text = parts[1];
-    row.kind = !key.isMapped                ? ReportRowKind::Parent
-               : key.child.starts_with('S') ? ReportRowKind::Strength
-                                            : ReportRowKind::Weakness;
+    row.kind = ReportRowKind::Parent;
+    if (mappingKeyFrom(parts[0]).isMapped)
+        row.kind = mappedKindOf(parts[0]) == StatementKind::Strength ? ReportRowKind::Strength
+                                                                     : ReportRowKind::Weakness;
     return true;
 }
 

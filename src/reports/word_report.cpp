@@ -4,9 +4,9 @@
 
 #include "core/constants.h"
 #include "core/failures.h"
+#include "core/files.h"
 #include "core/messages.h"
 #include "core/text.h"
-#include "core/workspace.h"
 #include "reports/report_source.h"
 #include "reports/word_processor.h"
 
@@ -455,7 +455,7 @@ private:
 void generateWordReport(Program& program, const std::string& analyzeFile,
                         const std::string& targetFile) {
     if (!fileExists(program, analyzeFile))
-        return refuse(program.platform.messages, "File does not exists.");
+        return refuse(program.platform.messages, noSourceMessage);
     program.platform.modalForms.setWaitCursor(true);
     Script(program).run(analyzeFile, targetFile);
     program.platform.modalForms.setWaitCursor(false);

@@ -6,15 +6,16 @@
 #include <cmath>
 #include <limits>
 
-#include "analyze/list_marks.h"
-#include "analyze/mapping_keys.h"
+#include "core/analyze_steps.h"
 #include "core/constants.h"
 #include "core/failures.h"
+#include "core/files.h"
 #include "core/kind_controls.h"
+#include "core/mapping_keys.h"
 #include "core/modules.h"
-#include "core/section_tags.h"
+#include "core/row_marks.h"
 #include "core/text.h"
-#include "core/workspace.h"
+#include "sessionfiles/section_reader.h"
 #include "sessionfiles/section_writer.h"
 #include "sessionfiles/step_codes.h"
 
@@ -22,29 +23,16 @@ namespace orvanta {
 
 namespace {
 
-struct MappingSection {
-    Section section;
-    StatementKind parentKind;
-    ListMember list;
-};
-
-constexpr std::array<MappingSection, 2> mappingSections{{
-    {Section::OpportunityMapping, StatementKind::Opportunity, &FrmMain::lvOpportunity},
-    {Section::ThreatMapping, StatementKind::Threat, &FrmMain::lvThreat},
-}};
-
 constexpr std::array knownSections{
     Section::Step,        Section::Module,  Section::Strength,           Section::Weakness,
     Section::Opportunity, Section::Threats, Section::OpportunityMapping, Section::ThreatMapping};
 
-constexpr std::array<StepCode, 6> stepCodes{{
-    {"ST", &FrmMain::fraASSummary},
-    {"WE", &FrmMain::fraAWeakness},
-    {"OP", &FrmMain::fraAOpportunity},
-    {"TH", &FrmMain::fraAThreats},
-    {"AO", &FrmMain::fraAnalyzeOpportunity},
-    {"AT", &FrmMain::fraAnalyzeThreat},
-}};
+constexpr auto stepCodes = [] {
+    std::array<StepCode, countOf<AnalyzeStep> - 1> codes{};  // the source files have none
+    for (auto next = codes.begin(); const StepControls& step : stepControls)
+        if (step.panel) *next++ = {step.code, step.panel};
+    return codes;
+}();
 
 void writeRows(SectionWriter& writer, Section section, const StatementList& list) {
     writer.open(section);
@@ -88,14 +76,7 @@ class Reading {
 public:
     Reading(FrmMain& form, bool restoreStep) : m_form(form), m_restoreStep(restoreStep) {}
 
-    void take(std::string_view line) {
-        const std::string_view trimmed = trimBlanks(line);
-        if (const auto section = m_open.takeLine(trimmed, knownSections))
-            takeData(*section, line, trimmed);
-    }
-
-private:
-    void takeData(Section section, std::string_view line, std::string_view trimmed) {
+    void operator()(Section section, std::string_view line, std::string_view trimmed) {
         if (section == Section::Step) {
             if (m_restoreStep) showStep(m_form, stepCodes, trimmed);
             return;
@@ -103,55 +84,49 @@ private:
         if (section == Section::Module) return chooseModuleByWord(m_form, trimmed);
         const auto fields = rowFieldsFrom(line);
         if (!fields) return;
-        if (const KindControls* controls = kindOfSection(section)) addStatement(*controls, *fields);
-        for (std::size_t side = 0; side < mappingSections.size(); ++side)
-            if (mappingSections[side].section == section)
-                addMappingRow(mappingSections[side], m_topRows[side], *fields);
+        if (const auto kind = kindOfSection(section)) addStatement(*kind, *fields);
+        for (const MappingSide side : mappingSides)
+            if (sideControls[side].section == section) addMappingRow(side, *fields);
     }
 
-    void addStatement(const KindControls& controls, const RowFields& fields) {
+private:
+    void addStatement(StatementKind kind, const RowFields& fields) {
         const Row row{.key = std::string(fields.key),
                       .text = std::string(fields.text),
-                      .image = imageOf(controls.kind),
-                      .largeImage = imageOf(controls.kind),
+                      .image = imageOf(kind),
+                      .largeImage = imageOf(kind),
                       .subItem = std::string(fields.sourceLabel)};
-        (m_form.*controls.analyzeList).add(row);
+        listOf(m_form, Session::Analyze, kind).add(row);
         // Opportunities and threats have mapping sections of their own.
-        for (const ListMember list : controls.pickingLists)
-            if (list) (m_form.*list).add(row);
+        if (isMappable(kind))
+            forEachCompanion(m_form, kind, [&](StatementList& list) { list.add(row); });
         if (fields.key.empty()) return;
         const double number = leadingNumber(fields.key.substr(1));
-        std::int32_t& count = keyCount(m_form, controls.kind);
+        std::int32_t& count = keyCount(m_form, kind);
         if (number > count) count = narrowed<std::int32_t>(std::nearbyint(number));
     }
 
-    void addMappingRow(const MappingSection& section, int& topRows, const RowFields& fields) {
-        const MappingKey key = mappingKeyFrom(fields.key);
+    void addMappingRow(MappingSide side, const RowFields& fields) {
         Row row{.key = std::string(fields.key),
                 .text = std::string(fields.text),
                 .subItem = std::string(fields.sourceLabel)};
-        if (key.isMapped) {
-            const StatementKind kind =
-                key.child.starts_with('S') ? StatementKind::Strength : StatementKind::Weakness;
-            addRow(section, std::move(row), imageOf(kind));
-            markMappedRow(m_form.*section.list, (m_form.*section.list).count(), kind);
-            return;
+        StatementList& list = mappingList(m_form, side);
+        const bool isMapped = mappingKeyFrom(fields.key).isMapped;
+        const StatementKind parentKind = sideControls[side].parentKind;
+        const StatementKind kind = isMapped ? mappedKindOf(fields.key) : parentKind;
+        row.image = row.largeImage = imageOf(kind);
+        if (!isMapped) {
+            ++m_parentRows[side];
+            if (trimBlanks(row.key).empty())
+                row.key = letterOf(kind) + std::to_string(m_parentRows[side]);
         }
-        ++topRows;
-        if (trimBlanks(row.key).empty())
-            row.key = letterOf(section.parentKind) + std::to_string(topRows);
-        addRow(section, std::move(row), imageOf(section.parentKind));
-    }
-
-    void addRow(const MappingSection& section, Row row, int image) {
-        row.image = row.largeImage = image;
-        (m_form.*section.list).add(std::move(row));
+        list.add(std::move(row));
+        if (isMapped) markMappedRow(list, list.count(), kind);
     }
 
     FrmMain& m_form;
     const bool m_restoreStep;
-    OpenSection m_open;
-    std::array<int, 2> m_topRows{};
+    PerSide<int> m_parentRows;
 };
 
 }  // namespace
@@ -160,10 +135,10 @@ std::string analyzeBytes(const FrmMain& form, bool withStep) {
     SectionWriter writer;
     if (withStep) writer.section(Section::Step, stepOnScreen(form, stepCodes));
     writer.section(Section::Module, chosenModuleWord(form));
-    for (const KindControls& controls : kindControls)
-        writeRows(writer, controls.section, form.*controls.analyzeList);
-    for (const MappingSection& section : mappingSections)
-        writeRows(writer, section.section, form.*section.list);
+    for (const StatementKind kind : statementKinds)
+        writeRows(writer, kindControls[kind].section, listOf(form, Session::Analyze, kind));
+    for (const SideControls& side : sideControls)
+        writeRows(writer, side.section, form.*side.mapping.list);
     return writer.finish();
 }
 
@@ -175,9 +150,7 @@ void saveAnalyzeData(Program& program, const std::string& fileName, bool TmpFlag
 void loadAnalyzeData(Program& program, const std::string& fileName, bool restoreStep) {
     if (!fileExists(program, fileName)) return;
     const std::string bytes = program.platform.disk.read(fileName);
-    Reading reading(program.frmMain, restoreStep);
-    LineSource lines(bytes);
-    while (const auto line = lines.next()) reading.take(*line);
+    readSections(bytes, knownSections, Reading(program.frmMain, restoreStep));
 }
 
 }  // namespace orvanta

@@ -3,11 +3,11 @@
 #include <array>
 
 #include "core/failures.h"
+#include "core/files.h"
 #include "core/kind_controls.h"
 #include "core/modules.h"
-#include "core/section_tags.h"
 #include "core/text.h"
-#include "core/workspace.h"
+#include "sessionfiles/section_reader.h"
 #include "sessionfiles/section_writer.h"
 #include "sessionfiles/step_codes.h"
 
@@ -21,47 +21,39 @@ struct Escaping {
     bool written, read;
 };
 
-constexpr std::array<Escaping, 4> escapings{
-    {{true, true}, {false, true}, {false, true}, {false, false}}};
-
-const Escaping& escapingOf(StatementKind kind) { return escapings[indexOf(kind)]; }
+constexpr PerKind<Escaping> escapings{{
+    {StatementKind::Strength, {.written = true, .read = true}},
+    {StatementKind::Weakness, {.written = false, .read = true}},
+    {StatementKind::Opportunity, {.written = false, .read = true}},
+    {StatementKind::Threat, {.written = false, .read = false}},
+}};
 
 constexpr std::array knownSections{Section::Step,     Section::Name,     Section::Module,
                                    Section::Strength, Section::Weakness, Section::Opportunity,
                                    Section::Threats};
 
-constexpr std::array<StepCode, 4> stepCodes{{
-    {"ST", &FrmMain::fraStrength},
-    {"WE", &FrmMain::fraWeakness},
-    {"OP", &FrmMain::fraOpportunity},
-    {"TH", &FrmMain::fraThreats},
-}};
+constexpr auto stepCodes = [] {
+    std::array<StepCode, countOf<StatementKind>> codes{};
+    for (auto next = codes.begin(); const StatementKind kind : statementKinds)
+        *next++ = {kindWords[kind].stepCode, kindControls[kind].questionPanel};
+    return codes;
+}();
 
 std::string writtenText(StatementKind kind, const Row& row) {
     const std::string_view text = trimBlanks(row.text);
-    return escapingOf(kind).written ? replaceAll(text, "<", "&lt;") : std::string(text);
+    return escapings[kind].written ? replaceAll(text, "<", "&lt;") : std::string(text);
 }
 
 std::string readText(StatementKind kind, std::string_view trimmed) {
-    return escapingOf(kind).read ? replaceAll(trimmed, "&lt;", "<") : std::string(trimmed);
+    return escapings[kind].read ? replaceAll(trimmed, "&lt;", "<") : std::string(trimmed);
 }
 
 class Reading {
 public:
-    Reading(Program& program, bool intoBrainstorm, bool restoreStep)
-        : m_program(program),
-          m_form(program.frmMain),
-          m_intoBrainstorm(intoBrainstorm),
-          m_restoreStep(restoreStep) {}
+    Reading(Program& program, Session into, bool restoreStep)
+        : m_program(program), m_form(program.frmMain), m_into(into), m_restoreStep(restoreStep) {}
 
-    void take(std::string_view line) {
-        const std::string_view trimmed = trimBlanks(line);
-        if (const auto section = m_open.takeLine(trimmed, knownSections))
-            takeData(*section, line, trimmed);
-    }
-
-private:
-    void takeData(Section section, std::string_view line, std::string_view trimmed) {
+    void operator()(Section section, std::string_view line, std::string_view trimmed) {
         if (section == Section::Step) {
             if (m_restoreStep) showStep(m_form, stepCodes, trimmed);
         } else if (section == Section::Name) {
@@ -69,25 +61,25 @@ private:
             m_sourceLabel = "[" + std::string(trimmed) + "]: ";
         } else if (section == Section::Module) {
             chooseModuleByWord(m_form, trimmed);
-        } else if (const KindControls* controls = kindOfSection(section)) {
-            addRow(*controls, trimmed);
+        } else if (const auto kind = kindOfSection(section)) {
+            addRow(*kind, trimmed);
         }
     }
 
-    void addRow(const KindControls& controls, std::string_view trimmed) {
-        Row row{.key = getNextKey(m_program, controls.kind),
-                .text = readText(controls.kind, trimmed),
-                .image = imageOf(controls.kind),
-                .largeImage = imageOf(controls.kind)};
-        if (!m_intoBrainstorm) row.subItem = m_sourceLabel;
-        const ListMember list = m_intoBrainstorm ? controls.brainstormList : controls.analyzeList;
-        (m_form.*list).add(std::move(row));
+private:
+    void addRow(StatementKind kind, std::string_view trimmed) {
+        Row row{.key = getNextKey(m_program, kind),
+                .text = readText(kind, trimmed),
+                .image = imageOf(kind),
+                .largeImage = imageOf(kind)};
+        if (m_into == Session::Analyze) row.subItem = m_sourceLabel;
+        listOf(m_form, m_into, kind).add(std::move(row));
     }
 
     Program& m_program;
     FrmMain& m_form;
-    const bool m_intoBrainstorm, m_restoreStep;
-    OpenSection m_open;
+    const Session m_into;
+    const bool m_restoreStep;
     std::string m_sourceLabel;
 };
 
@@ -98,12 +90,12 @@ std::string brainstormBytes(const FrmMain& form, bool withStep) {
     if (withStep) writer.section(Section::Step, stepOnScreen(form, stepCodes));
     writer.section(Section::Name, form.txtName.text());
     writer.section(Section::Module, chosenModuleWord(form));
-    for (const KindControls& controls : kindControls) {
-        const StatementList& list = form.*controls.brainstormList;
-        writer.open(controls.section);
+    for (const StatementKind kind : statementKinds) {
+        const StatementList& list = listOf(form, Session::Brainstorm, kind);
+        writer.open(kindControls[kind].section);
         for (int position = 1; position <= list.count(); ++position)
-            writer.line(writtenText(controls.kind, list.row(position)));
-        writer.close(controls.section);
+            writer.line(writtenText(kind, list.row(position)));
+        writer.close(kindControls[kind].section);
     }
     return writer.finish();
 }
@@ -119,9 +111,8 @@ void loadBrainstormData(Program& program, const std::string& fileName, std::stri
                         bool restoreStep) {
     if (!fileExists(program, fileName)) return;
     const std::string bytes = program.platform.disk.read(fileName);
-    Reading reading(program, target == "BS", restoreStep);
-    LineSource lines(bytes);
-    while (const auto line = lines.next()) reading.take(*line);
+    const Session into = target == "BS" ? Session::Brainstorm : Session::Analyze;
+    readSections(bytes, knownSections, Reading(program, into, restoreStep));
 }
 
 }  // namespace orvanta

@@ -5,11 +5,10 @@
 
 #include "core/constants.h"
 #include "core/failures.h"
+#include "core/files.h"
 #include "core/kind_controls.h"
 #include "core/messages.h"
-#include "core/section_tags.h"
-#include "core/text.h"
-#include "core/workspace.h"
+#include "sessionfiles/section_reader.h"
 #include "sessionfiles/section_writer.h"
 
 namespace orvanta {
@@ -22,36 +21,26 @@ constexpr std::array knownSections{Section::Module, Section::Strength, Section::
 
 struct Merged {
     std::string moduleWord;
-    std::array<std::vector<std::string>, 4> statements;
+    PerKind<std::vector<std::string>> statements;
 };
 
-void takeData(Merged& merged, Section section, std::string_view line) {
-    if (section == Section::Module) {
-        merged.moduleWord = trimBlanks(line);
-        return;
-    }
-    // Statements of blanks only are dropped.
-    const std::string_view text = trimBlanks(line);
-    if (text.empty()) return;
-    merged.statements[indexOf(kindOfSection(section)->kind)].emplace_back(text);
-}
-
 void readSource(std::string_view bytes, Merged& merged) {
-    OpenSection open;
-    LineSource lines(bytes);
-    while (const auto line = lines.next())
-        if (const auto section = open.takeLine(trimBlanks(*line), knownSections))
-            takeData(merged, *section, *line);
+    readSections(bytes, knownSections,
+                 [&](Section section, std::string_view, std::string_view trimmed) {
+                     if (section == Section::Module)
+                         merged.moduleWord = trimmed;
+                     else if (!trimmed.empty())  // statements of blanks only are dropped
+                         merged.statements[*kindOfSection(section)].emplace_back(trimmed);
+                 });
 }
 
 std::string bytesOf(const Merged& merged) {
     SectionWriter writer;
     writer.section(Section::Module, merged.moduleWord);
-    for (const KindControls& controls : kindControls) {
-        writer.open(controls.section);
-        for (const std::string& statement : merged.statements[indexOf(controls.kind)])
-            writer.line(statement);
-        writer.close(controls.section);
+    for (const StatementKind kind : statementKinds) {
+        writer.open(kindControls[kind].section);
+        for (const std::string& statement : merged.statements[kind]) writer.line(statement);
+        writer.close(kindControls[kind].section);
     }
     return writer.finish();
 }
@@ -61,9 +50,7 @@ std::string bytesOf(const Merged& merged) {
 void mergeBrainstormFiles(Program& program) {
     reportingFailures(program.platform.messages, [&] {
         FrmMain& form = program.frmMain;
-        form.cd.fileName.clear();
-        form.cd.showSave();
-        const std::string target = form.cd.fileName;
+        const std::string target = form.cd.askToSave();
         if (fileExists(program, target) &&
             !mayOverwrite(program.platform.messages, std::string(appTitle)))
             return;

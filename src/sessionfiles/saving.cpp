@@ -2,10 +2,10 @@
 
 #include "core/constants.h"
 #include "core/failures.h"
-#include "core/main_window.h"
+#include "core/files.h"
 #include "core/messages.h"
-#include "core/modules.h"
-#include "core/workspace.h"
+#include "core/remembered_paths.h"
+#include "core/session.h"
 #include "sessionfiles/analyze_file.h"
 #include "sessionfiles/brainstorm_file.h"
 
@@ -14,122 +14,98 @@ namespace orvanta {
 namespace {
 
 /// What differs between the two sessions.
-struct Session {
-    bool FrmMain::*flag;
-    std::string FrmMain::*lastPath;
-    std::string_view setting, filter;
-    Panel FrmMain::*panel;
+struct SavedSession {
+    RememberedPath path;
+    std::string_view filter;
     void (*save)(Program&, const std::string&, bool);
     std::string (Program::*temporaryFile)() const;
     std::string_view doneMessage, savePrompt;
-    bool (*dialog)(Program&);
 };
 
-constexpr Session brainstormSession{&FrmMain::editFlag,
-                                    &FrmMain::lastPathBSM,
-                                    lastSavedPathBSM,
-                                    brainstormFilter,
-                                    &FrmMain::fraBrainstorm,
-                                    saveBrainstormData,
-                                    &Program::brainstormTemporaryFile,
-                                    "Your brainstorming session completed.",
-                                    "Do you want to save changes in brainstorm session?",
-                                    saveBrainstormDialog};
+constexpr PerSession<SavedSession> savedSessions{{
+    {Session::Brainstorm,
+     {.path = brainstormPath,
+      .filter = brainstormFilter,
+      .save = saveBrainstormData,
+      .temporaryFile = &Program::brainstormTemporaryFile,
+      .doneMessage = "Your brainstorming session completed.",
+      .savePrompt = "Do you want to save changes in brainstorm session?"}},
+    {Session::Analyze,
+     {.path = analyzePath,
+      .filter = analyzeFilter,
+      .save = saveAnalyzeData,
+      .temporaryFile = &Program::analyzeTemporaryFile,
+      .doneMessage = "Your analyze session completed.",
+      .savePrompt = "Do you want to save changes in analyze session?"}},
+}};
 
-constexpr Session analyzeSession{&FrmMain::editAFlag,
-                                 &FrmMain::lastPathAZE,
-                                 lastSavedPathAZE,
-                                 analyzeFilter,
-                                 &FrmMain::fraAnalyze,
-                                 saveAnalyzeData,
-                                 &Program::analyzeTemporaryFile,
-                                 "Your analyze session completed.",
-                                 "Do you want to save changes in analyze session?",
-                                 saveAnalyzeDialog};
+bool& editFlag(FrmMain& form, Session session) { return form.*sessionControls[session].editFlag; }
 
-bool writeChosenFile(Program& program, const Session& session) {
+bool writeChosenFile(Program& program, const SavedSession& session) {
     FrmMain& form = program.frmMain;
-    form.cd.initialPath = form.*session.lastPath;
-    form.cd.filter = session.filter;
-    form.cd.fileName.clear();
-    form.cd.showSave();
-    const std::string path = form.cd.fileName;
+    const std::string path = form.cd.askToSave(session.filter, form.*session.path.member);
     if (fileExists(program, path) &&
         !mayOverwrite(program.platform.messages, std::string(appTitle)))
         return false;
-    rememberPath(program, session.setting, session.lastPath, path);
+    rememberPath(program, session.path, path);
     session.save(program, path, false);
     return true;
 }
 
-bool saveDialog(Program& program, const Session& session) {
-    FrmMain& form = program.frmMain;
+void deleteTemporaryFile(Program& program, Session session) {
+    const CarryOn step;
+    step([&] { deleteIfThere(program, (program.*savedSessions[session].temporaryFile)()); });
+}
+
+bool saveDialog(Program& program, Session session) {
     const CarryOn step;
     bool written = false;
-    step([&] { written = writeChosenFile(program, session); });
+    step([&] { written = writeChosenFile(program, savedSessions[session]); });
     if (!written) return false;
-    step([&] { deleteIfThere(program, (program.*session.temporaryFile)()); });
-    inform(program.platform.messages, session.doneMessage);
-    form.fraBrainstorm.hide();  // for both sessions; the Analyze wizard hides its own panel
-    form.*session.flag = false;
+    deleteTemporaryFile(program, session);
+    inform(program.platform.messages, savedSessions[session].doneMessage);
+    // For both sessions; the Analyze wizard hides its own panel.
+    program.frmMain.fraBrainstorm.hide();
+    editFlag(program.frmMain, session) = false;
     clearJournal(program);
     return true;
 }
 
-bool promptSave(Program& program, const Session& session) {
-    const CarryOn step;
-    FrmMain& form = program.frmMain;
-    if (form.*session.flag) {
+bool promptSave(Program& program, Session session) {
+    bool& unsaved = editFlag(program.frmMain, session);
+    if (unsaved) {
         const MessageAnswer answer =
-            program.platform.messages.show({.text = std::string(session.savePrompt),
+            program.platform.messages.show({.text = std::string(savedSessions[session].savePrompt),
                                             .icon = MessageIcon::Question,
                                             .buttons = MessageButtons::YesNoCancel,
                                             .defaultAnswer = MessageAnswer::Yes});
         if (answer == MessageAnswer::Cancel) return false;
-        if (answer == MessageAnswer::Yes && !session.dialog(program)) return false;
-        form.*session.flag = false;
+        if (answer == MessageAnswer::Yes && !saveDialog(program, session)) return false;
+        unsaved = false;
     }
-    step([&] { deleteIfThere(program, (program.*session.temporaryFile)()); });
+    deleteTemporaryFile(program, session);
     return true;
 }
 
 }  // namespace
 
-bool saveBrainstormDialog(Program& program) { return saveDialog(program, brainstormSession); }
-bool saveAnalyzeDialog(Program& program) { return saveDialog(program, analyzeSession); }
-bool promptSaveBrainstorm(Program& program) { return promptSave(program, brainstormSession); }
-bool promptSaveAnalyze(Program& program) { return promptSave(program, analyzeSession); }
+bool saveBrainstormDialog(Program& program) { return saveDialog(program, Session::Brainstorm); }
+bool saveAnalyzeDialog(Program& program) { return saveDialog(program, Session::Analyze); }
+bool promptSaveBrainstorm(Program& program) { return promptSave(program, Session::Brainstorm); }
+bool promptSaveAnalyze(Program& program) { return promptSave(program, Session::Analyze); }
 
-void openBrainstormFile(Program& program) {
-    FrmMain& form = program.frmMain;
-    const bool unsaved = form.editFlag, unsavedAnalysis = form.editAFlag;
-    if (!promptSaveBrainstorm(program) || !promptSaveAnalyze(program)) return;
-    const CarryOn step;
-    const bool opened = step([&] {
-        form.cd.initialPath = form.lastPathBSM;
-        form.cd.filter = brainstormFilter;
-        form.cd.fileName.clear();
-        form.cd.showOpen();
-        const std::string path = form.cd.fileName;
-        rememberPath(program, lastSavedPathBSM, &FrmMain::lastPathBSM, path);
-        clearJournal(program);
-        openBrainstormModule(program);
-        loadBrainstormData(program, path, "BS", false);
-        for (const Module& module : modules) (form.*module.option).setEnabled(false);
-    });
-    if (opened) return;
-    form.editFlag = unsaved;
-    form.editAFlag = unsavedAnalysis;
+bool mayLeaveSessions(Program& program) {
+    return promptSaveBrainstorm(program) && promptSaveAnalyze(program);
 }
 
 void tickAutoSave(Program& program) {
     FrmMain& form = program.frmMain;
     if (!form.editFlag && !form.editAFlag) return;
     // A changed brainstorm session comes first, also when it is off the screen.
-    const Session& session = form.editFlag ? brainstormSession : analyzeSession;
-    if (!(form.*session.panel).isVisible()) return;
-    const std::string path = (program.*session.temporaryFile)();
-    session.save(program, path, true);
+    const Session session = form.editFlag ? Session::Brainstorm : Session::Analyze;
+    if (!(form.*sessionControls[session].panel).isVisible()) return;
+    const std::string path = (program.*savedSessions[session].temporaryFile)();
+    savedSessions[session].save(program, path, true);
     if (form.autoSaveFailed || fileExists(program, path)) return;
     refuse(program.platform.messages,
            "Warning! Could not create autosave file. Auto Save feature is disabled.");

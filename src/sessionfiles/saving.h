@@ -12,8 +12,8 @@ bool saveAnalyzeDialog(Program& program);
 /// Offers to save unsaved changes. False if the caller must not go on.
 bool promptSaveBrainstorm(Program& program);
 bool promptSaveAnalyze(Program& program);
-
-void openBrainstormFile(Program& program);
+/// Both, brainstorm first; a No-go of the first leaves the second unasked.
+bool mayLeaveSessions(Program& program);
 
 /// One tick of the autosave timer: copies a session with changes to its temporary file.
 void tickAutoSave(Program& program);

@@ -9,10 +9,26 @@ std::string withFilterEnding(const std::string& path, const std::string& filter)
     return pattern == std::string::npos ? path : path + filter.substr(pattern + 2);
 }
 
-void FileDialog::show(FileDialogMode mode) {
+void FileDialog::prepare(std::string_view newFilter, const std::string& newInitialPath) {
+    filter = newFilter;
+    initialPath = newInitialPath;
+}
+
+std::string FileDialog::ask(FileDialogMode mode) {
+    fileName.clear();
     const auto chosen = m_dialogs.choose({mode, filter, initialPath, fileName});
     if (!chosen) throw Failure(ErrorNumber::Cancelled);
-    fileName = mode == FileDialogMode::Save ? withFilterEnding(*chosen, filter) : *chosen;
+    return fileName = mode == FileDialogMode::Save ? withFilterEnding(*chosen, filter) : *chosen;
+}
+
+std::string FileDialog::askToOpen(std::string_view newFilter, const std::string& newInitialPath) {
+    prepare(newFilter, newInitialPath);
+    return ask(FileDialogMode::Open);
+}
+
+std::string FileDialog::askToSave(std::string_view newFilter, const std::string& newInitialPath) {
+    prepare(newFilter, newInitialPath);
+    return ask(FileDialogMode::Save);
 }
 
 }  // namespace orvanta

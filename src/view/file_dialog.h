@@ -13,13 +13,16 @@ public:
 
     std::string filter, initialPath, fileName;
 
-    /// Each puts the chosen path in fileName, or fails with Cancelled. Saving adds the ending
-    /// of the filter to a name that has no point.
-    void showOpen() { show(FileDialogMode::Open); }
-    void showSave() { show(FileDialogMode::Save); }
+    // Each asks for a path, with an empty name at first, keeps it in fileName and gives it, or
+    // fails with Cancelled. Saving adds the ending of the filter to a name that has no point.
+    std::string askToOpen(std::string_view newFilter, const std::string& newInitialPath);
+    std::string askToSave(std::string_view newFilter, const std::string& newInitialPath);
+    /// The same with the filter and the initial path of the last use.
+    std::string askToSave() { return ask(FileDialogMode::Save); }
 
 private:
-    void show(FileDialogMode mode);
+    void prepare(std::string_view newFilter, const std::string& newInitialPath);
+    std::string ask(FileDialogMode mode);
 
     FileDialogs& m_dialogs;
 };

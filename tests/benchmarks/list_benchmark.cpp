@@ -2,10 +2,11 @@
 
 #include <ctime>
 
-#include "analyze/list_marks.h"
 #include "analyze/mapping.h"
 #include "analyze/statements.h"
 #include "bench.h"
+#include "core/list_ranking.h"
+#include "core/row_marks.h"
 #include "journal/journal.h"
 
 namespace orvanta::benchmarks {

@@ -4,11 +4,11 @@
 
 #include <memory>
 
-#include "report_bench.h"
 #include "analysis_bench.h"
 #include "presentation/about_box.h"
 #include "presentation/edit_dialog.h"
 #include "presentation/splash.h"
+#include "report_bench.h"
 #include "reports/report_dialog.h"
 
 namespace orvanta::test {
@@ -158,7 +158,7 @@ TEST_P(LayoutOn, IsThatOfEachDialogWhenItIsShown) {
     Platform platform = withOthers(world, forms, world.wordProcessors);
     Program program(platform, "app", "app");
     showSplash(program);
-    showEditDialog(program, "BS", "text");
+    showEditDialog(program, Session::Brainstorm, StatementKind::Strength, "text");
     openReportDialog(program);
     openAboutBox(program);
     ASSERT_EQ(forms.widths.size(), 4);

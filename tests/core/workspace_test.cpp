@@ -1,9 +1,8 @@
-#include "core/workspace.h"
-
 #include <gtest/gtest.h>
 
 #include "analysis_bench.h"
-#include "core/constants.h"
+#include "core/files.h"
+#include "core/remembered_paths.h"
 
 namespace orvanta::test {
 namespace {
@@ -29,7 +28,7 @@ TEST(Path, ToAFileIsNoFolder) {
 TEST(RememberedPath, IsStoredForLaterRunsAndHeldInThisOne) {
     Bench bench;
     bench.start();
-    rememberPath(bench.program(), lastSavedPathRTF, &FrmMain::lastPathRTF, "docs/report.rtf");
+    rememberPath(bench.program(), documentPath, "docs/report.rtf");
     bench.play({{"do", "activate"}});
     EXPECT_EQ(bench.events(), Json::array({setting("LastSavedPathRTF", "docs/report.rtf")}));
     EXPECT_EQ(bench.form().lastPathRTF, "docs/report.rtf");

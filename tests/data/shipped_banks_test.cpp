@@ -8,6 +8,7 @@
 #include "analysis_bench.h"
 #include "core/text.h"
 #include "data_folder.h"
+#include "questions/bank_reader.h"
 #include "questions/question_banks.h"
 
 namespace orvanta::test {

@@ -31,10 +31,10 @@ protected:
             shown = true;
             preview->reject();
         });
-        PreviewingPrinter().print(
-            {"sbd",
-             "Sales & Business Development",
-             {{{"Strength?"}, {"Weakness?"}, {"Opportunity?"}, {"Threat?"}}}});
+        QuestionSheets sheets{"sbd", "Sales & Business Development", {}};
+        for (const StatementKind kind : statementKinds)
+            sheets.questions[kind] = {std::string(nameOf(kind)) + "?"};
+        PreviewingPrinter().print(sheets);
         EXPECT_TRUE(shown);
     }
 

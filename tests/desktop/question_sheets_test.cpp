@@ -23,8 +23,8 @@ QuestionSheets sheetsWith(int questions, const std::string& text = "What do we d
     QuestionSheets sheets{"mp", "Marketing", {}};
     for (const StatementKind kind : statementKinds)
         for (int i = 1; i <= questions; ++i)
-            sheets.questions[indexOf(kind)].push_back(std::string(1, letterOf(kind)) +
-                                                      std::to_string(i) + ": " + text);
+            sheets.questions[kind].push_back(std::string(1, letterOf(kind)) + std::to_string(i) +
+                                             ": " + text);
     return sheets;
 }
 
@@ -77,7 +77,7 @@ TEST_P(Paper, HoldsEachLineAboveItsFoot) {
 
 TEST(QuestionSheetPages, KeepTheNumberAndTheRulesOfAQuestionWithoutWords) {
     QuestionSheets sheets = sheetsWith(3);
-    sheets.questions[0][1].clear();
+    sheets.questions[StatementKind::Strength][1].clear();
     std::string numbers;
     int rules = 0;
     const std::vector<SheetPage> pages = pagesOf(sheets);

@@ -4,9 +4,8 @@
 
 #include <algorithm>
 
-#include "core/startup.h"
-#include "core/window_events.h"
-#include "presentation/skinned_buttons.h"
+#include "app/startup.h"
+#include "app/window_events.h"
 #include "state.h"
 #include "words.h"
 
@@ -107,8 +106,8 @@ void Driver::watchMainWindow() {
         control->focusGiven.subscribe([this, control] {
             m_log.add({{"event", "focus"}, {"control", control->name()}});
         });
-    for (std::size_t i = 0; i < buttonCount; ++i) {
-        SkinnedButton& button = m_program.frmMain.buttons[static_cast<Button>(i)];
+    for (const Button which : allOf<Button>) {
+        SkinnedButton& button = m_program.frmMain.buttons[which];
         button.image.artAssigned.subscribe([this, &button] {
             const Art art = button.image.art();
             const bool pressed = art == Art::SmallDown || art == Art::LargeDown;
@@ -183,9 +182,9 @@ Kind& Driver::reachable(const std::string& name) {
 
 Button Driver::buttonOf(const Json& line) const {
     const std::string name = stringIn(line, "button");
-    const ButtonDesign* design = buttonNamed(name);
-    if (!design) throw Refused("there is no such button: " + name);
-    return design->button;
+    const auto button = buttonNamed(name);
+    if (!button) throw Refused("there is no such button: " + name);
+    return *button;
 }
 
 void Driver::refuseWhileHeld(Button button) const {

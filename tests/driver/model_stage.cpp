@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "core/window_events.h"
+#include "app/window_events.h"
 #include "stage.h"
 
 namespace orvanta::driver {
@@ -60,17 +60,17 @@ public:
     void run(FrmEdit& form, const std::vector<EditStep>& steps) override {
         for (const EditStep& step : steps)
             if (form.open) act(form, step);
-        cancelEdit(form);
+        form.close();
     }
 
     void run(FrmReportType& form, const std::vector<ReportStep>& steps) override {
         for (const ReportStep& step : steps)
             if (form.open && form.enabled) act(form, step);
-        closeReportDialog(form);
+        form.close();
     }
 
     void run(FrmSplash&) override {}
-    void run(FrmAbout& form) override { closeAboutBox(form); }
+    void run(FrmAbout& form) override { form.close(); }
 
 private:
     void typeCharacter(TextBox& box, char character) {
@@ -115,7 +115,7 @@ private:
                 acceptReport(*m_program, form);
                 break;
             case ReportStep::Act::Cancel:
-                closeReportDialog(form);
+                form.close();
                 break;
             case ReportStep::Act::Picture:
                 break;

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "core/list_commands.h"
+#include "app/list_commands.h"
 #include "core/session_state.h"
 #include "presentation/about_box.h"
 #include "presentation/edit_dialog.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "core/modules.h"
-#include "questions/question_banks.h"
+#include "core/statement_lists.h"
 
 namespace orvanta::driver {
 

@@ -17,7 +17,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "core/window_events.h"
+#include "app/window_events.h"
 #include "desktop/conversions.h"
 #include "desktop/dialogs.h"
 #include "desktop/file_chooser.h"

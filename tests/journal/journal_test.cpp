@@ -1,8 +1,7 @@
-#include "journal/journal.h"
-
 #include <gtest/gtest.h>
 
 #include "analysis_bench.h"
+#include "journal/journal_records.h"
 
 namespace orvanta::test {
 namespace {

@@ -4,9 +4,10 @@
 #include <random>
 
 #include "analysis_bench.h"
-#include "core/window_events.h"
-#include "presentation/skinned_buttons.h"
+#include "app/window_events.h"
+#include "core/statement_lists.h"
 #include "reference_session.h"
+#include "words.h"
 
 namespace orvanta::test {
 
@@ -162,7 +163,7 @@ private:
     }
     void release(char module, char kind, const std::string& verb) {
         const std::string name = std::string(1, module) + kind + verb;
-        buttonReleased(program, buttonNamed(name)->button);
+        buttonReleased(program, *driver::buttonNamed(name));
     }
 
     std::vector<std::pair<StatementList*, ReferenceRows*>> m_pairs;

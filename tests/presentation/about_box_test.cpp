@@ -21,8 +21,8 @@ TEST(AboutBox, ClosesOnce) {
     FrmAbout form;
     int closings = 0;
     form.closed.subscribe([&] { ++closings; });
-    closeAboutBox(form);
-    closeAboutBox(form);
+    form.close();
+    form.close();
     EXPECT_FALSE(form.open);
     EXPECT_EQ(closings, 1);
 }

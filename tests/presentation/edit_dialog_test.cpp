@@ -28,7 +28,10 @@ protected:
     }
     void edit(const Json& steps, const std::string& code = GetParam().name) {
         bench.play({{"answer", "frmEdit"}, {"steps", steps}});
-        showEditDialog(bench.program(), code, "Old");
+        FrmEdit form;
+        form.fromControl = code;
+        form.txtEdit.setText("Old");
+        bench.program().platform.modalForms.run(form);
         bench.play({{"do", "mute"}, {"on", false}});  // brings the events of the dialog along
     }
     static Json typed(const std::string& text, const std::string& press = "ok") {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "analysis_bench.h"
-#include "questions/question_banks.h"
+#include "questions/bank_reader.h"
 
 namespace orvanta::test {
 namespace {

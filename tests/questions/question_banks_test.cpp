@@ -1,5 +1,3 @@
-#include "questions/question_banks.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -7,6 +5,8 @@
 
 #include "analysis_bench.h"
 #include "failure_of.h"
+#include "questions/bank_reader.h"
+#include "questions/question_banks.h"
 
 namespace orvanta::test {
 namespace {

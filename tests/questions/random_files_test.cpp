@@ -6,6 +6,7 @@
 #include "analysis_bench.h"
 #include "core/text.h"
 #include "failure_of.h"
+#include "questions/bank_reader.h"
 #include "questions/question_banks.h"
 
 namespace orvanta::test {

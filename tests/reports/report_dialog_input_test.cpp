@@ -248,7 +248,7 @@ TEST_F(ReportDialogInput, GoesOnWaitingWithoutAWordWhereTheAnalysisCanNotBeRead)
 
 TEST_F(ReportDialogInput, JustClosesOnCancel) {
     form.txtEdit.setText("docs/team.aze");
-    closeReportDialog(form);
+    form.close();
     bench.play({{"do", "state"}});
     EXPECT_FALSE(form.open);
     EXPECT_EQ(bench.events(), Json::array());

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "analyze/list_marks.h"
 #include "bench.h"
+#include "core/row_marks.h"
 #include "full_analysis.h"
 
 namespace orvanta::test {

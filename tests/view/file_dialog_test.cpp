@@ -31,44 +31,53 @@ protected:
         dialog.initialPath = "docs";
         dialog.fileName = "before";
     }
+    std::string open() { return dialog.askToOpen("All Analyze Files (*.aze)|*.aze", "work"); }
     PreparedDialogs dialogs;
     FileDialog dialog{dialogs};
 };
 
-TEST_F(FileDialogTest, StartsFromTheValuesThatWereSet) {
+TEST_F(FileDialogTest, StartsFromWhatItIsGivenAndAnEmptyName) {
     dialogs.answers = {"docs/a.bsm"};
-    dialog.showOpen();
+    open();
     ASSERT_EQ(dialogs.requests.size(), 1u);
     EXPECT_EQ(dialogs.requests[0].mode, FileDialogMode::Open);
+    EXPECT_EQ(dialogs.requests[0].filter, "All Analyze Files (*.aze)|*.aze");
+    EXPECT_EQ(dialogs.requests[0].initialPath, "work");
+    EXPECT_EQ(dialogs.requests[0].fileName, "");
+}
+
+TEST_F(FileDialogTest, StartsFromTheLastUseWhereItIsGivenNothing) {
+    dialogs.answers = {"docs/a.bsm"};
+    dialog.askToSave();
+    ASSERT_EQ(dialogs.requests.size(), 1u);
     EXPECT_EQ(dialogs.requests[0].filter, brainstormFiles);
     EXPECT_EQ(dialogs.requests[0].initialPath, "docs");
-    EXPECT_EQ(dialogs.requests[0].fileName, "before");
+    EXPECT_EQ(dialogs.requests[0].fileName, "");
 }
 
 TEST_F(FileDialogTest, PutsTheChosenPathInTheFileNameAndKeepsTheRest) {
     dialogs.answers = {"docs/a.bsm"};
-    dialog.showOpen();
+    EXPECT_EQ(dialog.askToSave(), "docs/a.bsm");
     EXPECT_EQ(dialog.fileName, "docs/a.bsm");
     EXPECT_EQ(dialog.filter, brainstormFiles);
     EXPECT_EQ(dialog.initialPath, "docs");
 }
 
-TEST_F(FileDialogTest, FailsOnCancelAndKeepsTheFileName) {
+TEST_F(FileDialogTest, FailsOnCancelAndHoldsNoFileName) {
     dialogs.answers = {std::nullopt, std::nullopt};
-    EXPECT_EQ(failureOf([&] { dialog.showOpen(); }), 32755);
-    EXPECT_EQ(failureOf([&] { dialog.showSave(); }), 32755);
-    EXPECT_EQ(dialog.fileName, "before");
+    EXPECT_EQ(failureOf([&] { open(); }), 32755);
+    EXPECT_EQ(failureOf([&] { dialog.askToSave(); }), 32755);
+    EXPECT_EQ(dialog.fileName, "");
 }
 
 TEST_F(FileDialogTest, TakesAPathToOpenAsItIs) {
     dialogs.answers = {"docs/team"};
-    dialog.showOpen();
-    EXPECT_EQ(dialog.fileName, "docs/team");
+    EXPECT_EQ(open(), "docs/team");
 }
 
 TEST_F(FileDialogTest, AddsTheEndingToAPathToSave) {
     dialogs.answers = {"docs/team"};
-    dialog.showSave();
+    dialog.askToSave();
     EXPECT_EQ(dialogs.requests[0].mode, FileDialogMode::Save);
     EXPECT_EQ(dialog.fileName, "docs/team.bsm");
 }
