@@ -33,7 +33,7 @@ void copyRows(FrmMain& form, StatementKind kind) {
 
 void addAnalyzeSourceFile(Program& program) {
     FrmMain& form = program.frmMain;
-    const CarryOn step;
+    const BestEffort step;
     std::string path;
     if (!step([&] { path = form.cd.askToOpen(brainstormFilter, form.lastPathBSM); })) return;
     if (!fileExists(program, path)) return;

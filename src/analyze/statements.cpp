@@ -11,6 +11,8 @@
 
 namespace orvanta {
 
+using enum StatementKind;
+
 namespace {
 
 StatementList& mainList(Program& program, StatementKind kind) {
@@ -127,33 +129,17 @@ void removeAnalyzeStatement(Program& program, StatementKind kind) {
     (isMappable(kind) ? removePicked : removeParent)(program, kind);
 }
 
-void addAnalyzeStrength(Program& program) { addAnalyzeStatement(program, StatementKind::Strength); }
-void addAnalyzeWeakness(Program& program) { addAnalyzeStatement(program, StatementKind::Weakness); }
-void addAnalyzeOpportunity(Program& program) {
-    addAnalyzeStatement(program, StatementKind::Opportunity);
-}
-void addAnalyzeThreat(Program& program) { addAnalyzeStatement(program, StatementKind::Threat); }
-void editAnalyzeStrength(Program& program) {
-    editAnalyzeStatement(program, StatementKind::Strength);
-}
-void editAnalyzeWeakness(Program& program) {
-    editAnalyzeStatement(program, StatementKind::Weakness);
-}
-void editAnalyzeOpportunity(Program& program) {
-    editAnalyzeStatement(program, StatementKind::Opportunity);
-}
-void editAnalyzeThreat(Program& program) { editAnalyzeStatement(program, StatementKind::Threat); }
-void removeAnalyzeStrength(Program& program) {
-    removeAnalyzeStatement(program, StatementKind::Strength);
-}
-void removeAnalyzeWeakness(Program& program) {
-    removeAnalyzeStatement(program, StatementKind::Weakness);
-}
-void removeAnalyzeOpportunity(Program& program) {
-    removeAnalyzeStatement(program, StatementKind::Opportunity);
-}
-void removeAnalyzeThreat(Program& program) {
-    removeAnalyzeStatement(program, StatementKind::Threat);
-}
+void addAnalyzeStrength(Program& program) { addAnalyzeStatement(program, Strength); }
+void addAnalyzeWeakness(Program& program) { addAnalyzeStatement(program, Weakness); }
+void addAnalyzeOpportunity(Program& program) { addAnalyzeStatement(program, Opportunity); }
+void addAnalyzeThreat(Program& program) { addAnalyzeStatement(program, Threat); }
+void editAnalyzeStrength(Program& program) { editAnalyzeStatement(program, Strength); }
+void editAnalyzeWeakness(Program& program) { editAnalyzeStatement(program, Weakness); }
+void editAnalyzeOpportunity(Program& program) { editAnalyzeStatement(program, Opportunity); }
+void editAnalyzeThreat(Program& program) { editAnalyzeStatement(program, Threat); }
+void removeAnalyzeStrength(Program& program) { removeAnalyzeStatement(program, Strength); }
+void removeAnalyzeWeakness(Program& program) { removeAnalyzeStatement(program, Weakness); }
+void removeAnalyzeOpportunity(Program& program) { removeAnalyzeStatement(program, Opportunity); }
+void removeAnalyzeThreat(Program& program) { removeAnalyzeStatement(program, Threat); }
 
 }  // namespace orvanta

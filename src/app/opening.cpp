@@ -69,7 +69,7 @@ void openBrainstormFile(Program& program) {
     FrmMain& form = program.frmMain;
     const bool unsaved = form.editFlag, unsavedAnalysis = form.editAFlag;
     if (!mayLeaveSessions(program)) return;
-    const CarryOn step;
+    const BestEffort step;
     const bool opened = step([&] {
         const std::string path = form.cd.askToOpen(brainstormFilter, form.lastPathBSM);
         rememberPath(program, brainstormPath, path);
@@ -87,7 +87,7 @@ void openAnalyzeFile(Program& program) {
     FrmMain& form = program.frmMain;
     const bool unsaved = form.editAFlag;
     if (!promptSaveAnalyze(program)) return;
-    const CarryOn step;
+    const BestEffort step;
     const bool opened = step([&] {
         const std::string path = form.cd.askToOpen(analyzeFilter, form.lastPathAZE);
         rememberPath(program, analyzePath, path);

@@ -37,7 +37,7 @@ void showRecovered(FrmMain& form, Session session) {
 }
 
 void showRecoveredBrainstorm(Program& program) {
-    const CarryOn step;
+    const BestEffort step;
     FrmMain& form = program.frmMain;
     if (const Module* module = chosenModule(form)) {
         bool bankIsWhole = true;  // a bank that can't be read at all is passed over
@@ -55,7 +55,7 @@ void showRecoveredBrainstorm(Program& program) {
 }  // namespace
 
 void recoverSession(Program& program) {
-    const CarryOn step;
+    const BestEffort step;
     FrmMain& form = program.frmMain;
     if (fileExists(program, program.brainstormTemporaryFile())) {
         step([&] { loadBrainstormData(program, program.brainstormTemporaryFile(), "BS", true); });

@@ -18,7 +18,7 @@ void makeFolderIfMissing(Program& program, const std::string& path) {
 }  // namespace
 
 void startProgram(Program& program) {
-    const CarryOn step;
+    const BestEffort step;
     step([&] { makeFolderIfMissing(program, program.scratchPath + pathSeparator + "System"); });
     // The window comes first and its folder second: an interrupted session is back on screen
     // before the splash, and while it loads workFolder is still empty.

@@ -8,6 +8,8 @@
 
 namespace orvanta {
 
+using enum StatementKind;
+
 void addBrainstormStatement(Program& program, StatementKind kind) {
     FrmMain& form = program.frmMain;
     const StatementControls& controls = controlsOf(Session::Brainstorm, kind);
@@ -47,42 +49,20 @@ void removeBrainstormStatement(Program& program, StatementKind kind) {
     form.editFlag = true;
 }
 
-void addBrainstormStrength(Program& program) {
-    addBrainstormStatement(program, StatementKind::Strength);
-}
-void addBrainstormWeakness(Program& program) {
-    addBrainstormStatement(program, StatementKind::Weakness);
-}
-void addBrainstormOpportunity(Program& program) {
-    addBrainstormStatement(program, StatementKind::Opportunity);
-}
-void addBrainstormThreat(Program& program) {
-    addBrainstormStatement(program, StatementKind::Threat);
-}
-void editBrainstormStrength(Program& program) {
-    editBrainstormStatement(program, StatementKind::Strength);
-}
-void editBrainstormWeakness(Program& program) {
-    editBrainstormStatement(program, StatementKind::Weakness);
-}
-void editBrainstormOpportunity(Program& program) {
-    editBrainstormStatement(program, StatementKind::Opportunity);
-}
-void editBrainstormThreat(Program& program) {
-    editBrainstormStatement(program, StatementKind::Threat);
-}
-void removeBrainstormStrength(Program& program) {
-    removeBrainstormStatement(program, StatementKind::Strength);
-}
-void removeBrainstormWeakness(Program& program) {
-    removeBrainstormStatement(program, StatementKind::Weakness);
-}
+void addBrainstormStrength(Program& program) { addBrainstormStatement(program, Strength); }
+void addBrainstormWeakness(Program& program) { addBrainstormStatement(program, Weakness); }
+void addBrainstormOpportunity(Program& program) { addBrainstormStatement(program, Opportunity); }
+void addBrainstormThreat(Program& program) { addBrainstormStatement(program, Threat); }
+void editBrainstormStrength(Program& program) { editBrainstormStatement(program, Strength); }
+void editBrainstormWeakness(Program& program) { editBrainstormStatement(program, Weakness); }
+void editBrainstormOpportunity(Program& program) { editBrainstormStatement(program, Opportunity); }
+void editBrainstormThreat(Program& program) { editBrainstormStatement(program, Threat); }
+void removeBrainstormStrength(Program& program) { removeBrainstormStatement(program, Strength); }
+void removeBrainstormWeakness(Program& program) { removeBrainstormStatement(program, Weakness); }
 void removeBrainstormOpportunity(Program& program) {
-    removeBrainstormStatement(program, StatementKind::Opportunity);
+    removeBrainstormStatement(program, Opportunity);
 }
-void removeBrainstormThreat(Program& program) {
-    removeBrainstormStatement(program, StatementKind::Threat);
-}
+void removeBrainstormThreat(Program& program) { removeBrainstormStatement(program, Threat); }
 
 bool isAllowedInName(char character) {
     return std::string_view("<|>/\\:*?\"").find(character) == std::string_view::npos;

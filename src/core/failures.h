@@ -35,7 +35,7 @@ void endingEventOnFailure(Lifetime& lifetime, Steps steps) {
 }
 
 /// Runs each step that it is given; a failing one is passed over and nothing is said.
-class CarryOn {
+class BestEffort {
 public:
     /// True if the step went through.
     template <class Step>

@@ -176,7 +176,7 @@ private:
     FrmMain& m_form;
     const Record& m_record;
     const bool m_countersToUndo;
-    const CarryOn m_step{};
+    const BestEffort m_step{};
 };
 
 }  // namespace

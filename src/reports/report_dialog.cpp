@@ -92,7 +92,7 @@ void openReportDialog(Program& program) {
 
 void browseForAnalyzeFile(Program& program, FrmReportType& form) {
     FrmMain& main = program.frmMain;
-    const CarryOn step;
+    const BestEffort step;
     std::string path;
     if (!step([&] { path = main.cd.askToOpen(analyzeFilter, main.lastPathAZE); })) return;
     form.txtEdit.setText(path);
@@ -100,7 +100,7 @@ void browseForAnalyzeFile(Program& program, FrmReportType& form) {
 }
 
 void acceptReport(Program& program, FrmReportType& form) {
-    const CarryOn step;
+    const BestEffort step;
     step([&] { generate(program, form); });
 }
 

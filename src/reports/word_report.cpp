@@ -442,7 +442,7 @@ private:
     }
 
     Program& m_program;
-    const CarryOn m_step{};
+    const BestEffort m_step{};
     ReportLists m_lists;
     WordRef m_wordApp, m_wordDoc, m_wordSelection, m_docRange, m_currentTable, m_subTable;
     int m_tableRow = 0, m_subRow = 0;

@@ -143,7 +143,7 @@ std::string analyzeBytes(const FrmMain& form, bool withStep) {
 }
 
 void saveAnalyzeData(Program& program, const std::string& fileName, bool TmpFlag) {
-    const CarryOn step;
+    const BestEffort step;
     step([&] { program.platform.disk.replace(fileName, analyzeBytes(program.frmMain, TmpFlag)); });
 }
 

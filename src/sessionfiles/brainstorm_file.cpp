@@ -101,7 +101,7 @@ std::string brainstormBytes(const FrmMain& form, bool withStep) {
 }
 
 void saveBrainstormData(Program& program, const std::string& fileName, bool TmpFlag) {
-    const CarryOn step;
+    const BestEffort step;
     step([&] {
         program.platform.disk.replace(fileName, brainstormBytes(program.frmMain, TmpFlag));
     });

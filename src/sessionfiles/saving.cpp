@@ -53,12 +53,12 @@ bool writeChosenFile(Program& program, const SavedSession& session) {
 }
 
 void deleteTemporaryFile(Program& program, Session session) {
-    const CarryOn step;
+    const BestEffort step;
     step([&] { deleteIfThere(program, (program.*savedSessions[session].temporaryFile)()); });
 }
 
 bool saveDialog(Program& program, Session session) {
-    const CarryOn step;
+    const BestEffort step;
     bool written = false;
     step([&] { written = writeChosenFile(program, savedSessions[session]); });
     if (!written) return false;
