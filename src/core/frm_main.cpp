@@ -2,8 +2,10 @@
 
 #include <array>
 #include <initializer_list>
+#include <utility>
 
 #include "core/design_grid.h"
+#include "core/display_scaling.h"
 #include "core/kind_controls.h"
 
 namespace orvanta {
@@ -18,9 +20,9 @@ constexpr Stretch atBottom{0, 1, 0, 1};
 constexpr Stretch atBottomRight{1, 1, 1, 1};
 
 void place(Control& control, Panel* container, Bounds bounds, Stretch stretch = fixed) {
-    control.container = container;
+    control.setContainer(container);
     control.setBounds(bounds);
-    control.stretch = stretch;
+    control.setStretch(stretch);
 }
 
 constexpr double largeWidth = 168, largeHeight = 40, smallWidth = 88, smallHeight = 32;
@@ -28,8 +30,8 @@ constexpr double largeWidth = 168, largeHeight = 40, smallWidth = 88, smallHeigh
 void placeButton(SkinnedButton& button, Panel* container, Bounds bounds, Stretch stretch = fixed) {
     place(button.image, container, bounds, stretch);
     place(button.label, container, bounds, stretch);
-    button.label.fontSize = {9.75};
-    button.label.bold = true;
+    button.label.setFontSize({9.75});
+    button.label.setBold(true);
 }
 
 void placeSmall(SkinnedButton& button, Panel& container, double left, double top, Stretch stretch) {
@@ -54,14 +56,14 @@ void placeTopLevel(FrmMain& form) {
         top += 48;
     }
     // Each module has a Quit of its own beside this one.
-    form.buttons[Button::Quit].image.accessibleName = "Quit Orvanta";
+    form.buttons[Button::Quit].image.setAccessibleName("Quit Orvanta");
     place(form.chkMute, nullptr, grid(20, top + 8, 160, 24));
     place(form.cmdUndo, nullptr, grid(16, top + 48, 80, 36));
     place(form.cmdRedo, nullptr, grid(104, top + 48, 80, 36));
     form.cmdUndo.setToolTip("Click here to undo last change.");
     form.cmdRedo.setToolTip("Click here to redo last change.");
-    form.cmdUndo.accessibleName = "Undo";
-    form.cmdRedo.accessibleName = "Redo";
+    form.cmdUndo.setAccessibleName("Undo");
+    form.cmdRedo.setAccessibleName("Redo");
     form.cmdUndo.setVisible(false);
     form.cmdRedo.setVisible(false);
     for (Image* source :
@@ -98,11 +100,11 @@ void placeWizardButtons(FrmMain& form) {
 void placeModuleChoice(FrmMain& form) {
     Panel& panel = form.fraBrainstorm;
     place(form.lblName, &panel, grid(24, 20, 400, 20));
-    form.lblName.bold = true;
+    form.lblName.setBold(true);
     place(form.txtName, &panel, grid(24, 44, 480, 32), wide);
-    form.txtName.accessibleName = form.lblName.caption();
+    form.txtName.setAccessibleName(form.lblName.caption());
     place(form.lblModules, &panel, grid(24, 100, 480, 20), wide);
-    form.lblModules.bold = true;
+    form.lblModules.setBold(true);
     place(form.lblSelectModule, &panel, grid(24, 124, 480, 40), wide);
     double top = 176;
     for (Option* option : {&form.optGBS, &form.optMP, &form.optSBD, &form.optPSD, &form.optHRP}) {
@@ -120,7 +122,7 @@ void placeModuleChoice(FrmMain& form) {
              &form.lblName, &form.txtName, &form.lblModules, &form.lblSelectModule, &form.optGBS,
              &form.optMP, &form.optSBD, &form.optPSD, &form.optHRP, &form.picBOpen,
              &form.picBtnPrint, &form.lblDistribute})
-        covered->coveredBy = &form.brainstormSteps;
+        covered->setCoveredBy(&form.brainstormSteps);
 }
 
 struct ListScreen {
@@ -136,15 +138,15 @@ constexpr double listWidth = 608, sideButtons = 648;
 
 void placeListScreen(FrmMain& form, const ListScreen& screen) {
     place(screen.heading, &screen.panel, grid(24, 20, 712, 56), wide);
-    screen.heading.fontSize = {11.25};
-    screen.heading.bold = true;
+    screen.heading.setFontSize({11.25});
+    screen.heading.setBold(true);
     place(screen.box, &screen.panel, grid(24, 88, listWidth, 32), wide);
     placeSmall(form.buttons[screen.buttons.add], screen.panel, sideButtons, 88, atRight);
     place(screen.list, &screen.panel, grid(24, 136, listWidth, 372), whole);
     placeSmall(form.buttons[screen.buttons.edit], screen.panel, sideButtons, 136, atRight);
     placeSmall(form.buttons[screen.buttons.remove], screen.panel, sideButtons, 176, atRight);
-    screen.box.accessibleName = "New " + screen.kind;
-    screen.list.accessibleName = screen.kind + " list";
+    screen.box.setAccessibleName("New " + screen.kind);
+    screen.list.setAccessibleName(screen.kind + " list");
 }
 
 void placeListScreens(FrmMain& form) {
@@ -179,17 +181,17 @@ void placeHeadedList(Label& heading, StatementList& list, Panel& panel, Bounds a
     Bounds top = area;
     top.height = gridLength(20);
     place(heading, &panel, top, {stretch.left, stretch.top, stretch.right, stretch.top});
-    heading.bold = true;
+    heading.setBold(true);
     place(list, &panel, area + grid(0, 24, 0, -24), stretch);
-    list.accessibleName = heading.caption();
+    list.setAccessibleName(heading.caption());
 }
 
 void placeMappingScreen(FrmMain& form, const MappingScreen& screen) {
     Panel& panel = form.*screen.panel;
     Label& instruction = form.*screen.instruction;
     place(instruction, &panel, grid(24, 20, 712, 56), wide);
-    instruction.fontSize = {11.25};
-    instruction.bold = true;
+    instruction.setFontSize({11.25});
+    instruction.setBold(true);
     placeHeadedList(form.*screen.parents, form.*screen.parentList, panel, grid(24, 88, 396, 420),
                     {0, 0, 0.5, 1});
     placeHeadedList(form.*screen.strengths, form.*screen.strengthList, panel,
@@ -201,18 +203,18 @@ void placeMappingScreen(FrmMain& form, const MappingScreen& screen) {
 void placeSourceFiles(FrmMain& form) {
     Panel& panel = form.fraAnalyze;
     place(form.Label16, &panel, grid(24, 16, 608, 24));
-    form.Label16.fontSize = {11.25};
-    form.Label16.bold = true;
+    form.Label16.setFontSize({11.25});
+    form.Label16.setBold(true);
     place(form.Label10, &panel, grid(24, 48, 608, 20));
     place(form.lstFiles, &panel, grid(24, 80, listWidth, 428), whole);
-    form.lstFiles.accessibleName = form.Label16.caption();
+    form.lstFiles.setAccessibleName(form.Label16.caption());
     placeSmall(form.buttons[Button::AFAdd], panel, sideButtons, 80, atRight);
     placeSmall(form.buttons[Button::AFRemove], panel, sideButtons, 120, atRight);
     for (Control* covered : std::initializer_list<Control*>{
              &form.Label16, &form.Label10, &form.lstFiles, &form.buttons[Button::AFAdd].image,
              &form.buttons[Button::AFAdd].label, &form.buttons[Button::AFRemove].image,
              &form.buttons[Button::AFRemove].label})
-        covered->coveredBy = &form.analyzeSteps;
+        covered->setCoveredBy(&form.analyzeSteps);
 }
 
 void placePanels(FrmMain& form) {
@@ -237,6 +239,37 @@ constexpr std::string_view builtInInstruction =
     "Before we move on, take a look through your list and see if there are any that should drop "
     "off or perhaps be consolidated with others.";
 
+constexpr std::array<std::pair<Panel FrmMain::*, Button>, 8> fittedHolders{{
+    {&FrmMain::picAOAFile, Button::OAFile},
+    {&FrmMain::picABack, Button::ABack},
+    {&FrmMain::picANext, Button::ANext},
+    {&FrmMain::picAQuit, Button::AQuit},
+    {&FrmMain::picBOpen, Button::BOpen},
+    {&FrmMain::picBBack, Button::BBack},
+    {&FrmMain::picBNext, Button::BNext},
+    {&FrmMain::picBQuit, Button::BQuit},
+}};
+
+void fitHolder(Panel& holder, const Image& picture) {
+    Bounds bounds = holder.bounds();
+    bounds.width = picture.bounds().width;
+    bounds.height = picture.bounds().height;
+    holder.setBounds(bounds);
+}
+
+void widen(Control& control, double share) {
+    Bounds bounds = control.bounds();
+    bounds.width = bounds.width + bounds.width * share;
+    control.setBounds(bounds);
+}
+
+void shrinkControl(Control& control, double delta, bool commonLargeFonts) {
+    if (control.is<Panel>()) return reducePlace(control, delta);
+    reduceBounds(control, delta);
+    lowerFont<Label, Option>(control, commonLargeFonts ? 2 : 3);
+    if (control.is<Option>() && commonLargeFonts) widen(control, 0.01);
+}
+
 }  // namespace
 
 FrmMain::FrmMain(FileDialogs& dialogs)
@@ -251,6 +284,19 @@ FrmMain::FrmMain(FileDialogs& dialogs)
     for (Label* instruction : {&lblAStrength, &lblAWeakness, &lblAOpportunity, &lblAThreats,
                                &lblAOMapping, &lblATMapping})
         instruction->setCaption(std::string(builtInInstruction));
+}
+
+void shrinkForLargeFonts(FrmMain& form, double twipsPerPixel) {
+    const double delta = layoutDelta(twipsPerPixel);
+    if (delta == 0) return;
+    const bool commonLargeFonts = delta == 3;
+    form.width = reduced(form.width, delta);
+    // The vertical factor was tuned by eye and is not the delta.
+    form.height = reduced(form.height, commonLargeFonts ? 1.3 : 1.2);
+    for (Control* control : form.controls.all()) shrinkControl(*control, delta, commonLargeFonts);
+    for (const auto& [holder, button] : fittedHolders)
+        fitHolder(form.*holder, form.buttons[button].image);
+    form.sizeChanged();
 }
 
 }  // namespace orvanta

@@ -139,6 +139,9 @@ struct FrmMain {
     std::int32_t keyCountS = 0, keyCountW = 0, keyCountO = 0, keyCountT = 0;
 };
 
+/// Fits the layout to a display with large fonts; any other leaves it as designed.
+void shrinkForLargeFonts(FrmMain& form, double twipsPerPixel);
+
 /// The fourteen statement lists, Brainstorm first.
 inline constexpr std::array<StatementList FrmMain::*, 14> statementLists{
     &FrmMain::lvBStrength,    &FrmMain::lvBWeakness,   &FrmMain::lvBOpportunity,

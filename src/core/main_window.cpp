@@ -4,7 +4,6 @@
 #include <initializer_list>
 
 #include "core/constants.h"
-#include "core/display_scaling.h"
 #include "core/failures.h"
 #include "core/kind_controls.h"
 #include "core/modules.h"

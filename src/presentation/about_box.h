@@ -25,6 +25,9 @@ struct FrmAbout {
     Notice closed;
 };
 
+/// Fits the layout to a display with large fonts; any other leaves it as designed.
+void shrinkForLargeFonts(FrmAbout& form, double twipsPerPixel);
+
 void openAboutBox(Program& program);
 void closeAboutBox(FrmAbout& form);
 void openSupportPage(Program& program);

@@ -21,6 +21,9 @@ struct FrmEdit {
     Notice closed;
 };
 
+/// Fits the layout to a display with large fonts; any other leaves it as designed.
+void shrinkForLargeFonts(FrmEdit& form, double twipsPerPixel);
+
 /// Shows the text of the list's selected row for rewording and waits until the dialog has
 /// closed.
 void showEditDialog(Program& program, const std::string& fromControl, const std::string& text);

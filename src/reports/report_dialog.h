@@ -27,6 +27,9 @@ struct FrmReportType {
     Notice closed;
 };
 
+/// Fits the layout to a display with large fonts; any other leaves it as designed.
+void shrinkForLargeFonts(FrmReportType& form, double twipsPerPixel);
+
 /// The Reports button: stops the narration, shows the dialog and waits until it has closed.
 void openReportDialog(Program& program);
 

@@ -14,7 +14,7 @@ constexpr std::uint64_t firstRank = std::uint64_t{1} << 62;
 }  // namespace
 
 StatementList::StatementList(ControlSet& owner, std::string name, AfterRemoval afterRemoval)
-    : Control(owner, std::move(name), ControlKind::List), m_afterRemoval(afterRemoval) {}
+    : Control(owner, std::move(name), this), m_afterRemoval(afterRemoval) {}
 
 StatementList::Entry& StatementList::entry(int position) const {
     if (position < 1 || position > count()) throw Failure(ErrorNumber::IndexOutOfBounds);
