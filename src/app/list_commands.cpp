@@ -40,11 +40,7 @@ std::vector<ListCommand> listCommandsOf(const FrmMain& form, const Control& list
 }
 
 bool isOffered(const Control& list, const ListCommand& command) {
-    if (command.needs == Needs::Nothing) return true;
-    if (const auto* statements = dynamic_cast<const StatementList*>(&list))
-        return statements->selected() != 0;
-    const auto* files = dynamic_cast<const ListBox*>(&list);
-    return files && files->selectedIndex() >= 0;
+    return command.needs == Needs::Nothing || list.hasSelection();
 }
 
 }  // namespace orvanta

@@ -2,7 +2,6 @@
 
 #include "app/recovery.h"
 #include "core/constants.h"
-#include "core/display_scaling.h"
 #include "core/files.h"
 #include "core/modules.h"
 #include "questions/bank_reader.h"

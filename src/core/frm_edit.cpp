@@ -14,19 +14,29 @@ void placeButton(SkinnedButton& button, double left, const Bounds& caption,
     button.image.setArt(Art::SmallNormal);
     button.label.setBounds(caption);
     button.label.setCaption(text);
-    button.label.fontSize = {9.75};
-    button.label.bold = true;
+    button.label.setFontSize({9.75});
+    button.label.setBold(true);
 }
 
 }  // namespace
 
 FrmEdit::FrmEdit() {
     Label1.setBounds({{240}, {360}, {1455}, {210}});
-    Label1.bold = true;
+    Label1.setBold(true);
     txtEdit.setBounds({{240}, {720}, {7095}, {375}});
-    txtEdit.accessibleName = Label1.caption();
+    txtEdit.setAccessibleName(Label1.caption());
     placeButton(btnCancel, 140, {{2400}, {1680}, {735}, {240}}, "Cancel");
     placeButton(btnOk, 278, {{4680}, {1680}, {300}, {240}}, "OK");
+}
+
+void shrinkForLargeFonts(FrmEdit& form, double twipsPerPixel) {
+    const double delta = layoutDelta(twipsPerPixel);
+    if (delta == 0) return;
+    form.width = reduced(form.width, delta);  // the height stays, unlike the report dialog's
+    for (Control* control : form.controls.all()) {
+        reduceBounds(*control, delta);
+        lowerFont<Label>(*control, 2);
+    }
 }
 
 void showEditDialog(Program& program, Session session, StatementKind kind,

@@ -21,6 +21,9 @@ struct FrmEdit : ModalForm {
     std::string fromControl;  // "BS" to "AT": session and statement kind
 };
 
+/// Fits the layout to a display with large fonts; any other leaves it as designed.
+void shrinkForLargeFonts(FrmEdit& form, double twipsPerPixel);
+
 /// Shows a text of a list for rewording and waits until the dialog has closed.
 void showEditDialog(Program& program, Session session, StatementKind kind, const std::string& text);
 

@@ -1,9 +1,12 @@
 #include "core/frm_main.h"
 
+#include <array>
 #include <initializer_list>
+#include <utility>
 
 #include "core/analyze_steps.h"
 #include "core/design_grid.h"
+#include "core/display_scaling.h"
 #include "core/kind_controls.h"
 #include "core/modules.h"
 
@@ -19,9 +22,9 @@ constexpr Stretch atBottom{0, 1, 0, 1};
 constexpr Stretch atBottomRight{1, 1, 1, 1};
 
 void place(Control& control, Panel* container, Bounds bounds, Stretch stretch = fixed) {
-    control.container = container;
+    control.setContainer(container);
     control.setBounds(bounds);
-    control.stretch = stretch;
+    control.setStretch(stretch);
 }
 
 constexpr double largeWidth = 168, largeHeight = 40, smallWidth = 88, smallHeight = 32;
@@ -29,8 +32,8 @@ constexpr double largeWidth = 168, largeHeight = 40, smallWidth = 88, smallHeigh
 void placeButton(SkinnedButton& button, Panel* container, Bounds bounds, Stretch stretch = fixed) {
     place(button.image, container, bounds, stretch);
     place(button.label, container, bounds, stretch);
-    button.label.fontSize = {9.75};
-    button.label.bold = true;
+    button.label.setFontSize({9.75});
+    button.label.setBold(true);
 }
 
 void placeSmall(SkinnedButton& button, Panel& container, double left, double top, Stretch stretch) {
@@ -55,14 +58,14 @@ void placeTopLevel(FrmMain& form) {
         top += 48;
     }
     // Each module has a Quit of its own beside this one.
-    form.buttons[Button::Quit].image.accessibleName = "Quit Orvanta";
+    form.buttons[Button::Quit].image.setAccessibleName("Quit Orvanta");
     place(form.chkMute, nullptr, grid(20, top + 8, 160, 24));
     place(form.cmdUndo, nullptr, grid(16, top + 48, 80, 36));
     place(form.cmdRedo, nullptr, grid(104, top + 48, 80, 36));
     form.cmdUndo.setToolTip("Click here to undo last change.");
     form.cmdRedo.setToolTip("Click here to redo last change.");
-    form.cmdUndo.accessibleName = "Undo";
-    form.cmdRedo.accessibleName = "Redo";
+    form.cmdUndo.setAccessibleName("Undo");
+    form.cmdRedo.setAccessibleName("Redo");
     form.cmdUndo.setVisible(false);
     form.cmdRedo.setVisible(false);
     for (Image* source :
@@ -112,18 +115,18 @@ void placeWizardButtons(FrmMain& form) {
 void placeModuleChoice(FrmMain& form) {
     Panel& panel = form.fraBrainstorm;
     place(form.lblName, &panel, grid(24, 20, 400, 20));
-    form.lblName.bold = true;
+    form.lblName.setBold(true);
     place(form.txtName, &panel, grid(24, 44, 480, 32), wide);
-    form.txtName.accessibleName = form.lblName.caption();
+    form.txtName.setAccessibleName(form.lblName.caption());
     place(form.lblModules, &panel, grid(24, 100, 480, 20), wide);
-    form.lblModules.bold = true;
+    form.lblModules.setBold(true);
     place(form.lblSelectModule, &panel, grid(24, 124, 480, 40), wide);
     double top = 176;
     for (const ModuleId module : offeredModules) {
         Option& option = form.*modules[module].option;
         place(option, &panel, grid(32, top, 460, 24), wide);
         option.setVisible(false);
-        option.coveredBy = &form.brainstormSteps;
+        option.setCoveredBy(&form.brainstormSteps);
         top += 24;
     }
     const Bounds large = grid(544, 44, largeWidth + 24, largeHeight);
@@ -135,15 +138,15 @@ void placeModuleChoice(FrmMain& form) {
     for (Control* covered : std::initializer_list<Control*>{
              &form.lblName, &form.txtName, &form.lblModules, &form.lblSelectModule, &form.picBOpen,
              &form.picBtnPrint, &form.lblDistribute})
-        covered->coveredBy = &form.brainstormSteps;
+        covered->setCoveredBy(&form.brainstormSteps);
 }
 
 constexpr double listWidth = 608, sideButtons = 648;
 
 void placeHeading(Label& heading, Panel& panel) {
     place(heading, &panel, grid(24, 20, 712, 56), wide);
-    heading.fontSize = {11.25};
-    heading.bold = true;
+    heading.setFontSize({11.25});
+    heading.setBold(true);
 }
 
 void placeListScreen(FrmMain& form, Panel& panel, Label& heading, StatementKind kind,
@@ -156,8 +159,8 @@ void placeListScreen(FrmMain& form, Panel& panel, Label& heading, StatementKind 
     place(list, &panel, grid(24, 136, listWidth, 372), whole);
     placeSmall(form.buttons[controls.buttons.edit], panel, sideButtons, 136, atRight);
     placeSmall(form.buttons[controls.buttons.remove], panel, sideButtons, 176, atRight);
-    box.accessibleName = "New " + std::string(nameOf(kind));
-    list.accessibleName = std::string(nameOf(kind)) + " list";
+    box.setAccessibleName("New " + std::string(nameOf(kind)));
+    list.setAccessibleName(std::string(nameOf(kind)) + " list");
 }
 
 void placeBrainstormStep(FrmMain& form, StatementKind kind) {
@@ -172,9 +175,9 @@ void placeHeadedList(Label& heading, StatementList& list, Panel& panel, Bounds a
     Bounds top = area;
     top.height = gridLength(20);
     place(heading, &panel, top, {stretch.left, stretch.top, stretch.right, stretch.top});
-    heading.bold = true;
+    heading.setBold(true);
     place(list, &panel, area + grid(0, 24, 0, -24), stretch);
-    list.accessibleName = heading.caption();
+    list.setAccessibleName(heading.caption());
 }
 
 void placeMappingScreen(FrmMain& form, Panel& panel, Label& heading, const SideControls& side) {
@@ -206,18 +209,49 @@ void placeAnalyzeStep(FrmMain& form, const StepControls& step) {
 void placeSourceFiles(FrmMain& form) {
     Panel& panel = form.fraAnalyze;
     place(form.Label16, &panel, grid(24, 16, 608, 24));
-    form.Label16.fontSize = {11.25};
-    form.Label16.bold = true;
+    form.Label16.setFontSize({11.25});
+    form.Label16.setBold(true);
     place(form.Label10, &panel, grid(24, 48, 608, 20));
     place(form.lstFiles, &panel, grid(24, 80, listWidth, 428), whole);
-    form.lstFiles.accessibleName = form.Label16.caption();
+    form.lstFiles.setAccessibleName(form.Label16.caption());
     placeSmall(form.buttons[Button::AFAdd], panel, sideButtons, 80, atRight);
     placeSmall(form.buttons[Button::AFRemove], panel, sideButtons, 120, atRight);
     for (Control* covered : std::initializer_list<Control*>{
              &form.Label16, &form.Label10, &form.lstFiles, &form.buttons[Button::AFAdd].image,
              &form.buttons[Button::AFAdd].label, &form.buttons[Button::AFRemove].image,
              &form.buttons[Button::AFRemove].label})
-        covered->coveredBy = &form.analyzeSteps;
+        covered->setCoveredBy(&form.analyzeSteps);
+}
+
+constexpr std::array<std::pair<Panel FrmMain::*, Button>, 8> fittedHolders{{
+    {&FrmMain::picAOAFile, Button::OAFile},
+    {&FrmMain::picABack, Button::ABack},
+    {&FrmMain::picANext, Button::ANext},
+    {&FrmMain::picAQuit, Button::AQuit},
+    {&FrmMain::picBOpen, Button::BOpen},
+    {&FrmMain::picBBack, Button::BBack},
+    {&FrmMain::picBNext, Button::BNext},
+    {&FrmMain::picBQuit, Button::BQuit},
+}};
+
+void fitHolder(Panel& holder, const Image& picture) {
+    Bounds bounds = holder.bounds();
+    bounds.width = picture.bounds().width;
+    bounds.height = picture.bounds().height;
+    holder.setBounds(bounds);
+}
+
+void widen(Control& control, double share) {
+    Bounds bounds = control.bounds();
+    bounds.width = bounds.width + bounds.width * share;
+    control.setBounds(bounds);
+}
+
+void shrinkControl(Control& control, double delta, bool commonLargeFonts) {
+    if (control.is<Panel>()) return reducePlace(control, delta);
+    reduceBounds(control, delta);
+    lowerFont<Label, Option>(control, commonLargeFonts ? 2 : 3);
+    if (control.is<Option>() && commonLargeFonts) widen(control, 0.01);
 }
 
 }  // namespace
@@ -236,6 +270,19 @@ FrmMain::FrmMain(FileDialogs& dialogs)
 void showUndoRedo(FrmMain& form, bool visible) {
     form.cmdUndo.setVisible(visible);
     form.cmdRedo.setVisible(visible);
+}
+
+void shrinkForLargeFonts(FrmMain& form, double twipsPerPixel) {
+    const double delta = layoutDelta(twipsPerPixel);
+    if (delta == 0) return;
+    const bool commonLargeFonts = delta == 3;
+    form.width = reduced(form.width, delta);
+    // The vertical factor was tuned by eye and is not the delta.
+    form.height = reduced(form.height, commonLargeFonts ? 1.3 : 1.2);
+    for (Control* control : form.controls.all()) shrinkControl(*control, delta, commonLargeFonts);
+    for (const auto& [holder, button] : fittedHolders)
+        fitHolder(form.*holder, form.buttons[button].image);
+    form.sizeChanged();
 }
 
 }  // namespace orvanta

@@ -139,6 +139,9 @@ struct FrmMain {
     std::int32_t keyCountS = 0, keyCountW = 0, keyCountO = 0, keyCountT = 0;
 };
 
+/// Fits the layout to a display with large fonts; any other leaves it as designed.
+void shrinkForLargeFonts(FrmMain& form, double twipsPerPixel);
+
 using ListMember = StatementList FrmMain::*;
 
 /// Undo and Redo, shown and hidden together.

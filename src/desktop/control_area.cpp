@@ -20,7 +20,7 @@ Span stretched(double from, double length, double fromShare, double toShare, dou
 }  // namespace
 
 bool isUncovered(const Control& control) {
-    if (!control.isVisible() || (control.coveredBy && control.coveredBy->hasVisible()))
+    if (!control.isVisible() || (control.coveredBy() && control.coveredBy()->hasVisible()))
         return false;
     const auto* panel = dynamic_cast<const Panel*>(&control);
     return !panel || !panel->stack() || panel->stack()->top() == panel;
@@ -52,7 +52,7 @@ void ControlArea::showUncovered() {
 void ControlArea::raiseUncovered() {
     for (const auto& [control, widget] : m_held) {
         const auto* panel = dynamic_cast<const Panel*>(control);
-        if (!control->coveredBy && !(panel && panel->stack())) widget->raise();
+        if (!control->coveredBy() && !(panel && panel->stack())) widget->raise();
     }
 }
 
@@ -61,7 +61,7 @@ void ControlArea::resizeEvent(QResizeEvent*) { placeAll(); }
 void ControlArea::place(const Control& control, QWidget& widget) const {
     const auto exact = [this](Twips length) { return m_pixelGrid.exact(length); };
     const Bounds& bounds = control.bounds();
-    const Stretch& stretch = control.stretch;
+    const Stretch& stretch = control.stretch();
     const QSize growth = size() - designSize();
     const Span across = stretched(exact(bounds.left), exact(bounds.width), stretch.left,
                                   stretch.right, growth.width());

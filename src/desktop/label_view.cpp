@@ -27,12 +27,12 @@ void LabelView::resizeEvent(QResizeEvent* event) {
 
 void LabelView::fit() {
     constexpr double smallestShare = 0.6, step = 0.75;
-    Points size = m_model.fontSize;
+    Points size = m_model.fontSize();
     const double smallest = size.value * smallestShare;
-    setFont(m_pixelGrid.font(size, m_model.bold));
+    setFont(m_pixelGrid.font(size, m_model.isBold()));
     while (size.value - step >= smallest && heightForWidth(width()) > height()) {
         size.value -= step;
-        setFont(m_pixelGrid.font(size, m_model.bold));
+        setFont(m_pixelGrid.font(size, m_model.isBold()));
     }
 }
 
@@ -42,7 +42,7 @@ LinkView::LinkView(Label& model, Ground ground, const PixelGrid& pixelGrid, QWid
     setFocusPolicy(Qt::TabFocus);
     setAutoDefault(false);
     const auto showModel = [this, &model, pixelGrid] {
-        setFont(pixelGrid.font(model.fontSize, model.bold));
+        setFont(pixelGrid.font(model.fontSize(), model.isBold()));
         setText(shownCaption(model.caption()));
     };
     model.changed.subscribe(showModel);

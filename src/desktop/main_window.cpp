@@ -7,7 +7,9 @@
 #include <QPushButton>
 #include <QTimer>
 #include <algorithm>
+#include <cassert>
 #include <utility>
+#include <variant>
 
 #include "core/design_grid.h"
 #include "desktop/art.h"
@@ -23,6 +25,11 @@ namespace {
 constexpr int autoSaveMilliseconds = 30'000;
 constexpr double smallestShare = 0.8;  // of the design size
 constexpr int bandHeight = 64;
+
+template <class... Acts>
+struct Overloaded : Acts... {
+    using Acts::operator()...;
+};
 
 /// A panel: an opaque area of its own.
 class PanelView : public ControlArea {
@@ -95,15 +102,17 @@ MainWindow::MainWindow(Program& program, Input input)
 }
 
 ControlArea& MainWindow::areaOf(const Control& control) {
-    return control.container ? *m_panels.at(control.container) : *this;
+    return control.container() ? *m_panels.at(control.container()) : *this;
 }
 
 void MainWindow::makePanels() {
     for (Control* control : m_program.frmMain.controls.all())
-        if (auto* panel = dynamic_cast<Panel*>(control)) {
-            m_panels[panel] = new PanelView(*panel, areaOf(*panel));
-            panel->changed.subscribe([this] { screenMayDiffer(); });
-        }
+        if (auto* panel = control->as<Panel>()) makePanel(*panel);
+}
+
+void MainWindow::makePanel(Panel& panel) {
+    m_panels[&panel] = new PanelView(panel, areaOf(panel));
+    panel.changed.subscribe([this] { screenMayDiffer(); });
 }
 
 void MainWindow::makeButtons() {
@@ -147,13 +156,13 @@ void MainWindow::makeMergeLink() {
     const Label& above = m_program.frmMain.buttons[Button::AFRemove].label;
     const Label& likeness = m_program.frmMain.lblDistribute;
     m_merge.setToolTip("Join the files of the list into one new Brainstorm file.");
-    m_merge.container = above.container;
-    m_merge.coveredBy = above.coveredBy;
-    m_merge.stretch = above.stretch;
+    m_merge.setContainer(above.container());
+    m_merge.setCoveredBy(above.coveredBy());
+    m_merge.setStretch(above.stretch());
     const auto follow = [this, &above, &likeness] {
         Bounds bounds = above.bounds();
         bounds.top = bounds.top + bounds.height * 1.25;
-        m_merge.fontSize = likeness.fontSize;
+        m_merge.setFontSize(likeness.fontSize());
         m_merge.setBounds(bounds);
     };
     follow();
@@ -164,8 +173,8 @@ void MainWindow::makeMergeLink() {
 /// At the foot of the window, below the buttons of the wizards.
 void MainWindow::makeWhereabouts() {
     const FrmMain& form = m_program.frmMain;
-    m_whereabouts.fontSize = {8.25};
-    m_whereabouts.stretch = {0, 1, 1, 1};
+    m_whereabouts.setFontSize({8.25});
+    m_whereabouts.setStretch({0, 1, 1, 1});
     m_whereaboutsView = new WhereaboutsView(m_program, m_whereabouts, pixelGrid(), this);
     mirrorControl(m_whereabouts, *m_whereaboutsView, *this);
     const auto follow = [this, &form] {
@@ -178,19 +187,24 @@ void MainWindow::makeWhereabouts() {
 }
 
 void MainWindow::makeByKind(Control& control, ControlArea& area) {
-    if (auto* list = dynamic_cast<StatementList*>(&control)) {
-        mirrorControl(*list, *new StatementListView(m_program, *list, m_input, &area), area);
-    } else if (auto* box = dynamic_cast<TextBox*>(&control)) {
-        makeTextBox(*box, area, [this, box](char character) {
-            return characterTyped(m_program, *box, character);
-        });
-    } else if (auto* option = dynamic_cast<Option*>(&control)) {
-        makeOption(*option, area);
-    } else if (auto* label = dynamic_cast<Label*>(&control)) {
-        mirrorControl(*label, *new LabelView(*label, pixelGrid(), &area), area);
-    } else {
-        mirrorControl(control, *new QWidget(&area), area);  // holds the art of others, unseen
-    }
+    const auto make = Overloaded{
+        [&](StatementList* list) {
+            mirrorControl(*list, *new StatementListView(m_program, *list, m_input, &area), area);
+        },
+        [&](TextBox* box) {
+            makeTextBox(*box, area, [this, box](char character) {
+                return characterTyped(m_program, *box, character);
+            });
+        },
+        [&](Option* option) { makeOption(*option, area); },
+        [&](Label* label) {
+            mirrorControl(*label, *new LabelView(*label, pixelGrid(), &area), area);
+        },
+        // Holds the art of others, unseen.
+        [&](Image* image) { mirrorControl(*image, *new QWidget(&area), area); },
+        [](Control*) { assert(false && "the window makes this kind by name"); },
+    };
+    std::visit(make, control.self());
 }
 
 /// Tab goes as the eye does: the column at the left, then each panel row by row. Ahead of all is
@@ -239,16 +253,24 @@ const Panel* MainWindow::screen() const {
     return steps.top() ? steps.top() : module;
 }
 
-/// A new screen gets the keyboard in its text box, else in its first list.
+/// What gets the keyboard on a new screen: its text box, else its first list; null for neither.
+const Control* MainWindow::firstStop(const Panel& screen) const {
+    const Control* firstList = nullptr;
+    for (const Control* control : m_program.frmMain.controls.all()) {
+        if (control->container() != &screen || !control->isReachable()) continue;
+        if (control->is<TextBox>()) return control;
+        const bool isList = control->is<StatementList>() || control->is<ListBox>();
+        if (isList && !firstList) firstList = control;
+    }
+    return firstList;
+}
+
 void MainWindow::focusScreen() {
     m_focusPending = false;
     const Panel* shown = screen();
     if (std::exchange(m_focusedScreen, shown) == shown || !shown) return;
-    const auto& controls = m_program.frmMain.controls.all();
-    for (const ControlKind kind : {ControlKind::TextBox, ControlKind::List})
-        for (const Control* control : controls)
-            if (control->kind() == kind && control->container == shown)
-                return findChild<QWidget*>(fromCp1252(control->name()))->setFocus();
+    if (const Control* first = firstStop(*shown))
+        findChild<QWidget*>(fromCp1252(first->name()))->setFocus();
 }
 
 bool MainWindow::event(QEvent* event) {

@@ -25,6 +25,7 @@ protected:
 
 private:
     void makePanels();
+    void makePanel(Panel& panel);
     void makeButtons();
     void makeOthers();
     void makeLink(Label& label, LinkView::Ground ground, void (*clicked)(Program&));
@@ -39,6 +40,7 @@ private:
     void screenMayDiffer();
     void focusScreen();
     const Panel* screen() const;
+    const Control* firstStop(const Panel& screen) const;
 
     Program& m_program;
     Input m_input;

@@ -1,5 +1,6 @@
 #include "desktop/mirrors.h"
 
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QListWidget>
@@ -19,6 +20,16 @@ template <class Show>
 void follow(Control& model, Show show) {
     model.changed.subscribe(show);
     show();
+}
+
+void showFont(const TextControl& model, QWidget& widget, const ControlArea& area) {
+    widget.setFont(area.pixelGrid().font(model.fontSize(), model.isBold()));
+}
+
+void showCaption(const CaptionedControl& model, QAbstractButton& widget, const ControlArea& area) {
+    showFont(model, widget, area);
+    widget.setText(fromCp1252(model.caption()));
+    widget.setAccessibleName(shownCaption(model.caption()));
 }
 
 void showFiles(const ListBox& model, QListWidget& widget) {
@@ -41,16 +52,15 @@ void mirrorControl(Control& model, QWidget& widget, ControlArea& area) {
         widget.setEnabled(model.isEnabled());
         widget.setToolTip(shownToolTip(model.toolTip()));
         widget.setAccessibleDescription(fromCp1252(model.toolTip()));
-        if (!model.accessibleName.empty())
-            widget.setAccessibleName(fromCp1252(model.accessibleName));
+        if (!model.accessibleName().empty())
+            widget.setAccessibleName(fromCp1252(model.accessibleName()));
     });
     model.focusGiven.subscribe([&widget] { widget.setFocus(); });
 }
 
 TextBoxView* makeTextBox(TextBox& model, ControlArea& area, TextBoxView::Typed typed) {
     auto* widget = new TextBoxView(model, std::move(typed), &area);
-    follow(model,
-           [&model, widget, &area] { widget->setFont(area.pixelGrid().font(model.fontSize)); });
+    follow(model, [&model, widget, &area] { showFont(model, *widget, area); });
     mirrorControl(model, *widget, area);
     return widget;
 }
@@ -59,9 +69,7 @@ QRadioButton* makeOption(Option& model, ControlArea& area) {
     auto* widget = new QRadioButton(&area);
     const auto show = [&model, widget, &area] {
         const QSignalBlocker silence(widget);
-        widget->setFont(area.pixelGrid().font(model.fontSize));
-        widget->setText(fromCp1252(model.caption()));
-        widget->setAccessibleName(shownCaption(model.caption()));
+        showCaption(model, *widget, area);
         widget->setAutoExclusive(false);  // else the last one on can't be turned off
         widget->setChecked(model.isOn());
         widget->setAutoExclusive(true);
@@ -77,11 +85,9 @@ QRadioButton* makeOption(Option& model, ControlArea& area) {
 
 QCheckBox* makeCheckBox(CheckBox& model, ControlArea& area, std::function<void(bool)> clicked) {
     auto* widget = new QCheckBox(&area);
-    widget->setText(fromCp1252(model.caption()));
-    widget->setAccessibleName(shownCaption(model.caption()));
     const auto show = [&model, widget, &area] {
         const QSignalBlocker silence(widget);
-        widget->setFont(area.pixelGrid().font(model.fontSize));
+        showCaption(model, *widget, area);
         widget->setChecked(model.isOn());
     };
     follow(model, show);
@@ -95,11 +101,9 @@ QCheckBox* makeCheckBox(CheckBox& model, ControlArea& area, std::function<void(b
 }
 
 QPushButton* makePushButton(PushButton& model, ControlArea& area, std::function<void()> clicked) {
-    auto* widget = new QPushButton(fromCp1252(model.caption()), &area);
+    auto* widget = new QPushButton(&area);
     widget->setAutoDefault(false);
-    widget->setAccessibleName(shownCaption(model.caption()));
-    follow(model,
-           [&model, widget, &area] { widget->setFont(area.pixelGrid().font(model.fontSize)); });
+    follow(model, [&model, widget, &area] { showCaption(model, *widget, area); });
     whenClicked(*widget, std::move(clicked));
     mirrorControl(model, *widget, area);
     return widget;
@@ -109,7 +113,7 @@ QComboBox* makeComboBox(ComboBox& model, ControlArea& area) {
     auto* widget = new QComboBox(&area);
     follow(model, [&model, widget, &area] {
         const QSignalBlocker silence(widget);
-        widget->setFont(area.pixelGrid().font(model.fontSize));
+        showFont(model, *widget, area);
         for (auto i = static_cast<std::size_t>(widget->count()); i < model.items().size(); ++i)
             widget->addItem(fromCp1252(model.items()[i]));
         widget->setCurrentIndex(model.selectedIndex());
@@ -124,7 +128,10 @@ QListWidget* makeListBox(ListBox& model, ControlArea& area) {
     auto* widget = new QListWidget(&area);
     widget->setTextElideMode(Qt::ElideMiddle);
     widget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    follow(model, [&model, widget] { showFiles(model, *widget); });
+    follow(model, [&model, widget, &area] {
+        showFont(model, *widget, area);
+        showFiles(model, *widget);
+    });
     QObject::connect(widget, &QListWidget::itemSelectionChanged, widget, [&model, widget] {
         const auto chosen = widget->selectedItems();
         model.setSelectedIndex(chosen.isEmpty() ? -1 : widget->row(chosen.front()));

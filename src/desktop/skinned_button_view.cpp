@@ -30,7 +30,7 @@ ButtonPictureView::ButtonPictureView(SkinnedButton& model, ButtonActs acts, QWid
         m_acts.release();
     });
     const auto showName = [this, &model] {
-        if (model.image.accessibleName.empty())
+        if (model.image.accessibleName().empty())
             setAccessibleName(shownCaption(model.label.caption()));
     };
     model.label.changed.subscribe(showName);
@@ -72,7 +72,7 @@ ButtonCaptionView::ButtonCaptionView(SkinnedButton& model, ButtonActs acts,
     white.setColor(QPalette::WindowText, theme::paper);
     setPalette(white);
     const auto showModel = [this, &label = model.label, pixelGrid] {
-        setFont(pixelGrid.font(label.fontSize, label.bold));
+        setFont(pixelGrid.font(label.fontSize(), label.isBold()));
         setText(shownCaption(label.caption()));
         setAccessibleName(text());
     };

@@ -29,9 +29,9 @@ WhereaboutsView::WhereaboutsView(Program& program, Label& model, const PixelGrid
     FrmMain& form = program.frmMain;
     for (const auto list : statementLists) (form.*list).watch(*this);
     for (Control* control : form.controls.all())
-        if (dynamic_cast<orvanta::Panel*>(control) || dynamic_cast<Label*>(control))
+        if (control->is<orvanta::Panel>() || control->is<Label>())
             control->changed.subscribe([this] { mayDiffer(); });
-    const auto showSize = [this, pixelGrid] { setFont(pixelGrid.font(m_model.fontSize)); };
+    const auto showSize = [this, pixelGrid] { setFont(pixelGrid.font(m_model.fontSize())); };
     model.changed.subscribe(showSize);
     showSize();
     look();

@@ -24,6 +24,9 @@ struct FrmAbout : ModalForm {
     PushButton cmdOK{controls, "cmdOK", "OK"};
 };
 
+/// Fits the layout to a display with large fonts; any other leaves it as designed.
+void shrinkForLargeFonts(FrmAbout& form, double twipsPerPixel);
+
 void openAboutBox(Program& program);
 void openSupportPage(Program& program);
 

@@ -9,6 +9,9 @@ struct FrmSplash {
     Twips width{480 * 15.0}, height{300 * 15.0};
 };
 
+/// Fits the layout to a display with large fonts; any other leaves it as designed.
+void shrinkForLargeFonts(FrmSplash& form, double twipsPerPixel);
+
 inline constexpr int splashMilliseconds = 1000;
 
 void showSplash(Program& program);

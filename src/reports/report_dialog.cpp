@@ -69,18 +69,30 @@ FrmReportType::FrmReportType() {
     OKButton.setBounds({{3600}, {2280}, {1215}, {375}});
     CancelButton.setBounds({{2040}, {2280}, {1215}, {375}});
     lblGenerating.setBounds({{1200}, {720}, {5660}, {1520}});
-    lblGenerating.fontSize = {12};
-    for (Label* label : {&Label1, &Label2, &lblGenerating}) label->bold = true;
+    lblGenerating.setFontSize({12});
+    for (Label* label : {&Label1, &Label2, &lblGenerating}) label->setBold(true);
     for (Control* control : std::initializer_list<Control*>{&Label1, &cboFormat, &lblGenerating})
         control->setToolTip(std::string(formatToolTip));
     for (Control* control : std::initializer_list<Control*>{&Label2, &txtEdit, &cmdBrowse})
         control->setToolTip(std::string(fileToolTip));
-    cboFormat.accessibleName = Label1.caption();
-    txtEdit.accessibleName = Label2.caption();
+    cboFormat.setAccessibleName(Label1.caption());
+    txtEdit.setAccessibleName(Label2.caption());
     showGenerating(*this, false);
-    cboFormat.addItem("HTML Format");
-    cboFormat.addItem("RTF Format");
+    cboFormat.add("HTML Format");
+    cboFormat.add("RTF Format");
     cboFormat.setSelectedIndex(rtfFormat);
+}
+
+void shrinkForLargeFonts(FrmReportType& form, double twipsPerPixel) {
+    const double delta = layoutDelta(twipsPerPixel);
+    if (delta == 0) return;
+    form.width = reduced(form.width, delta);
+    form.height = reduced(form.height, delta);
+    for (Control* control : form.controls.all()) {
+        reduceBounds(*control, delta,
+                     control->is<ComboBox>() ? HeightRule::Keep : HeightRule::Reduce);
+        lowerFont<Label, TextBox, PushButton, ComboBox>(*control, 2);
+    }
 }
 
 void openReportDialog(Program& program) {

@@ -26,6 +26,9 @@ struct FrmReportType : ModalForm {
     Notice enabledChanged;
 };
 
+/// Fits the layout to a display with large fonts; any other leaves it as designed.
+void shrinkForLargeFonts(FrmReportType& form, double twipsPerPixel);
+
 /// The Reports button: stops the narration, shows the dialog and waits until it has closed.
 void openReportDialog(Program& program);
 

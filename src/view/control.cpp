@@ -1,59 +1,41 @@
 #include "view/control.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "view/failure.h"
 
 namespace orvanta {
+
+void ControlSet::add(Control& control) {
+    assert(!control.name().empty());
+    assert(!find(control.name()));
+    m_controls.push_back(&control);
+}
 
 Control* ControlSet::find(std::string_view name) const {
     const auto found = std::ranges::find(m_controls, name, &Control::name);
     return found == m_controls.end() ? nullptr : *found;
 }
 
-Control::Control(ControlSet& owner, std::string name, ControlKind kind)
-    : m_name(std::move(name)), m_kind(kind) {
+Control::Control(ControlSet& owner, std::string name, AnyControl self)
+    : m_name(std::move(name)), m_self(self) {
     owner.add(*this);
-}
-
-void Control::setVisible(bool visible) {
-    if (visible == m_visible) return;
-    m_visible = visible;
-    changed();
-}
-
-void Control::setEnabled(bool enabled) {
-    if (enabled == m_enabled) return;
-    m_enabled = enabled;
-    changed();
-}
-
-void Control::setToolTip(std::string toolTip) {
-    if (toolTip == m_toolTip) return;
-    m_toolTip = std::move(toolTip);
-    changed();
-}
-
-void Control::setBounds(Bounds bounds) {
-    if (bounds == m_bounds) return;
-    m_bounds = bounds;
-    changed();
 }
 
 bool Control::isReachable() const {
     if (!m_enabled || !m_visible) return false;
-    if (coveredBy && coveredBy->hasVisible()) return false;
-    for (const Panel* panel = container; panel; panel = panel->container) {
+    if (m_coveredBy && m_coveredBy->hasVisible()) return false;
+    for (const Panel* panel = m_container; panel; panel = panel->container()) {
         if (!panel->isVisible()) return false;
         if (panel->stack() && panel->stack()->top() != panel) return false;
-        if (panel->coveredBy && panel->coveredBy->hasVisible()) return false;
+        if (panel->coveredBy() && panel->coveredBy()->hasVisible()) return false;
     }
     return true;
 }
 
 void PanelStack::raise(Panel& panel) {
     const auto place = std::ranges::find(m_bottomToTop, &panel);
+    assert(place != m_bottomToTop.end());
     std::rotate(place, place + 1, m_bottomToTop.end());
 }
 
@@ -64,7 +46,7 @@ Panel* PanelStack::top() const {
 }
 
 Panel::Panel(ControlSet& owner, std::string name, PanelStack* stack)
-    : Control(owner, std::move(name), ControlKind::PictureBox), m_stack(stack) {
+    : Control(owner, std::move(name), this), m_stack(stack) {
     if (stack) stack->add(*this);
 }
 
@@ -74,87 +56,39 @@ void Panel::setVisible(bool visible) {
     if (visible) raised();
 }
 
-Label::Label(ControlSet& owner, std::string name, std::string caption)
-    : Control(owner, std::move(name), ControlKind::Label), m_caption(std::move(caption)) {}
-
-void Label::setCaption(std::string caption) {
-    if (caption == m_caption) return;
-    m_caption = std::move(caption);
-    changed();
-}
-
-TextBox::TextBox(ControlSet& owner, std::string name, std::size_t maxLength)
-    : Control(owner, std::move(name), ControlKind::TextBox), m_maxLength(maxLength) {}
-
-void TextBox::setText(std::string text) {
-    if (text == m_text) return;
-    m_text = std::move(text);
-    changed();
-}
-
-void OptionGroup::turnOffAllBut(const Option& chosen) {
-    for (Option* option : m_options)
-        if (option != &chosen) option->setOn(false);
-}
-
-Option::Option(ControlSet& owner, std::string name, OptionGroup& group, std::string caption)
-    : Control(owner, std::move(name), ControlKind::Option),
-      m_group(group),
-      m_caption(std::move(caption)) {
-    group.add(*this);
-}
-
-void Option::setOn(bool on) {
-    if (on) m_group.turnOffAllBut(*this);
-    if (on == m_on) return;
-    m_on = on;
-    changed();
-}
-
-CheckBox::CheckBox(ControlSet& owner, std::string name, std::string caption)
-    : Control(owner, std::move(name), ControlKind::CheckBox), m_caption(std::move(caption)) {}
-
-void CheckBox::setOn(bool on) {
-    if (on == m_on) return;
-    m_on = on;
-    changed();
-}
-
-Image::Image(ControlSet& owner, std::string name)
-    : Control(owner, std::move(name), ControlKind::Image) {}
-
 void Image::setArt(Art art) {
     const bool differs = art != std::exchange(m_art, art);
     artAssigned();
     if (differs) changed();
 }
 
-PushButton::PushButton(ControlSet& owner, std::string name, std::string caption)
-    : Control(owner, std::move(name), ControlKind::PushButton), m_caption(std::move(caption)) {}
+void OptionGroup::turnOffAllBut(const Option& chosen) {
+    assert(std::ranges::find(m_options, &chosen) != m_options.end());
+    for (Option* option : m_options)
+        if (option != &chosen) option->setOn(false);
+}
 
-ComboBox::ComboBox(ControlSet& owner, std::string name)
-    : Control(owner, std::move(name), ControlKind::ComboBox) {}
+Option::Option(ControlSet& owner, std::string name, OptionGroup& group, std::string caption)
+    : SwitchControl(owner, std::move(name), this, std::move(caption)), m_group(group) {
+    group.add(*this);
+}
 
-void ComboBox::addItem(std::string item) {
+void Option::setOn(bool on) {
+    if (on) m_group.turnOffAllBut(*this);
+    SwitchControl::setOn(on);
+}
+
+void ItemControl::add(std::string item) {
     m_items.push_back(std::move(item));
     changed();
 }
 
-void ComboBox::setSelectedIndex(int index) {
-    if (index == m_selected) return;
-    m_selected = index;
-    changed();
+void ItemControl::setSelectedIndex(int index) {
+    assert(index >= -1 && index < static_cast<int>(m_items.size()));
+    change(m_selected, index);
 }
 
-ListBox::ListBox(ControlSet& owner, std::string name)
-    : Control(owner, std::move(name), ControlKind::List) {}
-
-void ListBox::add(std::string item) {
-    m_items.push_back(std::move(item));
-    changed();
-}
-
-void ListBox::remove(int index) {
+void ItemControl::remove(int index) {
     if (index < 0 || index >= static_cast<int>(m_items.size()))
         throw Failure(ErrorNumber::IndexOutOfBounds);
     m_items.erase(m_items.begin() + index);
@@ -163,16 +97,10 @@ void ListBox::remove(int index) {
     changed();
 }
 
-void ListBox::clear() {
+void ItemControl::clear() {
     if (m_items.empty()) return;
     m_items.clear();
     m_selected = -1;
-    changed();
-}
-
-void ListBox::setSelectedIndex(int index) {
-    if (index == m_selected) return;
-    m_selected = index;
     changed();
 }
 

@@ -14,7 +14,7 @@ constexpr std::uint64_t firstRank = std::uint64_t{1} << 62;
 }  // namespace
 
 StatementList::StatementList(ControlSet& owner, std::string name, AfterRemoval afterRemoval)
-    : Control(owner, std::move(name), ControlKind::List), m_afterRemoval(afterRemoval) {}
+    : Control(owner, std::move(name), this), m_afterRemoval(afterRemoval) {}
 
 StatementList::Entry& StatementList::entry(int position) const {
     if (position < 1 || position > count()) throw Failure(ErrorNumber::IndexOutOfBounds);
@@ -57,7 +57,7 @@ void StatementList::insert(int position, Row row) {
     for (auto* observer : m_observers) observer->rowAboutToBeInserted(position);
     auto entry = std::make_unique<Entry>(Entry{std::move(row), rankFor(position)});
     if (!entry->row.key.empty()) m_byKey.emplace(entry->row.key, entry.get());
-    m_rows.insert(m_rows.begin() + position - 1, std::move(entry));
+    m_rows.insert(m_rows.begin() + (position - 1), std::move(entry));
     for (auto* observer : m_observers) observer->rowInserted(position);
 }
 
@@ -66,7 +66,7 @@ void StatementList::remove(int position) {
     for (auto* observer : m_observers) observer->rowAboutToBeRemoved(position);
     const bool wasSelected = &gone == m_selected;
     m_byKey.erase(gone.row.key);
-    m_rows.erase(m_rows.begin() + position - 1);
+    m_rows.erase(m_rows.begin() + (position - 1));
     if (wasSelected) {
         const int next = std::min(position, count());
         const bool none = next == 0 || m_afterRemoval == AfterRemoval::SelectNone;

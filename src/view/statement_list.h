@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -83,6 +84,7 @@ public:
 
     /// Position of the selected row, from 1; 0 for none.
     int selected() const { return m_selected ? positionOf(*m_selected) : 0; }
+    bool hasSelection() const override { return m_selected; }
     /// The selected row; null for none.
     const Row* selectedRow() const { return m_selected ? &m_selected->row : nullptr; }
     /// 0 selects none. Fails with IndexOutOfBounds.

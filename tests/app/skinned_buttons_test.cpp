@@ -98,8 +98,8 @@ TEST_P(ButtonFace, StaysDownUntilItIsLetGo) {
 }
 
 TEST_P(ButtonFace, WritesItsCaptionInBoldAtNineAndThreeQuarterPoints) {
-    EXPECT_TRUE(button().label.bold);
-    EXPECT_EQ(button().label.fontSize.value, 9.75);
+    EXPECT_TRUE(button().label.isBold());
+    EXPECT_EQ(button().label.fontSize().value, 9.75);
 }
 
 TEST(SkinnedButtons, AreFortyOneOnTheMainWindow) {

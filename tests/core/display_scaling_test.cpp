@@ -95,8 +95,8 @@ TEST_P(LayoutOn, MovesEveryControl) {
 
 TEST_P(LayoutOn, ShrinksEveryControlButPictureBoxesAndWidensOptionsALittle) {
     for (const Control* control : form.controls.all()) {
-        if (control->kind() == ControlKind::PictureBox) continue;
-        const bool option = control->kind() == ControlKind::Option;
+        if (control->is<Panel>()) continue;
+        const bool option = control->is<Option>();
         const double widening = option ? display.wideningOfOption : 1;
         expectSize(*control, designed(*control), display.left * widening, display.left);
     }
@@ -129,8 +129,8 @@ template <class Kind>
 void expectFont(const Control& control, const Control& design, double lowered) {
     const auto* written = dynamic_cast<const Kind*>(&control);
     if (!written) return;
-    const double designed = dynamic_cast<const Kind&>(design).fontSize.value;
-    EXPECT_DOUBLE_EQ(written->fontSize.value, designed - lowered) << control.name();
+    const double designed = dynamic_cast<const Kind&>(design).fontSize().value;
+    EXPECT_DOUBLE_EQ(written->fontSize().value, designed - lowered) << control.name();
 }
 
 TEST_P(LayoutOn, LowersTheFontsOfLabelsAndOptionsAlone) {
@@ -184,7 +184,7 @@ TEST_P(LayoutOn, ShrinksTheReportDialogInAllButTheHeightOfItsDropDownList) {
     for (const Control* control : report.controls.all()) {
         const Control& before = *asDesigned.controls.find(control->name());
         expectPlace(*control, before, display.left);
-        const bool dropDown = control->kind() == ControlKind::ComboBox;
+        const bool dropDown = control->is<ComboBox>();
         expectSize(*control, before, display.left, dropDown ? 1 : display.left);
     }
 }

@@ -13,8 +13,8 @@ namespace {
 using namespace orvanta::desktop;
 
 bool isForPeople(const Control& control) {
-    const bool holdsArt = control.kind() == ControlKind::Image && control.bounds().width == Twips{};
-    return !holdsArt && control.kind() != ControlKind::PictureBox;
+    const bool holdsArt = control.is<Image>() && control.bounds().width == Twips{};
+    return !holdsArt && !control.is<Panel>();
 }
 
 QRect placeOf(const Control& control, double twipsPerPixel) {

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "analysis_bench.h"
-#include "core/display_scaling.h"
 
 namespace orvanta::test {
 namespace {
@@ -53,7 +52,7 @@ TEST(AboutBox, IsShownAsLaidOutOnAnOrdinaryDisplay) {
     EXPECT_EQ(form.width.value, design.width.value);
     EXPECT_EQ(form.height.value, design.height.value);
     EXPECT_EQ(form.lblR.bounds().left.value, design.lblR.bounds().left.value);
-    EXPECT_EQ(form.lblTitle.fontSize.value, design.lblTitle.fontSize.value);
+    EXPECT_EQ(form.lblTitle.fontSize().value, design.lblTitle.fontSize().value);
 }
 
 struct LargeFonts {
@@ -86,8 +85,8 @@ TEST_P(AboutBoxOnLargeFonts, ShrinksItsHeightByAFactorOfItsOwn) {
 TEST_P(AboutBoxOnLargeFonts, ShrinksControlsAndLowersFonts) {
     EXPECT_DOUBLE_EQ(form.cmdOK.bounds().top.value, reduced(design.cmdOK.bounds().top));
     EXPECT_DOUBLE_EQ(form.cmdOK.bounds().height.value, reduced(design.cmdOK.bounds().height));
-    EXPECT_DOUBLE_EQ(form.cmdOK.fontSize.value, design.cmdOK.fontSize.value - 2);
-    EXPECT_DOUBLE_EQ(form.lblTitle.fontSize.value, design.lblTitle.fontSize.value - 2);
+    EXPECT_DOUBLE_EQ(form.cmdOK.fontSize().value, design.cmdOK.fontSize().value - 2);
+    EXPECT_DOUBLE_EQ(form.lblTitle.fontSize().value, design.lblTitle.fontSize().value - 2);
 }
 
 TEST_P(AboutBoxOnLargeFonts, PutsTheTrademarkSignBehindTheNarrowedTitle) {

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "analysis_bench.h"
-#include "core/display_scaling.h"
 
 namespace orvanta::test {
 namespace {
@@ -204,15 +203,15 @@ TEST_F(EditForm, IsLaidOutOnItsGrid) {
 }
 
 TEST_F(EditForm, ShrinksForLargeFontsInAllButItsHeight) {
-    const double fontBefore = form.Label1.fontSize.value;
-    const double boxFontBefore = form.txtEdit.fontSize.value;
+    const double fontBefore = form.Label1.fontSize().value;
+    const double boxFontBefore = form.txtEdit.fontSize().value;
     shrinkForLargeFonts(form, 12);
     EXPECT_DOUBLE_EQ(form.width.value, 7590 - 7590 * 3 / 15.0);
     EXPECT_DOUBLE_EQ(form.height.value, 2445);
     EXPECT_DOUBLE_EQ(form.txtEdit.bounds().width.value, 7095 - 7095 * 3 / 15.0);
     EXPECT_DOUBLE_EQ(form.txtEdit.bounds().top.value, 720 - 720 * 3 / 15.0);
-    EXPECT_DOUBLE_EQ(form.Label1.fontSize.value, fontBefore - 2);
-    EXPECT_DOUBLE_EQ(form.txtEdit.fontSize.value, boxFontBefore);
+    EXPECT_DOUBLE_EQ(form.Label1.fontSize().value, fontBefore - 2);
+    EXPECT_DOUBLE_EQ(form.txtEdit.fontSize().value, boxFontBefore);
 }
 
 TEST_F(EditForm, KeepsItsSizeOnAnOrdinaryDisplay) {

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "analysis_bench.h"
-#include "core/display_scaling.h"
 #include "reports/report_dialog.h"
 #include "saving_bench.h"
 
@@ -135,15 +134,15 @@ TEST_F(ReportDialogInput, ShrinksByAFifthOnADisplayWithLargeFonts) {
     EXPECT_DOUBLE_EQ(browse.top.value, 1152);
     EXPECT_DOUBLE_EQ(browse.width.value, 876);
     EXPECT_DOUBLE_EQ(browse.height.value, 300);
-    EXPECT_EQ(form.lblGenerating.fontSize.value, 10);
-    EXPECT_EQ(form.OKButton.fontSize.value, 7);
+    EXPECT_EQ(form.lblGenerating.fontSize().value, 10);
+    EXPECT_EQ(form.OKButton.fontSize().value, 7);
 }
 
 TEST_F(ReportDialogInput, KeepsTheHeightOfTheDropDownListOnADisplayWithLargeFonts) {
     shrinkForLargeFonts(form, 12);
     EXPECT_DOUBLE_EQ(form.cboFormat.bounds().height.value, 315);
     EXPECT_DOUBLE_EQ(form.cboFormat.bounds().width.value, 1356);
-    EXPECT_EQ(form.cboFormat.fontSize.value, 7);
+    EXPECT_EQ(form.cboFormat.fontSize().value, 7);
 }
 
 TEST_F(ReportDialogInput, KeepsItsSizeOnAnOrdinaryDisplayAndOnOneWithSmallFonts) {
@@ -151,7 +150,7 @@ TEST_F(ReportDialogInput, KeepsItsSizeOnAnOrdinaryDisplayAndOnOneWithSmallFonts)
     shrinkForLargeFonts(form, 20);
     EXPECT_EQ(form.width.value, 7590);
     EXPECT_EQ(form.cmdBrowse.bounds().left.value, 6120);
-    EXPECT_EQ(form.lblGenerating.fontSize.value, 12);
+    EXPECT_EQ(form.lblGenerating.fontSize().value, 12);
 }
 
 TEST_F(ReportDialogInput, BrowsesFromTheLastPathAndRemembersTheWholeName) {

@@ -28,10 +28,10 @@ struct Form {
     Form() {
         for (Control* inside : {static_cast<Control*>(&first), static_cast<Control*>(&second),
                                 static_cast<Control*>(&covered), static_cast<Control*>(&beside)})
-            inside->container = &module;
-        onFirst.container = &first;
-        onSecond.container = &second;
-        covered.coveredBy = &steps;
+            inside->setContainer(&module);
+        onFirst.setContainer(&first);
+        onSecond.setContainer(&second);
+        covered.setCoveredBy(&steps);
         first.hide();
         second.hide();
     }
@@ -83,9 +83,9 @@ TEST(Reach, EndsWhereAPanelLiesOverTheHolderOfTheControl) {
     Form form;
     Panel holder(form.controls, "holder");
     Image picture(form.controls, "picture");
-    holder.container = &form.module;
-    holder.coveredBy = &form.steps;
-    picture.container = &holder;
+    holder.setContainer(&form.module);
+    holder.setCoveredBy(&form.steps);
+    picture.setContainer(&holder);
     EXPECT_TRUE(picture.isReachable());
     form.first.show();
     EXPECT_FALSE(picture.isReachable());
@@ -143,18 +143,64 @@ TEST(Focus, IsToldEachTimeAlsoToTheControlThatHasIt) {
     EXPECT_EQ(given.times, 2);
 }
 
-TEST(Control, TellsOfAChangeAndOfNothingElse) {
+/// How many notices it gives to set a property twice to the same value.
+template <class Set>
+int noticesOf(const Count& changed, Set set) {
+    const int before = changed.times;
+    set();
+    set();
+    return changed.times - before;
+}
+
+TEST(Control, TellsOfEachChangeOfAPropertyOnce) {
     Form form;
-    Count changed(form.beside.changed);
-    form.beside.setText("typed");
-    form.beside.setText("typed");
-    form.beside.setToolTip("tip");
-    form.beside.setToolTip("tip");
-    form.beside.setBounds({{1}, {2}, {3}, {4}});
-    form.beside.setBounds({{1}, {2}, {3}, {4}});
-    form.beside.setEnabled(false);
-    form.beside.setEnabled(false);
-    EXPECT_EQ(changed.times, 4);
+    Control& control = form.beside;
+    const Count changed(control.changed);
+    EXPECT_EQ(noticesOf(changed, [&] { control.setVisible(false); }), 1);
+    EXPECT_EQ(noticesOf(changed, [&] { control.setEnabled(false); }), 1);
+    EXPECT_EQ(noticesOf(changed, [&] { control.setToolTip("tip"); }), 1);
+    EXPECT_EQ(noticesOf(changed, [&] { control.setAccessibleName("name"); }), 1);
+    EXPECT_EQ(noticesOf(changed, [&] { control.setBounds({{1}, {2}, {3}, {4}}); }), 1);
+    EXPECT_EQ(noticesOf(changed, [&] { control.setStretch({0, 0, 1, 1}); }), 1);
+    EXPECT_EQ(noticesOf(changed, [&] { control.setContainer(&form.first); }), 1);
+    EXPECT_EQ(noticesOf(changed, [&] { control.setCoveredBy(&form.steps); }), 1);
+}
+
+TEST(TextBox, TellsOfItsTextAndItsFont) {
+    Form form;
+    const Count changed(form.beside.changed);
+    EXPECT_EQ(noticesOf(changed, [&] { form.beside.setText("typed"); }), 1);
+    EXPECT_EQ(noticesOf(changed, [&] { form.beside.setFontSize({8}); }), 1);
+    EXPECT_EQ(noticesOf(changed, [&] { form.beside.setBold(true); }), 1);
+}
+
+TEST(CheckBox, TellsOfItsCaptionAndItsSwitch) {
+    ControlSet controls;
+    CheckBox box(controls, "box", "Box");
+    const Count changed(box.changed);
+    EXPECT_EQ(noticesOf(changed, [&] { box.setCaption("Other"); }), 1);
+    EXPECT_EQ(noticesOf(changed, [&] { box.setOn(true); }), 1);
+}
+
+TEST(ComboBox, TellsOfItsItemsAndItsSelection) {
+    ControlSet controls;
+    ComboBox box(controls, "box");
+    const Count changed(box.changed);
+    box.add("item");
+    EXPECT_EQ(changed.times, 1);
+    EXPECT_FALSE(box.hasSelection());
+    EXPECT_EQ(noticesOf(changed, [&] { box.setSelectedIndex(0); }), 1);
+    EXPECT_TRUE(box.hasSelection());
+}
+
+TEST(Control, KnowsWhatItIs) {
+    Form form;
+    Control &box = form.beside, &panel = form.module;
+    EXPECT_EQ(box.as<TextBox>(), &form.beside);
+    EXPECT_EQ(box.as<Label>(), nullptr);
+    EXPECT_TRUE(panel.is<Panel>());
+    EXPECT_FALSE(panel.is<TextBox>());
+    EXPECT_TRUE(std::holds_alternative<Panel*>(panel.self()));
 }
 
 TEST(Options, AreOnOneAtATime) {
@@ -236,6 +282,24 @@ TEST_F(FileList, RefusesToRemoveWhatItDoesNotHold) {
     EXPECT_EQ(failureOf([&] { list.remove(-1); }), 35600);
     EXPECT_EQ(failureOf([&] { list.remove(3); }), 35600);
     EXPECT_EQ(list.items().size(), 3u);
+}
+
+TEST(ControlDeathTest, HasANameThatNoOtherOfItsFormHas) {
+    Form form;
+    EXPECT_DEATH(TextBox(form.controls, "beside"), "find");
+    EXPECT_DEATH(TextBox(form.controls, ""), "empty");
+}
+
+TEST(ControlDeathTest, TakesNoSelectionThatItDoesNotHold) {
+    ControlSet controls;
+    ListBox list(controls, "list");
+    EXPECT_DEATH(list.setSelectedIndex(0), "index");
+    EXPECT_DEATH(list.setSelectedIndex(-2), "index");
+}
+
+TEST(ControlDeathTest, RaisesNoPanelOfAnotherStack) {
+    Form form;
+    EXPECT_DEATH(form.steps.raise(form.module), "place");
 }
 
 TEST(MainForm, HoldsEveryControlUnderANameOfItsOwn) {
