@@ -3,6 +3,7 @@
 #include "core/failures.h"
 #include "core/files.h"
 #include "core/messages.h"
+#include "reports/report_source.h"
 
 namespace orvanta {
 
@@ -42,7 +43,8 @@ public:
 
     void writeEnd() { writeLine({"</table>"}); }
 
-    std::string takeBytes() { return std::move(m_bytes); }
+    /// What has been written so far.
+    const std::string& bytes() const { return m_bytes; }
 
 private:
     void writeLine(std::initializer_list<std::string_view> pieces) {
@@ -82,31 +84,33 @@ private:
     std::int16_t m_priorityNumber = 0;
 };
 
-}  // namespace
-
-std::string htmlReportBytes(const ReportLists& lists) {
-    Page page;
+/// Writes an analysis down to its end, or as far as its groups can be numbered.
+void writeAnalysis(Page& page, std::string_view bytes) {
+    ReportLists lists;
+    readReportSource(bytes, ReportScope::Correlation, lists);
     page.writeEntries(lists.opportunityMapEntries, true);
     page.writeEntries(lists.threatMapEntries, false);
     page.writeEnd();
-    return page.takeBytes();
 }
 
+}  // namespace
+
 void generateHtmlReport(Program& program, const std::string& analyzeFile) {
+    Disk& disk = program.platform.disk;
     if (!fileExists(program, analyzeFile))
         return refuse(program.platform.messages, noSourceMessage);
-    const std::string page =
+    const std::string path =
         program.scratchPath + pathSeparator + "System" + pathSeparator + "report.htm";
-    ReportLists lists;
+    Page page;
     try {
-        readReportSource(program.platform.disk.read(analyzeFile), ReportScope::Correlation, lists);
+        writeAnalysis(page, disk.read(analyzeFile));
     } catch (const Failure&) {
-        // The former page must not be taken for that of this analysis.
-        program.platform.disk.replace(page, Page().takeBytes());
+        // A page that breaks off can't be taken for the former one, which is of another analysis.
+        disk.replace(path, page.bytes());
         throw;
     }
-    program.platform.disk.replace(page, htmlReportBytes(lists));
-    program.platform.shell.open(page);
+    disk.replace(path, page.bytes());
+    program.platform.shell.open(path);
 }
 
 }  // namespace orvanta

@@ -31,9 +31,18 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Sides, CountsOfMappings, testing::ValuesIn(mappingSides()),
                          NameOfParameter());
 
-TEST_P(CountsOfMappings, TakeInTheRowsThatAreThereAlready) {
+TEST_P(CountsOfMappings, KeepUpWithEachMapping) {
     EXPECT_EQ(counts.of(side.parent(1)), (Count{2, 1}));
     EXPECT_EQ(counts.of(side.parent(2)), Count());
+}
+
+TEST_P(CountsOfMappings, TakeInTheRowsThatAreThereAlready) {
+    bench.map(side.strengths, 1, side.list, 5);
+    bench.map(side.weaknesses, 1, side.list, 7);
+    const MappingCounts late(bench.list(side.list));
+    EXPECT_EQ(late.of(side.parent(1)), (Count{2, 1}));
+    EXPECT_EQ(late.of(side.parent(2)), (Count{1, 0}));
+    EXPECT_EQ(late.of(side.parent(3)), (Count{0, 1}));
 }
 
 TEST_P(CountsOfMappings, RiseWithAMapping) {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "analysis_bench.h"
+#include "full_analysis.h"
 
 namespace orvanta::test {
 namespace {
@@ -230,6 +231,46 @@ TEST_P(Mapping, IsLeftAloneByADropWithNothingSelectedInTheMappingList) {
 TEST_P(Mapping, KeepsTheDragSectionThroughADropOnAPickingList) {
     bench.drag(side.weaknesses, 1, side.weaknesses, 2);
     EXPECT_EQ(bench.form().dragSection, "W");
+}
+
+/// A mapping screen over a file whose keys hold a "-" of their own.
+class MappingOfOddKeys : public testing::TestWithParam<MappingSide> {
+protected:
+    void open(const std::string& parent, const std::string& strength) {
+        const std::string word = side.letter == "O" ? "OPPORTUNITY" : "THREAT";
+        bench.disk.files["docs/odd.aze"] = lines(
+            {"<STRENGTH>", rowLine(strength, "", "A strength"), "</STRENGTH>",
+             "<" + word + "MAPPING>", rowLine(parent, "", "A parent"), "</" + word + "MAPPING>"});
+        bench.answerFile("docs/odd.aze");
+        bench.click("OAFile");
+        bench.next(side.presses - 1);
+    }
+    Json mapTwice() {
+        bench.map(side.strengths, 1, side.list, 1);
+        bench.events();
+        bench.map(side.strengths, 1, side.list, 1);
+        return bench.events();
+    }
+
+    const MappingSide& side = GetParam();
+    const Json keyNotUnique = Json::array({{{"event", "unhandledError"},
+                                            {"number", 35602},
+                                            {"description", "Key is not unique in collection"}}});
+    AnalysisBench bench;
+};
+INSTANTIATE_TEST_SUITE_P(Of, MappingOfOddKeys, testing::ValuesIn(mappingSides()),
+                         NameOfParameter());
+
+TEST_P(MappingOfOddKeys, KnowsNoPairOfAStatementWhoseKeyMakesAThirdPart) {
+    open(side.parent(1), "S-1");
+    EXPECT_EQ(mapTwice(), keyNotUnique);
+    EXPECT_EQ(bench.keys(side.list), (Texts{side.parent(1), side.parent(1) + "-S-1"}));
+}
+
+TEST_P(MappingOfOddKeys, KnowsNoPairOfAParentWhoseKeyHasThreeParts) {
+    open("A-B-C", "S1");
+    EXPECT_EQ(mapTwice(), keyNotUnique);
+    EXPECT_EQ(bench.keys(side.list), (Texts{"A-B-C", "A-B-C-S1"}));
 }
 
 TEST(MappingAcrossTheSides, IsNoneByADragSectionLeftFromTheOtherSide) {

@@ -36,7 +36,9 @@ TEST(Whereabouts, NumberTheStepsAndQuestionsOfBrainstorming) {
     EXPECT_EQ(placeIn(bench), "Step 3 of 5: Weaknesses, question 1 of 3");
     bench.click("BBack");
     EXPECT_EQ(placeIn(bench), "Step 2 of 5: Strengths, question 3 of 3");
-    for (int press = 0; press < 9; ++press) bench.click("BNext");
+    for (int press = 0; press < 4; ++press) bench.click("BNext");
+    EXPECT_EQ(placeIn(bench), "Step 4 of 5: Opportunities, question 1 of 3");
+    for (int press = 0; press < 5; ++press) bench.click("BNext");
     EXPECT_EQ(placeIn(bench), "Step 5 of 5: Threats, question 3 of 3");
 }
 

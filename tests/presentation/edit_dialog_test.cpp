@@ -196,10 +196,10 @@ TEST_F(EditForm, HoldsItsButtonsDownUntilTheyAreLetGo) {
 TEST_F(EditForm, IsLaidOutOnItsGrid) {
     EXPECT_EQ(form.width.value, 7590);
     EXPECT_EQ(form.height.value, 2445);
-    EXPECT_EQ(form.txtEdit.bounds().left.value, 240);
-    EXPECT_EQ(form.txtEdit.bounds().top.value, 720);
-    EXPECT_EQ(form.txtEdit.bounds().width.value, 7095);
-    EXPECT_EQ(form.txtEdit.bounds().height.value, 375);
+    EXPECT_TRUE(form.Label1.bounds() == (Bounds{{240}, {360}, {1455}, {210}}));
+    EXPECT_TRUE(form.txtEdit.bounds() == (Bounds{{240}, {720}, {7095}, {375}}));
+    EXPECT_TRUE(form.btnCancel.label.bounds() == (Bounds{{2400}, {1680}, {735}, {240}}));
+    EXPECT_TRUE(form.btnOk.label.bounds() == (Bounds{{4680}, {1680}, {300}, {240}}));
 }
 
 TEST_F(EditForm, ShrinksForLargeFontsInAllButItsHeight) {

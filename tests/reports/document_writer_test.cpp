@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "failure_of.h"
 #include "memory_disk.h"
 #include "rtf_reader.h"
 
@@ -45,16 +46,6 @@ protected:
     WordRef application, document, selection;
 };
 
-template <class Use>
-int errorOf(Use use) {
-    try {
-        use();
-    } catch (const Failure& failure) {
-        return failure.number;
-    }
-    return 0;
-}
-
 constexpr int invalidCall = 5;
 constexpr int indexOutOfBounds = 35600;
 
@@ -71,6 +62,17 @@ TEST_F(Writing, InsertingBeforeExtendsTheRangeOverTheNewText) {
     EXPECT_EQ(read.outline(), (Outline{"one", "two", ""}));
     EXPECT_EQ(std::get<RtfParagraph>(read.body[0]).runs[0].size, 20);
     EXPECT_EQ(std::get<RtfParagraph>(read.body[1]).runs[0].size, 10);
+}
+
+TEST_F(Writing, InsertingBeforeLeavesTheEndOfTheRangeBehindItsText) {
+    document.get("Range").call("InsertBefore", {std::string("say ")});
+    const WordRef range = end();
+    range.call("InsertAfter", {std::string("one")});
+    range.call("InsertBefore", {std::string("number ")});
+    range.call("InsertAfter", {std::string("!")});
+    range.call("InsertBefore", {std::string("this:\r\n")});
+    range.call("InsertAfter", {std::string("?")});
+    EXPECT_EQ(saved().outline(), (Outline{"say this:", "number one!?"}));
 }
 
 TEST_F(Writing, InsertingAfterExtendsTheRangeOverTheNewText) {
@@ -119,7 +121,8 @@ TEST_F(Writing, ANewParagraphTakesTheFormatsOfTheOneThatItCameFrom) {
 }
 
 TEST_F(Writing, TheEndOfTheDocumentIsTheOnlyBookmark) {
-    EXPECT_EQ(errorOf([&] { document.get("Bookmarks").item(std::string("\\startofdoc")); }), 35601);
+    EXPECT_EQ(failureOf([&] { document.get("Bookmarks").item(std::string("\\startofdoc")); }),
+              35601);
 }
 
 TEST_F(Writing, LandscapeTurnsThePageRoundBeforeItsWidthIsSet) {
@@ -318,32 +321,41 @@ TEST_F(Writing, AlignmentAndDirectionCanBeTakenBack) {
 
 TEST_F(Writing, ARowColumnOrCellThatIsNotThereFails) {
     const WordRef table = addTable(1, 2);
-    EXPECT_EQ(errorOf([&] { table.get("Rows").item(2); }), indexOutOfBounds);
-    EXPECT_EQ(errorOf([&] { table.get("Columns").item(0); }), indexOutOfBounds);
-    EXPECT_EQ(errorOf([&] { table.get("Cell", {1, 3}); }), indexOutOfBounds);
+    EXPECT_EQ(failureOf([&] { table.get("Rows").item(2); }), indexOutOfBounds);
+    EXPECT_EQ(failureOf([&] { table.get("Columns").item(0); }), indexOutOfBounds);
+    EXPECT_EQ(failureOf([&] { table.get("Cell", {1, 3}); }), indexOutOfBounds);
+}
+
+TEST_F(Writing, RowsAreAtLeastAsHighAsTheyAreTold) {
+    const WordRef table = addTable(1, 1);
+    EXPECT_EQ(failureOf([&] { table.get("Rows").put("HeightRule", 1); }), 0);
 }
 
 TEST_F(Writing, AMemberOrAValueThatIsNotKnownFails) {
     const WordRef table = addTable(1, 1);
-    EXPECT_EQ(errorOf([&] { document.get("Footnotes"); }), invalidCall);
-    EXPECT_EQ(errorOf([&] { document.call("Print"); }), invalidCall);
-    EXPECT_EQ(errorOf([&] { application.put("Visible", true); }), invalidCall);
-    EXPECT_EQ(errorOf([&] { range(table, 1, 1).get("Font").put("Size", true); }), invalidCall);
-    EXPECT_EQ(errorOf([&] { table.get("Borders").item(-1); }), invalidCall);
-    EXPECT_EQ(errorOf([&] { document.get("Tables").get("Add", {1, 1, 1}); }), invalidCall);
+    EXPECT_EQ(failureOf([&] { document.get("Footnotes"); }), invalidCall);
+    EXPECT_EQ(failureOf([&] { document.call("Print"); }), invalidCall);
+    EXPECT_EQ(failureOf([&] { application.put("Visible", true); }), invalidCall);
+    EXPECT_EQ(failureOf([&] { range(table, 1, 1).get("Font").put("Size", true); }), invalidCall);
+    EXPECT_EQ(failureOf([&] { table.get("Borders").item(-1); }), invalidCall);
+    EXPECT_EQ(failureOf([&] { table.get("Rows").put("HeightRule", 2); }), invalidCall);
+    EXPECT_EQ(failureOf([&] { table.get("Rows").put("Height", 1); }), invalidCall);
+    EXPECT_EQ(failureOf([&] { table.get("Columns").get("Last", {1}); }), invalidCall);
+    EXPECT_EQ(failureOf([&] { table.get("Columns").get("Item", {1, 1}); }), invalidCall);
+    EXPECT_EQ(failureOf([&] { document.get("Tables").get("Add", {1, 1, 1}); }), invalidCall);
 }
 
 TEST_F(Writing, TextInFrontOfATableThatFillsACellFails) {
     const WordRef table = addTable(1, 1);
     selection.get("Tables").get("Add", {range(table, 1, 1).value(), 1, 1});
-    EXPECT_EQ(errorOf([&] { range(table, 1, 1).call("InsertBefore", {std::string("x")}); }),
+    EXPECT_EQ(failureOf([&] { range(table, 1, 1).call("InsertBefore", {std::string("x")}); }),
               invalidCall);
 }
 
 TEST_F(Writing, ATargetThatCanNotBeWrittenFailsAndLeavesTheOldFile) {
     disk.files["docs/x.rtf"] = "old";
     disk.unwritable.insert({"docs/x.rtf", ErrorNumber::PermissionDenied});
-    EXPECT_EQ(errorOf([&] { document.call("SaveAs", {std::string("docs/x.rtf")}); }), 70);
+    EXPECT_EQ(failureOf([&] { document.call("SaveAs", {std::string("docs/x.rtf")}); }), 70);
     EXPECT_EQ(disk.files["docs/x.rtf"], "old");
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "analysis_bench.h"
+#include "failure_of.h"
 #include "full_analysis.h"
 
 namespace orvanta::test {
@@ -180,11 +181,51 @@ TEST_F(WebPage, IsItsHeadAloneWhereTheAnalysisCanNotBeRead) {
     EXPECT_EQ(bench.disk.files[page], head);
 }
 
-TEST_F(WebPage, CountsTo32767AndNoFurther) {
-    Mapped opportunities(32'767, {"O1", "A"});
-    EXPECT_TRUE(pageOf(opportunities, {}).ends_with(closing(32'767) + closing(32'767) + end));
-    opportunities.emplace_back("O1", "A");
-    EXPECT_THROW(pageOf(opportunities, {}), Failure);
+/// The most groups that a page can number.
+constexpr int most = 32'767;
+
+/// Groups with nothing mapped under them, "A" to the last.
+Mapped bareGroups(int count) { return Mapped(static_cast<std::size_t>(count), {"X1", "A"}); }
+
+/// The rows of so many opportunities, each closed.
+std::string closedGroups(int count) {
+    std::string rows;
+    for (int priority = 1; priority <= count; ++priority) rows += parent("A") + closing(priority);
+    return rows;
+}
+
+TEST_F(WebPage, Counts32767Groups) {
+    EXPECT_TRUE(pageOf(bareGroups(most), {}) == head + closedGroups(most) + closing(most) + end);
+}
+
+/// What stands on the disk where the groups can't be numbered to their end.
+class UncountablePage : public WebPage {
+protected:
+    std::string pageLeftOf(const Mapped& opportunities, const Mapped& threats) {
+        bench.disk.files[page] = "former";
+        EXPECT_EQ(failureOf([&] { pageOf(opportunities, threats); }), 6);
+        bench.play({{"do", "state"}});
+        EXPECT_EQ(bench.events(), Json::array());
+        return bench.disk.files[page];
+    }
+};
+
+TEST_F(UncountablePage, EndsBehindTheOpeningOfTheFirstOpportunityTooMany) {
+    EXPECT_TRUE(pageLeftOf(bareGroups(most + 2), {{"T1", "B"}}) ==
+                head + closedGroups(most) + parent("A"));
+}
+
+TEST_F(UncountablePage, ClosesTheGroupBeforeThatOneToo) {
+    Mapped opportunities = bareGroups(most);
+    opportunities.insert(opportunities.end(), {{"X1-S1", "a"}, {"O9", "B"}, {"O9-S1", "b"}});
+    EXPECT_TRUE(pageLeftOf(opportunities, {}) == head + closedGroups(most - 1) + parent("A") +
+                                                     inner + strength("a") + end + closing(most) +
+                                                     parent("B"));
+}
+
+TEST_F(UncountablePage, EndsBehindTheOpeningOfTheFirstThreatTooMany) {
+    EXPECT_TRUE(pageLeftOf(bareGroups(most), {{"T1", "B"}, {"T2", "C"}}) ==
+                head + closedGroups(most) + parent("B"));
 }
 
 }  // namespace

@@ -245,6 +245,15 @@ TEST_F(ReportDialogInput, GoesOnWaitingWithoutAWordWhereTheAnalysisCanNotBeRead)
     EXPECT_TRUE(isWaiting());
 }
 
+TEST_F(ReportDialogInput, GoesOnWaitingWithoutAWordWhereThereAreTooManyGroupsToNumber) {
+    Texts file{"<OPPORTUNITYMAPPING>"};
+    file.resize(32'769, "O1<!-SWOT-!><!-SWOT-!>Alpha");
+    bench.disk.files["docs/team.aze"] = lines(file);
+    EXPECT_EQ(accept(html), Json::array());
+    EXPECT_TRUE(isWaiting());
+    EXPECT_TRUE(form.open);
+}
+
 TEST_F(ReportDialogInput, JustClosesOnCancel) {
     form.txtEdit.setText("docs/team.aze");
     form.close();

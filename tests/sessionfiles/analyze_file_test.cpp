@@ -4,6 +4,7 @@
 
 #include "bench.h"
 #include "core/row_marks.h"
+#include "failure_of.h"
 #include "full_analysis.h"
 
 namespace orvanta::test {
@@ -97,8 +98,32 @@ TEST_F(AnalyzeFile, RoundsAFractionAndTakesLeadingDigitsAlone) {
     EXPECT_EQ(bench.form().keyCountW, 12);
 }
 
+TEST_F(AnalyzeFile, CountsANumberWithASign) {
+    read({"<STRENGTH>", rowLine("S+7", "", "a"), rowLine("S+", "", "b"), rowLine("S++9", "", "c"),
+          rowLine("S-12", "", "d"), "</STRENGTH>"});
+    EXPECT_EQ(bench.form().keyCountS, 7);
+}
+
+TEST_F(AnalyzeFile, CountsUpToTheLastNumberOfTheCounter) {
+    read({"<STRENGTH>", rowLine("S2147483647", "", "a"), "</STRENGTH>"});
+    EXPECT_EQ(bench.form().keyCountS, 2'147'483'647);
+}
+
 TEST_F(AnalyzeFile, WithAKeyBeyondTheCounterFails) {
-    EXPECT_THROW(read({"<STRENGTH>", rowLine("S2147483648", "", "a"), "</STRENGTH>"}), Failure);
+    for (const char* key : {"S2147483648", "S1e10", "S1e400", "S+1e400"})
+        EXPECT_EQ(failureOf([&] {
+                      read({"<STRENGTH>", rowLine(key, "", "a"), "</STRENGTH>"});
+                  }),
+                  6)
+            << key;
+    EXPECT_EQ(bench.form().keyCountS, 0);
+}
+
+TEST_F(AnalyzeFile, LeavesTheCounterAloneForANumberFarBelowZeroOrNextToIt) {
+    read({"<STRENGTH>", rowLine("S-1e400", "", "a"), rowLine("S1e-400", "", "b"),
+          rowLine("S-1e-400", "", "c"), "</STRENGTH>"});
+    EXPECT_EQ(bench.form().keyCountS, 0);
+    EXPECT_EQ(bench.texts("lvAStrength"), (Texts{"a", "b", "c"}));
 }
 
 TEST_F(AnalyzeFile, WithAKeyTwiceInAListFailsAndKeepsTheRowsReadSoFar) {

@@ -8,6 +8,7 @@
 #include "full_analysis.h"
 #include "hostile_bytes.h"
 #include "reports/html_report.h"
+#include "reports/report_source.h"
 #include "saving_bench.h"
 #include "sessionfiles/analyze_file.h"
 #include "sessionfiles/brainstorm_file.h"

@@ -1,11 +1,11 @@
 #include "view/file_disk.h"
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "failing_disk.h"
 #include "failure_of.h"
+#include "ordinary_user.h"
 #include "temporary_folder.h"
 
 namespace orvanta::test {
@@ -26,19 +26,10 @@ protected:
         return failureOf([&] { disk.replace(path, bytes); });
     }
 
-    /// The same, done by somebody whom permissions bind: the system's nobody where the test runs
-    /// as root, whom they don't.
+    /// The same, done by somebody whom permissions bind.
     template <class Act>
     static int errorAsOrdinaryUser(Act act) {
-        const pid_t child = ::fork();
-        if (child == 0) {
-            constexpr int nobody = 65534;
-            if (::geteuid() == 0 && (::setgid(nobody) != 0 || ::setuid(nobody) != 0)) ::_exit(255);
-            ::_exit(failureOf(act));
-        }
-        int status = 0;
-        ::waitpid(child, &status, 0);
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        return asOrdinaryUser([&] { return failureOf(act); });
     }
 
     mode_t modeOf(const std::string& name) const {

@@ -55,6 +55,10 @@ TEST_P(BrokenUtf8, BecomesAQuestionMarkAndTheRestStays) {
     EXPECT_EQ(windows1252From("a" + GetParam() + "b"), "a?b");
 }
 
+TEST(TextFromOutside, KeepsACharacterThatAStrayFollowerStandsBehind) {
+    EXPECT_EQ(windows1252From("\xC3\xA9\x80\xE2\x82\xAC\x80"), "\xE9?\x80?");
+}
+
 TEST(PastedText, BecomesOneLineWithABlankForEachLineBreak) {
     EXPECT_EQ(singleLineFrom("a\r\nb\rc\nd"), "a b c d");
     EXPECT_EQ(singleLineFrom("a\n\nb"), "a  b");

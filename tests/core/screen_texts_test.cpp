@@ -1,0 +1,109 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+#include "analysis_bench.h"
+
+namespace orvanta::test {
+namespace {
+
+using Captions = std::multiset<std::string>;
+
+bool isButtonFace(const Control& control) { return control.name().starts_with("lblBtn"); }
+
+/// What a person can read on the screen, but for buttons and lists.
+Captions readOn(const FrmMain& form) {
+    Captions captions;
+    for (const Control* control : form.controls.all())
+        if (const auto* label = dynamic_cast<const Label*>(control))
+            if (label->isReachable() && !isButtonFace(*label)) captions.insert(label->caption());
+    return captions;
+}
+
+/// The heading right above a list.
+std::string headingOf(Bench& bench, const std::string& listName) {
+    const StatementList& list = bench.list(listName);
+    const Label* heading = nullptr;
+    for (const Control* control : bench.form().controls.all()) {
+        const auto* label = dynamic_cast<const Label*>(control);
+        if (!label || label->container() != list.container()) continue;
+        const bool above = label->bounds().left == list.bounds().left &&
+                           label->bounds().top.value < list.bounds().top.value;
+        if (above && (!heading || label->bounds().top.value > heading->bounds().top.value))
+            heading = label;
+    }
+    return heading ? heading->caption() : "";
+}
+
+TEST(ScreenTexts, AreNoneButButtonsAndTheSwitchOfTheVoiceAtFirst) {
+    Bench bench;
+    bench.start();
+    EXPECT_EQ(readOn(bench.form()), Captions{});
+    EXPECT_EQ(bench.form().chkMute.caption(), "Sound Off");
+    EXPECT_TRUE(bench.form().chkMute.isReachable());
+}
+
+TEST(ScreenTexts, LeadThroughTheChoiceOfAModule) {
+    Bench bench;
+    bench.start();
+    bench.click("Brainstorm");
+    EXPECT_EQ(readOn(bench.form()),
+              (Captions{"Please enter your name",
+                        "The following SWOT Brainstorming modules are available for use.",
+                        "Please select the appropriate module or the one your team leader has "
+                        "asked you to complete.",
+                        "Distribute To Team Members"}));
+}
+
+TEST(ScreenTexts, AreTheQuestionAloneOnTheListScreens) {
+    Bench bench;
+    bench.start();
+    bench.openBrainstorm();
+    EXPECT_EQ(readOn(bench.form()), Captions{" S question 1"});
+}
+
+TEST(ScreenTexts, LeadThroughTheSteps) {
+    AnalysisBench bench;
+    EXPECT_EQ(readOn(bench.form()),
+              (Captions{"Open Brainstorm Files", "Add Brainstorm files to the list below."}));
+    for (int heading = 1; heading <= 4; ++heading) {
+        bench.next(1);
+        EXPECT_EQ(readOn(bench.form()), Captions{" Heading " + std::to_string(heading)});
+    }
+    bench.next(1);
+    EXPECT_EQ(readOn(bench.form()),
+              (Captions{" Heading 5", "Opportunities", "Strengths", "Weaknesses"}));
+    bench.next(1);
+    EXPECT_EQ(readOn(bench.form()), (Captions{" Heading 6", "Threats", "Strengths", "Weaknesses"}));
+}
+
+TEST(ScreenTexts, NameEachListOfTheMappingScreensFromAbove) {
+    AnalysisBench bench;
+    EXPECT_EQ(headingOf(bench, "lvOpportunity"), "Opportunities");
+    EXPECT_EQ(headingOf(bench, "lvThreat"), "Threats");
+    for (const MappingSide& side : mappingSides()) {
+        EXPECT_EQ(headingOf(bench, side.strengths), "Strengths") << side;
+        EXPECT_EQ(headingOf(bench, side.weaknesses), "Weaknesses") << side;
+    }
+}
+
+TEST(ScreenTexts, OfTheAnalyzeStepsAreBuiltInUntilTheirFileIsRead) {
+    Bench bench;
+    const Json state = bench.answerTo({{"do", "state"}})["state"];
+    for (const char* label : {"lblAStrength", "lblAWeakness", "lblAOpportunity", "lblAThreats",
+                              "lblAOMapping", "lblATMapping"})
+        EXPECT_EQ(state["captions"][label],
+                  "Before we move on, take a look through your list and see if there are any that "
+                  "should drop off or perhaps be consolidated with others.")
+            << label;
+}
+
+TEST(ScreenTexts, TellWhatTheLinkToTheTeamIsFor) {
+    Bench bench;
+    EXPECT_EQ(bench.form().lblDistribute.toolTip(),
+              "Use this link to email the Brainstorm module to your team.");
+}
+
+}  // namespace
+}  // namespace orvanta::test
