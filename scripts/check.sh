@@ -32,6 +32,7 @@ check_levels() {
     cmake --preset headless -B build/levels -DORVANTA_TESTS=OFF >/dev/null
     cmake --build build/levels --target logic >/dev/null || fail "the logic does not build"
     scripts/check_levels.py --objects build/levels || fail "something points up or in a circle"
+    scripts/draw_levels.py --check || fail "the picture of the levels is out of date"
 }
 
 check_tidy() {
