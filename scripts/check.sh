@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Looks over the source without running it: layout, clang-tidy, line ends, words. Needs no
-# network; a tool that is not here is a failure.
+# Looks over the source without running it: layout, line ends, words, scripts, levels, clang-tidy.
+# Needs no network; a tool that is not here is a failure.
 set -euo pipefail
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 
@@ -25,12 +25,22 @@ check_layout() {
         xargs -0 clang-format --dry-run --Werror || fail "clang-format wants another layout"
 }
 
+# Prints the levels. The objects are those of the logic alone, built without the window.
+check_levels() {
+    if ! { have python3 && have cmake && have nm; }; then return 0; fi
+    echo "-- levels"
+    cmake --preset headless -B build/levels -DORVANTA_TESTS=OFF >/dev/null
+    cmake --build build/levels --target logic >/dev/null || fail "the logic does not build"
+    scripts/check_levels.py --objects build/levels || fail "something points up or in a circle"
+    scripts/draw_levels.py --check || fail "the picture of the levels is out of date"
+}
+
 check_tidy() {
     if ! { have clang-tidy && have cmake; }; then return 0; fi
     echo "-- clang-tidy"
     cmake --preset dev -B build/check -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >/dev/null
-    # What is built on Windows alone has no headers here.
-    files 'src/*.cpp' 'tests/*.cpp' 'tools/*.cpp' | grep -v '/windows_' | tr '\n' '\0' |
+    # What is built on Windows alone has no headers here; what must not compile is no source.
+    files 'src/*.cpp' 'tests/*.cpp' 'tools/*.cpp' | grep -v '/windows_\|/compile_fail/' | tr '\n' '\0' |
         xargs -0 -n 4 -P "$(nproc)" clang-tidy -p build/check --quiet \
             --extra-arg=-Wno-unknown-warning-option || fail "clang-tidy found something"
 }
@@ -43,7 +53,7 @@ check_line_ends() {
     [[ -z $wrong ]] || fail "these files hold CR LF:"$'\n'"$wrong"
     wrong=$(files '*.jsonl' '*.md' '*.h' '*.cpp' '*.sh' | xargs -r grep -l $'\r$' || true)
     [[ -z $wrong ]] || fail "these files hold CR LF:"$'\n'"$wrong"
-    wrong=$(files '*.h' '*.cpp' '*.sh' '*.txt' '*.jsonl' | while read -r file; do
+    wrong=$(files '*.h' '*.cpp' '*.sh' '*.py' '*.txt' '*.jsonl' | while read -r file; do
         [[ ! -s $file || -z $(tail -c 1 -- "$file") ]] || echo "$file"
     done)
     [[ -z $wrong ]] || fail "these files lack the last line's end:"$'\n'"$wrong"
@@ -63,7 +73,7 @@ check_words() {
 check_scripts() {
     have shellcheck || return 0
     echo "-- shellcheck"
-    files 'scripts/*.sh' .ci/run | xargs shellcheck || fail "shellcheck found something"
+    files 'scripts/*.sh' 'cmake/*.sh' .ci/run | xargs shellcheck || fail "shellcheck found something"
 }
 
 have git || exit 1
@@ -71,6 +81,7 @@ check_layout
 check_line_ends
 check_words
 check_scripts
+check_levels
 check_tidy
 ((failures == 0)) || { echo "$failures of the checks failed" >&2; exit 1; }
 echo "All checks passed."

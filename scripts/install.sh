@@ -15,7 +15,7 @@ declare -A packages=(
             python3 python3-gi gir1.2-atspi-2.0 at-spi2-core"
     [tour]="g++ cmake ninja-build qt6-base-dev libqt6svg6 fonts-dejavu-core nlohmann-json3-dev
             libgtest-dev libbenchmark-dev xvfb xauth openbox dbus chromium"
-    [check]="clang-format clang-tidy git shellcheck g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev
+    [check]="clang-format clang-tidy git shellcheck python3 g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev
              libgtest-dev libbenchmark-dev $sound"
 )
 
