@@ -64,6 +64,7 @@ bool saveDialog(Program& program, Session session) {
     if (!written) return false;
     deleteTemporaryFile(program, session);
     inform(program.platform.messages, savedSessions[session].doneMessage);
+    deleteTemporaryFile(program, session);  // a tick behind the box may have made it anew
     // For both sessions; the Analyze wizard hides its own panel.
     program.frmMain.fraBrainstorm.hide();
     editFlag(program.frmMain, session) = false;

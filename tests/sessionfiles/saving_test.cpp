@@ -63,6 +63,45 @@ TEST_P(SaveByName, EndsTheSessionAndTakesItsCopyAway) {
     EXPECT_EQ(bench.undoRecords(), Texts{});
 }
 
+/// A message box behind which the timer of the autosave ticks.
+class TickingBox : public MessageBoxes {
+public:
+    explicit TickingBox(MessageBoxes& behind) : m_behind(behind) {}
+    MessageAnswer show(const Message& message) override {
+        if (program) tickAutoSave(*program);
+        return m_behind.show(message);
+    }
+    Program* program = nullptr;
+
+private:
+    MessageBoxes& m_behind;
+};
+
+TEST_P(SaveByName, LeavesNoCopyThatATickMakesBehindTheLastBox) {
+    const Platform& world = bench.program().platform;
+    TickingBox box(world.messages);
+    Platform platform{world.disk,
+                      box,
+                      world.fileDialogs,
+                      world.settings,
+                      world.shell,
+                      world.player,
+                      world.screen,
+                      world.modalForms,
+                      world.questionPrinter,
+                      world.wordProcessors,
+                      world.lifetime,
+                      world.folders};
+    Program program(platform, "app", "app");
+    box.program = &program;
+    program.frmMain.*session.changed = true;
+    program.frmMain.fraBrainstorm.show();
+    program.frmMain.fraAnalyze.show();
+    bench.answerFile("docs/team.x");
+    EXPECT_TRUE(session.save(program));
+    EXPECT_FALSE(hasCopy());
+}
+
 TEST_P(SaveByName, HidesTheBrainstormPanelAndLeavesTheAnalyzePanelToItsWizard) {
     bench.form().fraBrainstorm.show();
     bench.form().fraAnalyze.show();
