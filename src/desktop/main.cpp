@@ -4,30 +4,54 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <cstdlib>
+#include <functional>
+#include <optional>
 
 #include "app/startup.h"
 #include "desktop/conversions.h"
+#include "desktop/instance_lock.h"
 #include "desktop/main_window.h"
 #include "desktop/platform.h"
+#include "desktop/system_signals.h"
 #include "desktop/theme.h"
+#include "sessionfiles/saving.h"
 #include "view/file_disk.h"
 
 namespace {
 
-/// The program's own folder where it can be written, else one of the user's.
-QString scratchPath() {
-    QString beside = QCoreApplication::applicationDirPath();
-    if (QFileInfo(beside).isWritable()) return beside;
+using namespace orvanta::desktop;
+
+QString ownFolder() {
     QString own = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
     QDir().mkpath(own);
     return own;
+}
+
+/// The program's own folder where it can be written and nobody else uses it, else one of the
+/// user's. None where another program of this user's has it; that one comes to the front.
+std::optional<QString> scratchFolder(InstanceLock& lock) {
+    using Holder = InstanceLock::Holder;
+    QString folder = QCoreApplication::applicationDirPath();
+    if (!QFileInfo(folder).isWritable()) folder = ownFolder();
+    Holder holder = lock.take(folder);
+    if (holder == Holder::OtherProgram) holder = lock.take(folder = ownFolder());
+    if (holder != Holder::OwnProgram) return folder;
+    lock.raiseHolder();
+    return std::nullopt;
+}
+
+void bringToFront(QWidget& window) {
+    QWidget* modal = QApplication::activeModalWidget();
+    QWidget& front = modal ? *modal : window;
+    front.setWindowState(front.windowState() & ~Qt::WindowMinimized);
+    front.raise();
+    front.activateWindow();
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
     using namespace orvanta;
-    using namespace orvanta::desktop;
     QApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Orvanta"));
     QCoreApplication::setApplicationName(QStringLiteral("Orvanta"));
@@ -36,14 +60,36 @@ int main(int argc, char** argv) {
     QSettings::setDefaultFormat(QSettings::IniFormat);
     dressApplication(application);
 
+    std::function<void()> end, raise;
+    // Ahead of the lock: a second start signals whoever holds it.
+    const SystemSignals systemSignals(
+        [&end] {
+            if (end) end();
+        },
+        [&raise] {
+            if (raise) raise();
+        });
+    InstanceLock lock;
+    const auto scratch = scratchFolder(lock);
+    if (!scratch) return EXIT_SUCCESS;
+
     FileDisk disk;
     DesktopPlatform desktop(disk);
     Program program(desktop.platform(), toCp1252(QCoreApplication::applicationDirPath()),
-                    toCp1252(scratchPath()));
+                    toCp1252(*scratch));
     MainWindow window(program, Input::Person);
+    bool ended = false;
+    end = [&] {
+        ended = true;
+        copyUnsavedSession(program);
+        QCoreApplication::exit();
+    };
+    raise = [&window] { bringToFront(window); };
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
+                     [&program] { copyUnsavedSession(program); });
     desktop.setProgram(program);
     startProgram(program);
-    const int result = QApplication::exec();
+    const int result = ended ? EXIT_SUCCESS : QApplication::exec();
     // All is saved by now, and cleaning up would wait for the sound for good.
     if (!desktop.endSound()) std::_Exit(result);
     return result;

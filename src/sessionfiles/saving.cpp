@@ -99,15 +99,21 @@ bool mayLeaveSessions(Program& program) {
     return promptSaveBrainstorm(program) && promptSaveAnalyze(program);
 }
 
-void tickAutoSave(Program& program) {
-    FrmMain& form = program.frmMain;
-    if (!form.editFlag && !form.editAFlag) return;
+std::optional<std::string> copyUnsavedSession(Program& program) {
+    const FrmMain& form = program.frmMain;
+    if (!form.editFlag && !form.editAFlag) return std::nullopt;
     // A changed brainstorm session comes first, also when it is off the screen.
     const Session session = form.editFlag ? Session::Brainstorm : Session::Analyze;
-    if (!(form.*sessionControls[session].panel).isVisible()) return;
-    const std::string path = (program.*savedSessions[session].temporaryFile)();
+    if (!(form.*sessionControls[session].panel).isVisible()) return std::nullopt;
+    std::string path = (program.*savedSessions[session].temporaryFile)();
     savedSessions[session].save(program, path, true);
-    if (form.autoSaveFailed || fileExists(program, path)) return;
+    return path;
+}
+
+void tickAutoSave(Program& program) {
+    FrmMain& form = program.frmMain;
+    const auto path = copyUnsavedSession(program);
+    if (!path || form.autoSaveFailed || fileExists(program, *path)) return;
     refuse(program.platform.messages,
            "Warning! Could not create autosave file. Auto Save feature is disabled.");
     form.autoSaveFailed = true;

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "core/session_state.h"
 
 namespace orvanta {
@@ -15,7 +18,11 @@ bool promptSaveAnalyze(Program& program);
 /// Both, brainstorm first; a No-go of the first leaves the second unasked.
 bool mayLeaveSessions(Program& program);
 
-/// One tick of the autosave timer: copies a session with changes to its temporary file.
+/// Copies a session with changes to its temporary file and gives that file's path; none where
+/// nothing was to be copied. A failure is not told.
+std::optional<std::string> copyUnsavedSession(Program& program);
+
+/// One tick of the autosave timer: makes that copy, and warns once where there is none.
 void tickAutoSave(Program& program);
 
 }  // namespace orvanta

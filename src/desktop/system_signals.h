@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+
+namespace orvanta::desktop {
+
+/// What the system's signals ask of the program. The handlers are in place once this is made, so
+/// that from then on none of these signals ends the program by itself; there is one of it at most.
+class SystemSignals : public QObject {
+public:
+    /// `end` runs for SIGTERM, SIGHUP and SIGINT, `raise` for the signal of a second start. Both
+    /// run from the event loop, that of a dialog included, never inside a handler.
+    SystemSignals(std::function<void()> end, std::function<void()> raise);
+    ~SystemSignals() override;
+
+    /// The signal that a second start sends to the first one.
+    static int raiseSignal();
+
+private:
+    void take();
+
+    std::function<void()> m_end, m_raise;
+};
+
+}  // namespace orvanta::desktop

@@ -1,0 +1,131 @@
+"""The running program and its end: signals, a second start, another user.
+
+    life_test.py PROGRAM DATA_FOLDER
+
+Needs no display. Each program runs in a folder and a home of its own.
+"""
+
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+PATIENCE = 60  # seconds until what should happen counts as missing
+# As the program would never write it, so that a copy made anew can be told from it.
+LEFT_BEHIND = "<STEP>\n ST\n</STEP>\n<NAME>\nDana\n</NAME>\n<STRENGTH>\n  Own fleet\n</STRENGTH>\n"
+COPIED = ("<STEP>\r\nST\r\n</STEP>\r\n<NAME>\r\nDana\r\n</NAME>\r\n<MODULE>\r\n\r\n</MODULE>\r\n"
+          "<STRENGTH>\r\nOwn fleet\r\n</STRENGTH>\r\n<WEAKNESS>\r\n</WEAKNESS>\r\n"
+          "<OPPORTUNITY>\r\n</OPPORTUNITY>\r\n<THREATS>\r\n</THREATS>\r\n")
+NOBODY = 65534
+
+failures = []
+
+
+def expect(condition, text):
+    if not condition:
+        failures.append(text)
+        print("FAILED:", text, flush=True)
+
+
+def wait_for(look, what):
+    end = time.monotonic() + PATIENCE
+    while time.monotonic() < end:
+        if look():
+            return
+        time.sleep(0.02)
+    raise SystemExit(f"FAILED: {what} did not happen")
+
+
+class Place:
+    """A folder with the program in it, and what an ended session left there."""
+
+    def __init__(self, binary, data):
+        self.root = pathlib.Path(tempfile.mkdtemp())
+        self.root.chmod(0o755)
+        self.folder = self.root / "app"
+        self.folder.mkdir()
+        self.binary = shutil.copy(binary, self.folder)
+        for file in pathlib.Path(data).glob("*.txt"):
+            shutil.copy(file, self.folder)
+        self.copy = self.folder / "brainstorm.tmp"
+        self.copy.write_text(LEFT_BEHIND, newline="")
+
+    def start(self, name="home", user=None):
+        home = self.root / name
+        home.mkdir(mode=0o700, exist_ok=True)
+        if user:
+            os.chown(home, user, user)
+        environment = dict(os.environ, HOME=str(home), XDG_CONFIG_HOME=str(home),
+                           XDG_DATA_HOME=str(home), XDG_RUNTIME_DIR=str(home),
+                           PULSE_SERVER=f"unix:{home}/no-server", QT_QPA_PLATFORM="offscreen")
+        return subprocess.Popen([self.binary], env=environment, user=user, group=user)
+
+    def is_locked_by(self, process, folder=None):
+        lock = (folder or self.folder) / "orvanta.lock"
+        held = f"/proc/{process.pid}/fd"
+        try:
+            return any(os.path.realpath(f"{held}/{fd}") == str(lock) for fd in os.listdir(held))
+        except OSError:  # a descriptor that went, or the program has ended
+            return False
+
+
+def ends_well(process, what):
+    try:
+        expect(process.wait(PATIENCE) == 0, f"{what}: exit code {process.returncode}")
+    except subprocess.TimeoutExpired:
+        process.kill()
+        expect(False, f"{what}: it does not end")
+
+
+def signals_keep_the_session(binary, data):
+    for number in (signal.SIGTERM, signal.SIGHUP, signal.SIGINT):
+        place = Place(binary, data)
+        process = place.start()
+        wait_for(lambda: place.is_locked_by(process), "the start")
+        process.send_signal(number)
+        ends_well(process, number.name)
+        expect(place.copy.read_bytes().decode() == COPIED, f"{number.name} copies the session")
+
+
+def a_second_start_leaves_the_first_alone(binary, data):
+    place = Place(binary, data)
+    first = place.start()
+    wait_for(lambda: place.is_locked_by(first), "the first start")
+    ends_well(place.start(), "the second start")
+    expect(first.poll() is None, "the first one goes on")
+    expect(place.copy.read_text() == LEFT_BEHIND, "its session is not touched")
+    first.kill()
+    first.wait()
+    third = place.start()
+    wait_for(lambda: place.is_locked_by(third), "a start after a crash")
+    third.send_signal(signal.SIGTERM)
+    ends_well(third, "the start after a crash")
+    expect(place.copy.read_bytes().decode() == COPIED, "the session of the crash is back")
+
+
+def another_user_has_a_folder_of_their_own(binary, data):
+    if os.geteuid() != 0:
+        print("Two users are tried as root alone")
+        return
+    place = Place(binary, data)
+    place.folder.chmod(0o777)
+    first = place.start()
+    wait_for(lambda: place.is_locked_by(first), "the first user's start")
+    other = place.start("other", NOBODY)
+    own = place.root / "other" / "Orvanta" / "Orvanta"
+    wait_for(lambda: place.is_locked_by(other, own), "the other user's start")
+    for process in (other, first):
+        process.send_signal(signal.SIGTERM)
+        ends_well(process, "one of two users")
+    expect(not (own / "brainstorm.tmp").exists(), "the other user gets no session of the first")
+
+
+if __name__ == "__main__":
+    for claim in (signals_keep_the_session, a_second_start_leaves_the_first_alone,
+                  another_user_has_a_folder_of_their_own):
+        claim(*sys.argv[1:3])
+    sys.exit(1 if failures else 0)
