@@ -66,7 +66,6 @@ struct SkinnedButton {
     std::string baseName;
 
     void setToolTip(const std::string& toolTip);
-    bool isReachable() const { return image.isReachable(); }
 };
 
 /// All skinned buttons of the main window. Captions and tool tips are those of their table.

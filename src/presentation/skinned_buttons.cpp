@@ -116,11 +116,6 @@ SkinnedButtons::SkinnedButtons(ControlSet& owner) {
 
 const ButtonDesign& designOf(Button button) { return designs[static_cast<std::size_t>(button)]; }
 
-const ButtonDesign* buttonNamed(std::string_view baseName) {
-    const auto found = std::ranges::find(designs, baseName, &ButtonDesign::baseName);
-    return found == designs.end() ? nullptr : &*found;
-}
-
 void pressButton(Program& program, Button button) {
     FrmMain& form = program.frmMain;
     form.buttons[button].image.setArt(downArt(form, designOf(button).large).art());

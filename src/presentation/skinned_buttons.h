@@ -18,9 +18,6 @@ struct ButtonDesign {
 
 const ButtonDesign& designOf(Button button);
 
-/// The button with this base name; null if there is none.
-const ButtonDesign* buttonNamed(std::string_view baseName);
-
 /// The mouse went down on a button of the main window: it shows its pressed art.
 void pressButton(Program& program, Button button);
 

@@ -8,13 +8,8 @@ namespace orvanta {
 
 void ControlSet::add(Control& control) {
     assert(!control.name().empty());
-    assert(!find(control.name()));
+    assert(std::ranges::find(m_controls, control.name(), &Control::name) == m_controls.end());
     m_controls.push_back(&control);
-}
-
-Control* ControlSet::find(std::string_view name) const {
-    const auto found = std::ranges::find(m_controls, name, &Control::name);
-    return found == m_controls.end() ? nullptr : *found;
 }
 
 Control::Control(ControlSet& owner, std::string name, AnyControl self)

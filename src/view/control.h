@@ -2,7 +2,6 @@
 
 #include <cassert>
 #include <string>
-#include <string_view>
 #include <type_traits>
 #include <utility>
 #include <variant>
@@ -36,9 +35,6 @@ public:
     /// No two controls of a form have the same name.
     void add(Control& control);
     const std::vector<Control*>& all() const { return m_controls; }
-
-    /// The control of this name; null if the form has none.
-    Control* find(std::string_view name) const;
 
 private:
     std::vector<Control*> m_controls;

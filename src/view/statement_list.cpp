@@ -106,10 +106,6 @@ void StatementList::setText(int position, std::string text) {
     changeRow(position, [&](Row& row) { row.text = std::move(text); });
 }
 
-void StatementList::setSubItem(int position, std::string subItem) {
-    changeRow(position, [&](Row& row) { row.subItem = std::move(subItem); });
-}
-
 void StatementList::setColour(int position, Colour colour) {
     changeRow(position, [&](Row& row) { row.colour = colour; });
 }

@@ -78,7 +78,6 @@ public:
     /// Each fails with IndexOutOfBounds; setKey also with KeyNotUnique.
     void setKey(int position, std::string key);
     void setText(int position, std::string text);
-    void setSubItem(int position, std::string subItem);
     void setColour(int position, Colour colour);
     void setIndent(int position, int indent);
 

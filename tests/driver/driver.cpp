@@ -6,7 +6,7 @@
 
 #include "core/startup.h"
 #include "core/window_events.h"
-#include "presentation/skinned_buttons.h"
+#include "lookup.h"
 #include "state.h"
 #include "words.h"
 
@@ -175,7 +175,12 @@ void Driver::perform(const Json& line) {
 /// The control of this kind and name, where a person can reach it.
 template <class Kind>
 Kind& Driver::reachable(const std::string& name) {
-    auto* control = dynamic_cast<Kind*>(m_program.frmMain.controls.find(name));
+    Control* named = controlNamed(m_program.frmMain.controls, name);
+    Kind* control = nullptr;
+    if constexpr (std::is_same_v<Kind, Control>)
+        control = named;
+    else if (named)
+        control = named->as<Kind>();
     if (!control) throw Refused("there is no such control here: " + name);
     if (!control->isReachable()) throw Refused("nobody can reach " + name);
     return *control;
@@ -183,15 +188,15 @@ Kind& Driver::reachable(const std::string& name) {
 
 Button Driver::buttonOf(const Json& line) const {
     const std::string name = stringIn(line, "button");
-    const ButtonDesign* design = buttonNamed(name);
-    if (!design) throw Refused("there is no such button: " + name);
-    return design->button;
+    const auto button = buttonNamed(m_program.frmMain, name);
+    if (!button) throw Refused("there is no such button: " + name);
+    return *button;
 }
 
 void Driver::refuseWhileHeld(Button button) const {
     if (m_held && *m_held != button) throw Refused("another button is held down");
-    if (!m_program.frmMain.buttons[button].isReachable())
-        throw Refused("nobody can reach " + m_program.frmMain.buttons[button].baseName);
+    const SkinnedButton& pressed = m_program.frmMain.buttons[button];
+    if (!pressed.image.isReachable()) throw Refused("nobody can reach " + pressed.baseName);
 }
 
 void Driver::start(const Json& line) {

@@ -5,7 +5,6 @@
 
 #include "analysis_bench.h"
 #include "core/window_events.h"
-#include "presentation/skinned_buttons.h"
 #include "reference_session.h"
 
 namespace orvanta::test {
@@ -162,7 +161,7 @@ private:
     }
     void release(char module, char kind, const std::string& verb) {
         const std::string name = std::string(1, module) + kind + verb;
-        buttonReleased(program, buttonNamed(name)->button);
+        buttonReleased(program, bench.button(name));
     }
 
     std::vector<std::pair<StatementList*, ReferenceRows*>> m_pairs;

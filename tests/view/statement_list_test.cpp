@@ -151,13 +151,11 @@ TEST(MappingList, SelectsNothingBehindTheRemovalOfItsSelectedRow) {
 
 TEST_F(StatementListOfThree, ChangesARowWhereItStands) {
     list.setText(2, "changed");
-    list.setSubItem(2, "[Dana]: ");
     list.setColour(2, {1, 2, 3});
     list.setIndent(2, 4);
     const Row& row = list.row(2);
     EXPECT_EQ(row.key, "S2");
     EXPECT_EQ(row.text, "changed");
-    EXPECT_EQ(row.subItem, "[Dana]: ");
     EXPECT_EQ(row.colour, (Colour{1, 2, 3}));
     EXPECT_EQ(row.indent, 4);
 }
