@@ -19,13 +19,6 @@ Span stretched(double from, double length, double fromShare, double toShare, dou
 
 }  // namespace
 
-bool isUncovered(const Control& control) {
-    if (!control.isVisible() || (control.coveredBy() && control.coveredBy()->hasVisible()))
-        return false;
-    const auto* panel = dynamic_cast<const Panel*>(&control);
-    return !panel || !panel->stack() || panel->stack()->top() == panel;
-}
-
 ControlArea::ControlArea(const PixelGrid& pixelGrid, QWidget* parent)
     : QWidget(parent), m_pixelGrid(pixelGrid) {}
 
@@ -46,14 +39,12 @@ void ControlArea::hold(Control& control, QWidget& widget) {
 }
 
 void ControlArea::showUncovered() {
-    for (const auto& [control, widget] : m_held) widget->setVisible(isUncovered(*control));
+    for (const auto& [control, widget] : m_held) widget->setVisible(control->isUncovered());
 }
 
 void ControlArea::raiseUncovered() {
-    for (const auto& [control, widget] : m_held) {
-        const auto* panel = dynamic_cast<const Panel*>(control);
-        if (!control->coveredBy() && !(panel && panel->stack())) widget->raise();
-    }
+    for (const auto& [control, widget] : m_held)
+        if (!control->coveredBy()) widget->raise();
 }
 
 void ControlArea::resizeEvent(QResizeEvent*) { placeAll(); }

@@ -17,15 +17,16 @@ Control::Control(ControlSet& owner, std::string name, AnyControl self)
     owner.add(*this);
 }
 
+bool Control::isUncovered() const {
+    if (!m_visible) return false;
+    const Panel* top = m_coveredBy ? m_coveredBy->top() : nullptr;
+    return !top || top == this;
+}
+
 bool Control::isReachable() const {
-    if (!m_enabled || !m_visible) return false;
-    if (m_coveredBy && m_coveredBy->hasVisible()) return false;
-    for (const Panel* panel = m_container; panel; panel = panel->container()) {
-        if (!panel->isVisible()) return false;
-        if (panel->stack() && panel->stack()->top() != panel) return false;
-        if (panel->coveredBy() && panel->coveredBy()->hasVisible()) return false;
-    }
-    return true;
+    for (const Control* held = this; held; held = held->container())
+        if (!held->isUncovered()) return false;
+    return m_enabled;
 }
 
 void PanelStack::raise(Panel& panel) {
@@ -43,6 +44,7 @@ Panel* PanelStack::top() const {
 Panel::Panel(ControlSet& owner, std::string name, PanelStack* stack)
     : Control(owner, std::move(name), this), m_stack(stack) {
     if (stack) stack->add(*this);
+    setCoveredBy(stack);
 }
 
 void Panel::setVisible(bool visible) {

@@ -84,6 +84,17 @@ TEST(Reach, EndsWhereAPanelLiesOverTheHolderOfTheControl) {
     EXPECT_FALSE(picture.isReachable());
 }
 
+TEST(Reach, EndsAtAPanelThatLiesUnderAnother) {
+    Form form;
+    form.first.show();
+    form.second.show();
+    EXPECT_TRUE(form.second.isUncovered());
+    EXPECT_FALSE(form.first.isUncovered());
+    EXPECT_FALSE(form.first.isReachable());
+    EXPECT_FALSE(form.onFirst.isReachable());
+    EXPECT_TRUE(form.onFirst.isUncovered());  // what hides it is not its own
+}
+
 TEST(PanelStack, HasThePanelOnTopThatWasShownLast) {
     Form form;
     form.second.show();
