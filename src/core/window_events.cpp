@@ -13,6 +13,7 @@
 #include "questions/narration.h"
 #include "sessionfiles/merging.h"
 #include "sessionfiles/saving.h"
+#include "view/text_entry.h"
 
 namespace orvanta {
 
@@ -31,8 +32,6 @@ void addAnswerIn(Program& program, const TextBox& box) {
         if (&(form.*controls.reviewBox) == &box) addAnalyzeStatement(program, controls.kind);
     }
 }
-
-constexpr char enterKey = 13;
 
 struct RankedList {
     StatementList FrmMain::*list;

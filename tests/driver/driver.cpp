@@ -8,6 +8,7 @@
 #include "core/window_events.h"
 #include "lookup.h"
 #include "state.h"
+#include "view/text_entry.h"
 #include "words.h"
 
 namespace orvanta::driver {
@@ -172,7 +173,7 @@ void Driver::perform(const Json& line) {
     (this->*act->perform)(line);
 }
 
-/// The control of this kind and name, where a person can reach it.
+/// The control of this name, of any kind or of a single one, where a person can reach it.
 template <class Kind>
 Kind& Driver::reachable(const std::string& name) {
     Control* named = controlNamed(m_program.frmMain.controls, name);

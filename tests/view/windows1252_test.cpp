@@ -55,13 +55,5 @@ TEST_P(BrokenUtf8, BecomesAQuestionMarkAndTheRestStays) {
     EXPECT_EQ(windows1252From("a" + GetParam() + "b"), "a?b");
 }
 
-TEST(PastedText, BecomesOneLineWithABlankForEachLineBreak) {
-    EXPECT_EQ(singleLineFrom("a\r\nb\rc\nd"), "a b c d");
-    EXPECT_EQ(singleLineFrom("a\n\nb"), "a  b");
-    EXPECT_EQ(singleLineFrom("a\r\r\nb"), "a  b");
-}
-
-TEST(PastedText, TurnsIntoTheCodePageToo) { EXPECT_EQ(singleLineFrom("é\u65E5"), "\xE9?"); }
-
 }  // namespace
 }  // namespace orvanta::test
