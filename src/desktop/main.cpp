@@ -7,6 +7,7 @@
 
 #include "core/startup.h"
 #include "desktop/conversions.h"
+#include "desktop/auto_save_timer.h"
 #include "desktop/main_window.h"
 #include "desktop/platform.h"
 #include "desktop/theme.h"
@@ -40,7 +41,8 @@ int main(int argc, char** argv) {
     DesktopPlatform desktop(disk);
     Program program(desktop.platform(), toCp1252(QCoreApplication::applicationDirPath()),
                     toCp1252(scratchPath()));
-    MainWindow window(program, Input::Person);
+    MainWindow window(program);
+    const AutoSaveTimer autoSave(program);
     desktop.setProgram(program);
     startProgram(program);
     const int result = QApplication::exec();

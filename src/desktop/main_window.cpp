@@ -22,7 +22,6 @@ namespace orvanta::desktop {
 
 namespace {
 
-constexpr int autoSaveMilliseconds = 30'000;
 constexpr double smallestShare = 0.8;  // of the design size
 constexpr int bandHeight = 64;
 
@@ -80,8 +79,8 @@ bool isFocusable(const QWidget* widget) { return widget->focusPolicy() & Qt::Tab
 
 }  // namespace
 
-MainWindow::MainWindow(Program& program, Input input)
-    : ControlArea(PixelGrid(program.platform.screen), nullptr), m_program(program), m_input(input) {
+MainWindow::MainWindow(Program& program)
+    : ControlArea(PixelGrid(program.platform.screen), nullptr), m_program(program) {
     FrmMain& form = program.frmMain;
     setObjectName(QStringLiteral("frmMain"));
     makePanels();
@@ -98,7 +97,6 @@ MainWindow::MainWindow(Program& program, Input input)
     form.shownChanged.subscribe([this] { showShown(); });
     showCaption();
     showSize();
-    if (input == Input::Person) startTimer(autoSaveMilliseconds);
 }
 
 ControlArea& MainWindow::areaOf(const Control& control) {
@@ -190,7 +188,7 @@ void MainWindow::makeWhereabouts() {
 void MainWindow::makeByKind(Control& control, ControlArea& area) {
     const auto make = Overloaded{
         [&](StatementList* list) {
-            mirrorControl(*list, *new StatementListView(m_program, *list, m_input, &area), area);
+            mirrorControl(*list, *new StatementListView(m_program, *list, &area), area);
         },
         [&](TextBox* box) {
             makeTextBox(*box, area, [this, box](char character) {
@@ -236,7 +234,7 @@ void MainWindow::showSize() {
 
 void MainWindow::showShown() {
     setVisible(m_program.frmMain.shown);
-    if (m_input == Input::Person) windowActivated(m_program);
+    windowActivated(m_program);
 }
 
 void MainWindow::screenMayDiffer() {
@@ -275,14 +273,11 @@ void MainWindow::focusScreen() {
 }
 
 bool MainWindow::event(QEvent* event) {
-    const bool counts = m_input == Input::Person || !event->spontaneous();
-    if (event->type() == QEvent::WindowActivate && counts) windowActivated(m_program);
+    if (event->type() == QEvent::WindowActivate) windowActivated(m_program);
     return ControlArea::event(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(windowClosing(m_program)); }
-
-void MainWindow::timerEvent(QTimerEvent*) { autoSaveTicked(m_program); }
 
 void MainWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);

@@ -13,14 +13,12 @@ namespace orvanta::desktop {
 /// frmMain as a person sees it: every control of the model as a widget of the same name.
 class MainWindow : public ControlArea {
 public:
-    /// The program must outlive the window's use. Under Input::Driver neither real mouse
-    /// moves nor real activation nor the clock reach the program.
-    MainWindow(Program& program, Input input);
+    /// The program must outlive the window's use.
+    explicit MainWindow(Program& program);
 
 protected:
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    void timerEvent(QTimerEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -43,7 +41,6 @@ private:
     const Control* firstStop(const Panel& screen) const;
 
     Program& m_program;
-    Input m_input;
     ControlSet m_ownControls;  // the window's own, of which the program knows nothing
     Label m_merge{m_ownControls, "lblMerge", "Merge..."};
     Label m_whereabouts{m_ownControls, "lblWhereabouts"};

@@ -33,9 +33,8 @@ void StatementDrag::finish(Program& program) const {
     if (m_target) droppedOn(program, *m_target, m_position);
 }
 
-StatementListView::StatementListView(Program& program, StatementList& list, Input input,
-                                     QWidget* parent)
-    : QListView(parent), m_program(program), m_list(list), m_input(input), m_model(list) {
+StatementListView::StatementListView(Program& program, StatementList& list, QWidget* parent)
+    : QListView(parent), m_program(program), m_list(list), m_model(list) {
     if (isMappingList(program.frmMain, list))
         m_mappingCounts = std::make_unique<MappingCounts>(list);
     m_model.describe = [this](int position) {
@@ -88,7 +87,6 @@ void StatementListView::selectionChanged(const QItemSelection& selected,
 }
 
 void StatementListView::mouseMoveEvent(QMouseEvent* event) {
-    if (m_input == Input::Driver && event->spontaneous()) return;
     hoveredOver(m_program, m_list, positionAt(event->position().toPoint()));
     QListView::mouseMoveEvent(event);
 }
@@ -164,7 +162,6 @@ void StatementListView::dropEvent(QDropEvent* event) {
 /// Scrolls on while a drag rests at the upper or lower edge.
 void StatementListView::scrollAtEdge(const QPoint& point) {
     constexpr int edge = 20, step = 8, milliseconds = 30;
-    if (m_input == Input::Driver) return;
     m_edgeStep = 0;
     if (point.y() < edge) m_edgeStep = -step;
     if (point.y() > viewport()->height() - edge) m_edgeStep = step;

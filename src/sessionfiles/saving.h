@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+
 #include "core/session_state.h"
 
 namespace orvanta {
@@ -15,7 +17,10 @@ bool promptSaveAnalyze(Program& program);
 
 void openBrainstormFile(Program& program);
 
-/// One tick of the autosave timer: copies a session with changes to its temporary file.
+/// How often the autosave timer ticks.
+inline constexpr std::chrono::seconds autoSaveInterval{30};
+
+/// One tick of it: copies a session with changes to its temporary file.
 void tickAutoSave(Program& program);
 
 }  // namespace orvanta
