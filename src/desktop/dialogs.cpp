@@ -178,7 +178,7 @@ SplashDialog::SplashDialog(Program& program, const FrmSplash& form)
     setObjectName(QStringLiteral("frmSplash"));
     const PixelGrid pixelGrid(program.platform.screen);
     setFixedSize(pixelGrid.pixels(form.width), pixelGrid.pixels(form.height));
-    setWindowTitle(QStringLiteral("Orvanta"));
+    setWindowTitle(fromCp1252(form.caption));
     move(screen()->availableGeometry().center() - rect().center());
     QTimer::singleShot(splashMilliseconds, this, &QDialog::accept);
 }

@@ -5,9 +5,10 @@
 #include <QStandardPaths>
 #include <cstdlib>
 
+#include "core/constants.h"
 #include "core/startup.h"
-#include "desktop/conversions.h"
 #include "desktop/auto_save_timer.h"
+#include "desktop/conversions.h"
 #include "desktop/main_window.h"
 #include "desktop/platform.h"
 #include "desktop/theme.h"
@@ -30,8 +31,8 @@ int main(int argc, char** argv) {
     using namespace orvanta;
     using namespace orvanta::desktop;
     QApplication application(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("Orvanta"));
-    QCoreApplication::setApplicationName(QStringLiteral("Orvanta"));
+    QCoreApplication::setOrganizationName(fromCp1252(appTitle));
+    QCoreApplication::setApplicationName(fromCp1252(appTitle));
     QGuiApplication::setDesktopFileName(QStringLiteral("orvanta"));
     QGuiApplication::setQuitOnLastWindowClosed(false);  // the splash goes before the window comes
     QSettings::setDefaultFormat(QSettings::IniFormat);

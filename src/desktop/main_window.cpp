@@ -154,7 +154,7 @@ void MainWindow::makeLink(Label& label, LinkView::Ground ground, void (*clicked)
 void MainWindow::makeMergeLink() {
     const Label& above = m_program.frmMain.buttons[Button::AFRemove].label;
     const Label& likeness = m_program.frmMain.lblDistribute;
-    m_merge.setToolTip("Join the files of the list into one new Brainstorm file.");
+    m_merge.setToolTip(std::string(mergeToolTip));
     m_merge.setContainer(above.container());
     m_merge.setCoveredBy(above.coveredBy());
     m_merge.setStretch(above.stretch());

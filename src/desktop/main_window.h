@@ -7,6 +7,7 @@
 #include "desktop/label_view.h"
 #include "desktop/statement_list_view.h"
 #include "desktop/whereabouts_view.h"
+#include "sessionfiles/merging.h"
 
 namespace orvanta::desktop {
 
@@ -42,7 +43,7 @@ private:
 
     Program& m_program;
     ControlSet m_ownControls;  // the window's own, of which the program knows nothing
-    Label m_merge{m_ownControls, "lblMerge", "Merge..."};
+    Label m_merge{m_ownControls, "lblMerge", std::string(mergeCaption)};
     Label m_whereabouts{m_ownControls, "lblWhereabouts"};
     WhereaboutsView* m_whereaboutsView = nullptr;
     std::unordered_map<const Panel*, ControlArea*> m_panels;

@@ -12,13 +12,6 @@ namespace {
 
 constexpr int pictureSize = 12, gap = 4, groupGap = 16;
 
-QString inWords(const std::array<int, 4>& counts) {
-    QStringList words;
-    for (const StatementKind kind : statementKinds)
-        words += fromCp1252(nameOfSeveral(kind)) + u' ' + QString::number(counts[indexOf(kind)]);
-    return words.join(QStringLiteral(", "));
-}
-
 }  // namespace
 
 WhereaboutsView::WhereaboutsView(Program& program, Label& model, const PixelGrid& pixelGrid,
@@ -44,10 +37,9 @@ void WhereaboutsView::mayDiffer() {
 void WhereaboutsView::look() {
     m_lookPending = false;
     m_shown = whereaboutsOf(m_program);
-    const QString counts = inWords(m_shown.counts);
-    m_model.setToolTip(toCp1252(counts));
+    m_model.setToolTip(countsInWords(m_shown));
     m_model.setVisible(!m_shown.place.empty());
-    setText(fromCp1252(m_shown.place) + QStringLiteral(". ") + counts + u'.');
+    setText(fromCp1252(inWords(m_shown)));
     update();
 }
 

@@ -68,5 +68,12 @@ TEST(Whereabouts, CountTheStatementsOfTheModuleInSight) {
     EXPECT_EQ(whereaboutsOf(bench.program()).counts, (Counts{2, 0, 0, 0}));
 }
 
+TEST(Whereabouts, TellTheirCountsInWords) {
+    const Whereabouts whereabouts{"Step 3 of 5: Weaknesses", {2, 0, 11, 1}};
+    EXPECT_EQ(countsInWords(whereabouts), "Strengths 2, Weaknesses 0, Opportunities 11, Threats 1");
+    EXPECT_EQ(inWords(whereabouts),
+              "Step 3 of 5: Weaknesses. Strengths 2, Weaknesses 0, Opportunities 11, Threats 1.");
+}
+
 }  // namespace
 }  // namespace orvanta::test
