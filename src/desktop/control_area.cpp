@@ -1,5 +1,6 @@
 #include "desktop/control_area.h"
 
+#include <cassert>
 #include <cmath>
 
 namespace orvanta::desktop {
@@ -33,6 +34,7 @@ QSize ControlArea::designSize() const {
 }
 
 void ControlArea::hold(Control& control, QWidget& widget) {
+    assert(widget.parentWidget() == this);
     m_held.emplace_back(&control, &widget);
     control.changed.subscribe([this, &control, &widget] { place(control, widget); });
     place(control, widget);

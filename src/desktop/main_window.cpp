@@ -268,8 +268,11 @@ void MainWindow::focusScreen() {
     m_focusPending = false;
     const Panel* shown = screen();
     if (std::exchange(m_focusedScreen, shown) == shown || !shown) return;
-    if (const Control* first = firstStop(*shown))
-        findChild<QWidget*>(fromCp1252(first->name()))->setFocus();
+    const Control* first = firstStop(*shown);
+    if (!first) return;
+    auto* widget = findChild<QWidget*>(fromCp1252(first->name()));
+    assert(widget);
+    widget->setFocus();
 }
 
 bool MainWindow::event(QEvent* event) {

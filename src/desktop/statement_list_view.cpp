@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QTimer>
 #include <QToolTip>
+#include <cassert>
 #include <utility>
 
 #include "analyze/mapping.h"
@@ -25,6 +26,7 @@ const StatementDrag* statementDragIn(const QDropEvent& event) {
 }  // namespace
 
 void StatementDrag::dropOn(StatementList& list, int position) const {
+    assert(position >= 0 && position <= list.count());
     m_target = &list;
     m_position = position;
 }
@@ -173,6 +175,7 @@ void StatementListView::scrollAtEdge(const QPoint& point) {
 
 void StatementListView::timerEvent(QTimerEvent* event) {
     if (event->timerId() != m_edgeTimer.timerId()) return QListView::timerEvent(event);
+    assert(m_draggedFrom);
     verticalScrollBar()->setValue(verticalScrollBar()->value() + m_edgeStep);
     foresee(*m_draggedFrom, m_draggedTo);
 }
