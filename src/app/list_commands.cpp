@@ -2,6 +2,7 @@
 
 #include "app/window_events.h"
 #include "core/kind_controls.h"
+#include "sessionfiles/merging.h"
 
 namespace orvanta {
 
@@ -25,7 +26,7 @@ std::vector<ListCommand> commandsOf(const ListButtons& buttons) {
 
 std::vector<ListCommand> listCommandsOf(const FrmMain& form, const Control& list) {
     if (&list == &form.lstFiles)
-        return {{"Merge...", Needs::Nothing, false, mergeChosen},
+        return {{mergeCaption, Needs::Nothing, false, mergeChosen},
                 commandOf(Button::AFAdd, "Add...", Needs::Nothing),
                 commandOf(Button::AFRemove, "Remove", Needs::ChosenRow)};
     if (&list == &form.lvOpportunity)

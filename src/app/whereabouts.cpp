@@ -57,6 +57,19 @@ PerKind<int> countsOf(const FrmMain& form, Session session) {
 
 }  // namespace
 
+std::string countsInWords(const Whereabouts& whereabouts) {
+    std::string words;
+    for (const StatementKind kind : statementKinds) {
+        if (!words.empty()) words += ", ";
+        words.append(nameOfSeveral(kind)) += " " + std::to_string(whereabouts.counts[kind]);
+    }
+    return words;
+}
+
+std::string inWords(const Whereabouts& whereabouts) {
+    return whereabouts.place + ". " + countsInWords(whereabouts) + ".";
+}
+
 Whereabouts whereaboutsOf(const Program& program) {
     const FrmMain& form = program.frmMain;
     const Panel* module = form.moduleScreens.top();

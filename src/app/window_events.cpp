@@ -15,6 +15,7 @@
 #include "questions/narration.h"
 #include "sessionfiles/merging.h"
 #include "sessionfiles/saving.h"
+#include "view/text_entry.h"
 
 namespace orvanta {
 
@@ -34,8 +35,6 @@ void addAnswerIn(Program& program, const TextBox& box) {
             if (&(program.frmMain.*controlsOf(session, kind).box) == &box)
                 adds[session](program, kind);
 }
-
-constexpr char enterKey = 13;
 
 }  // namespace
 

@@ -81,7 +81,6 @@ struct SkinnedButton {
     std::string baseName;
 
     void setToolTip(const std::string& toolTip);
-    bool isReachable() const { return image.isReachable(); }
 };
 
 /// All skinned buttons of the main window, with the faces that they have at first.

@@ -11,6 +11,29 @@ inline void refuse(MessageBoxes& messages, std::string_view text) {
         {.text = std::string(text), .icon = MessageIcon::Stop, .title = std::string(appTitle)});
 }
 
+/// Said of a path that was chosen and can't be told in the program's own characters.
+inline Message unusablePath() {
+    return {.text =
+                "This name holds characters that Orvanta can't use. "
+                "Please choose another file or folder name.",
+            .icon = MessageIcon::Stop};
+}
+
+/// What the icon of a message says to those who do not see it.
+constexpr std::string_view nameOf(MessageIcon icon) {
+    switch (icon) {
+        case MessageIcon::None:
+            break;
+        case MessageIcon::Stop:
+            return "Stop";
+        case MessageIcon::Question:
+            return "Question";
+        case MessageIcon::Information:
+            return "Information";
+    }
+    return {};
+}
+
 /// Good news: information icon, the product's title.
 inline void inform(MessageBoxes& messages, std::string_view text) {
     messages.show({.text = std::string(text),

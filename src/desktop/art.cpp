@@ -1,15 +1,21 @@
 #include "desktop/art.h"
 
+#include <QFile>
 #include <QImageReader>
 #include <QPainter>
 #include <QPixmapCache>
 #include <array>
+#include <cassert>
 
 namespace orvanta::desktop {
 
 namespace {
 
-QString fileOf(const QString& name) { return QStringLiteral(":/art/%1.svg").arg(name); }
+QString fileOf(const QString& name) {
+    const QString file = QStringLiteral(":/art/%1.svg").arg(name);
+    assert(QFile::exists(file));
+    return file;
+}
 
 }  // namespace
 
@@ -47,6 +53,7 @@ QString artName(Art art) {
         case Art::LargeDown:
             return QStringLiteral("button_large_down");
     }
+    assert(false);
     return {};
 }
 
@@ -55,7 +62,8 @@ const QIcon& rowIcon(int image) {
                                             pictureIcon(QStringLiteral("row_weakness")),
                                             pictureIcon(QStringLiteral("row_opportunity")),
                                             pictureIcon(QStringLiteral("row_threat"))};
-    return icons[image >= 1 && image <= 4 ? static_cast<std::size_t>(image) : 0];
+    const auto number = static_cast<std::size_t>(image);
+    return icons[number < icons.size() ? number : 0];
 }
 
 }  // namespace orvanta::desktop

@@ -1,11 +1,13 @@
 #include "desktop/clicks.h"
 
 #include <QApplication>
+#include <cassert>
 #include <utility>
 
 namespace orvanta::desktop {
 
 void whenClicked(QAbstractButton& button, std::function<void()> act) {
+    assert(act);
     QObject::connect(&button, &QAbstractButton::clicked, &button, [&button, act = std::move(act)] {
         const QWidget* dialog = QApplication::activeModalWidget();
         if (!dialog || dialog == button.window()) act();

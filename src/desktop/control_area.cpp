@@ -1,5 +1,6 @@
 #include "desktop/control_area.h"
 
+#include <cassert>
 #include <cmath>
 
 namespace orvanta::desktop {
@@ -19,13 +20,6 @@ Span stretched(double from, double length, double fromShare, double toShare, dou
 
 }  // namespace
 
-bool isUncovered(const Control& control) {
-    if (!control.isVisible() || (control.coveredBy() && control.coveredBy()->hasVisible()))
-        return false;
-    const auto* panel = dynamic_cast<const Panel*>(&control);
-    return !panel || !panel->stack() || panel->stack()->top() == panel;
-}
-
 ControlArea::ControlArea(const PixelGrid& pixelGrid, QWidget* parent)
     : QWidget(parent), m_pixelGrid(pixelGrid) {}
 
@@ -40,20 +34,19 @@ QSize ControlArea::designSize() const {
 }
 
 void ControlArea::hold(Control& control, QWidget& widget) {
+    assert(widget.parentWidget() == this);
     m_held.emplace_back(&control, &widget);
     control.changed.subscribe([this, &control, &widget] { place(control, widget); });
     place(control, widget);
 }
 
 void ControlArea::showUncovered() {
-    for (const auto& [control, widget] : m_held) widget->setVisible(isUncovered(*control));
+    for (const auto& [control, widget] : m_held) widget->setVisible(control->isUncovered());
 }
 
 void ControlArea::raiseUncovered() {
-    for (const auto& [control, widget] : m_held) {
-        const auto* panel = dynamic_cast<const Panel*>(control);
-        if (!control->coveredBy() && !(panel && panel->stack())) widget->raise();
-    }
+    for (const auto& [control, widget] : m_held)
+        if (!control->coveredBy()) widget->raise();
 }
 
 void ControlArea::resizeEvent(QResizeEvent*) { placeAll(); }

@@ -9,9 +9,6 @@
 
 namespace orvanta::desktop {
 
-/// True if a control is switched on and no panel of its own container covers it.
-bool isUncovered(const Control& control);
-
 /// Holds the widgets of a form or a panel, each at the place that its model tells. What the
 /// area has grown beyond its design size is shared out by the controls' stretch.
 class ControlArea : public QWidget {

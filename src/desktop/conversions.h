@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QString>
+#include <cassert>
 #include <string>
 #include <string_view>
 
@@ -27,7 +28,9 @@ QString shownToolTip(std::string_view toolTip);
 class PixelGrid {
 public:
     /// The screen must outlive the grid.
-    explicit PixelGrid(const orvanta::Screen& screen) : m_screen(screen) {}
+    explicit PixelGrid(const orvanta::Screen& screen) : m_screen(screen) {
+        assert(screen.twipsPerPixel() > 0);
+    }
 
     double exact(Twips length) const { return length.value / m_screen.twipsPerPixel(); }
     int pixels(Twips length) const;

@@ -15,6 +15,7 @@
 #include "desktop/label_view.h"
 #include "desktop/mirrors.h"
 #include "desktop/theme.h"
+#include "view/text_entry.h"
 
 namespace orvanta::desktop {
 
@@ -104,7 +105,6 @@ EditDialog::EditDialog(Program& program, FrmEdit& form, QWidget* owner)
     setObjectName(QStringLiteral("frmEdit"));
     putBackground(*m_area, form.btnOk.image);
     putLabel(form.Label1, *m_area, QPalette::HighlightedText);
-    constexpr char enterKey = 13;
     const auto typed = [this](char character) {
         if (character == enterKey) handle(m_program, [&] { commitEdit(m_program, m_form); });
         return true;
@@ -178,7 +178,7 @@ SplashDialog::SplashDialog(Program& program, const FrmSplash& form)
     setObjectName(QStringLiteral("frmSplash"));
     const PixelGrid pixelGrid(program.platform.screen);
     setFixedSize(pixelGrid.pixels(form.width), pixelGrid.pixels(form.height));
-    setWindowTitle(QStringLiteral("Orvanta"));
+    setWindowTitle(fromCp1252(form.caption));
     move(screen()->availableGeometry().center() - rect().center());
     QTimer::singleShot(splashMilliseconds, this, &QDialog::accept);
 }

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QStandardPaths>
 #include <QTreeView>
+#include <cassert>
 
 #include "desktop/conversions.h"
 
@@ -37,7 +38,9 @@ FileChooser::FileChooser(const FileDialogRequest& request, QWidget* owner)
     setOption(DontConfirmOverwrite);
     setFileMode(AnyFile);
     setAcceptMode(request.mode == FileDialogMode::Open ? AcceptOpen : AcceptSave);
-    QHeaderView& columns = *findChild<QTreeView*>(QStringLiteral("treeView"))->header();
+    auto* files = findChild<QTreeView*>(QStringLiteral("treeView"));
+    assert(files && nameBox() && "the toolkit's file dialog has other parts than this one knows");
+    QHeaderView& columns = *files->header();
     columns.setStretchLastSection(false);
     columns.setSectionResizeMode(QHeaderView::ResizeToContents);
     columns.setSectionResizeMode(0, QHeaderView::Stretch);

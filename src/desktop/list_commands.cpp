@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <algorithm>
+#include <cassert>
 #include <vector>
 
 #include "app/list_commands.h"
@@ -80,10 +81,12 @@ private:
 }  // namespace
 
 void offerListCommands(Program& program, QWidget& window) {
-    for (const Control* list : program.frmMain.controls.all())
-        if (!listCommandsOf(program.frmMain, *list).empty())
-            new ListMenu(program, *list,
-                         *window.findChild<QAbstractItemView*>(fromCp1252(list->name())));
+    for (const Control* list : program.frmMain.controls.all()) {
+        if (listCommandsOf(program.frmMain, *list).empty()) continue;
+        auto* view = window.findChild<QAbstractItemView*>(fromCp1252(list->name()));
+        assert(view && "a list has commands and no view");
+        new ListMenu(program, *list, *view);
+    }
 }
 
 }  // namespace orvanta::desktop

@@ -8,6 +8,8 @@
 #include <optional>
 
 #include "app/startup.h"
+#include "core/constants.h"
+#include "desktop/auto_save_timer.h"
 #include "desktop/conversions.h"
 #include "desktop/instance_lock.h"
 #include "desktop/main_window.h"
@@ -53,8 +55,8 @@ void bringToFront(QWidget& window) {
 int main(int argc, char** argv) {
     using namespace orvanta;
     QApplication application(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("Orvanta"));
-    QCoreApplication::setApplicationName(QStringLiteral("Orvanta"));
+    QCoreApplication::setOrganizationName(fromCp1252(appTitle));
+    QCoreApplication::setApplicationName(fromCp1252(appTitle));
     QGuiApplication::setDesktopFileName(QStringLiteral("orvanta"));
     QGuiApplication::setQuitOnLastWindowClosed(false);  // the splash goes before the window comes
     QSettings::setDefaultFormat(QSettings::IniFormat);
@@ -77,7 +79,8 @@ int main(int argc, char** argv) {
     DesktopPlatform desktop(disk);
     Program program(desktop.platform(), toCp1252(QCoreApplication::applicationDirPath()),
                     toCp1252(*scratch));
-    MainWindow window(program, Input::Person);
+    MainWindow window(program);
+    const AutoSaveTimer autoSave(program);
     bool ended = false;
     end = [&] {
         ended = true;

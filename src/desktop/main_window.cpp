@@ -22,7 +22,6 @@ namespace orvanta::desktop {
 
 namespace {
 
-constexpr int autoSaveMilliseconds = 30'000;
 constexpr double smallestShare = 0.8;  // of the design size
 constexpr int bandHeight = 64;
 
@@ -80,8 +79,8 @@ bool isFocusable(const QWidget* widget) { return widget->focusPolicy() & Qt::Tab
 
 }  // namespace
 
-MainWindow::MainWindow(Program& program, Input input)
-    : ControlArea(PixelGrid(program.platform.screen), nullptr), m_program(program), m_input(input) {
+MainWindow::MainWindow(Program& program)
+    : ControlArea(PixelGrid(program.platform.screen), nullptr), m_program(program) {
     FrmMain& form = program.frmMain;
     setObjectName(QStringLiteral("frmMain"));
     makePanels();
@@ -98,7 +97,6 @@ MainWindow::MainWindow(Program& program, Input input)
     form.shownChanged.subscribe([this] { showShown(); });
     showCaption();
     showSize();
-    if (input == Input::Person) startTimer(autoSaveMilliseconds);
 }
 
 ControlArea& MainWindow::areaOf(const Control& control) {
@@ -155,7 +153,7 @@ void MainWindow::makeLink(Label& label, LinkView::Ground ground, void (*clicked)
 void MainWindow::makeMergeLink() {
     const Label& above = m_program.frmMain.buttons[Button::AFRemove].label;
     const Label& likeness = m_program.frmMain.lblDistribute;
-    m_merge.setToolTip("Join the files of the list into one new Brainstorm file.");
+    m_merge.setToolTip(std::string(mergeToolTip));
     m_merge.setContainer(above.container());
     m_merge.setCoveredBy(above.coveredBy());
     m_merge.setStretch(above.stretch());
@@ -189,7 +187,7 @@ void MainWindow::makeWhereabouts() {
 void MainWindow::makeByKind(Control& control, ControlArea& area) {
     const auto make = Overloaded{
         [&](StatementList* list) {
-            mirrorControl(*list, *new StatementListView(m_program, *list, m_input, &area), area);
+            mirrorControl(*list, *new StatementListView(m_program, *list, &area), area);
         },
         [&](TextBox* box) {
             makeTextBox(*box, area, [this, box](char character) {
@@ -235,7 +233,7 @@ void MainWindow::showSize() {
 
 void MainWindow::showShown() {
     setVisible(m_program.frmMain.shown);
-    if (m_input == Input::Person) windowActivated(m_program);
+    windowActivated(m_program);
 }
 
 void MainWindow::screenMayDiffer() {
@@ -269,19 +267,19 @@ void MainWindow::focusScreen() {
     m_focusPending = false;
     const Panel* shown = screen();
     if (std::exchange(m_focusedScreen, shown) == shown || !shown) return;
-    if (const Control* first = firstStop(*shown))
-        findChild<QWidget*>(fromCp1252(first->name()))->setFocus();
+    const Control* first = firstStop(*shown);
+    if (!first) return;
+    auto* widget = findChild<QWidget*>(fromCp1252(first->name()));
+    assert(widget);
+    widget->setFocus();
 }
 
 bool MainWindow::event(QEvent* event) {
-    const bool counts = m_input == Input::Person || !event->spontaneous();
-    if (event->type() == QEvent::WindowActivate && counts) windowActivated(m_program);
+    if (event->type() == QEvent::WindowActivate) windowActivated(m_program);
     return ControlArea::event(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(windowClosing(m_program)); }
-
-void MainWindow::timerEvent(QTimerEvent*) { autoSaveTicked(m_program); }
 
 void MainWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);

@@ -7,20 +7,19 @@
 #include "desktop/label_view.h"
 #include "desktop/statement_list_view.h"
 #include "desktop/whereabouts_view.h"
+#include "sessionfiles/merging.h"
 
 namespace orvanta::desktop {
 
 /// frmMain as a person sees it: every control of the model as a widget of the same name.
 class MainWindow : public ControlArea {
 public:
-    /// The program must outlive the window's use. Under Input::Driver neither real mouse
-    /// moves nor real activation nor the clock reach the program.
-    MainWindow(Program& program, Input input);
+    /// The program must outlive the window's use.
+    explicit MainWindow(Program& program);
 
 protected:
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    void timerEvent(QTimerEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -43,9 +42,8 @@ private:
     const Control* firstStop(const Panel& screen) const;
 
     Program& m_program;
-    Input m_input;
     ControlSet m_ownControls;  // the window's own, of which the program knows nothing
-    Label m_merge{m_ownControls, "lblMerge", "Merge..."};
+    Label m_merge{m_ownControls, "lblMerge", std::string(mergeCaption)};
     Label m_whereabouts{m_ownControls, "lblWhereabouts"};
     WhereaboutsView* m_whereaboutsView = nullptr;
     std::unordered_map<const Panel*, ControlArea*> m_panels;

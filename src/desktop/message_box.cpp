@@ -3,7 +3,9 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <array>
+#include <cassert>
 
+#include "core/messages.h"
 #include "desktop/conversions.h"
 
 namespace orvanta::desktop {
@@ -21,13 +23,8 @@ QMessageBox::Icon iconFor(MessageIcon icon) {
         case MessageIcon::Information:
             return QMessageBox::Information;
     }
+    assert(false);
     return QMessageBox::NoIcon;
-}
-
-/// What the icon says to those who do not see it.
-QString wordFor(MessageIcon icon) {
-    constexpr std::array words{"", "Stop", "Question", "Information"};
-    return QLatin1String(words[static_cast<std::size_t>(icon)]);
 }
 
 QMessageBox::StandardButton standardButtonFor(MessageAnswer answer) {
@@ -36,35 +33,19 @@ QMessageBox::StandardButton standardButtonFor(MessageAnswer answer) {
     return buttons[static_cast<std::size_t>(answer)];
 }
 
-struct ButtonSet {
-    QMessageBox::StandardButtons buttons;
-    MessageAnswer onEscape;
-};
-
-ButtonSet buttonSetFor(MessageButtons buttons) {
-    switch (buttons) {
-        case MessageButtons::Ok:
-            break;
-        case MessageButtons::YesNo:
-            return {QMessageBox::Yes | QMessageBox::No, MessageAnswer::No};
-        case MessageButtons::YesNoCancel:
-            return {QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
-                    MessageAnswer::Cancel};
-    }
-    return {QMessageBox::Ok, MessageAnswer::Ok};
-}
-
 }  // namespace
 
 MessageBox::MessageBox(const Message& message, QWidget* owner) : QMessageBox(owner) {
-    const ButtonSet set = buttonSetFor(message.buttons);
+    const auto answers = answersOf(message.buttons);
     setTextFormat(Qt::PlainText);
     setText(fromCp1252(message.text));
     setIcon(iconFor(message.icon));
     if (auto* picture = findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label")))
-        picture->setAccessibleName(wordFor(message.icon));
-    setStandardButtons(set.buttons);
-    setEscapeButton(standardButtonFor(set.onEscape));
+        picture->setAccessibleName(fromCp1252(nameOf(message.icon)));
+    StandardButtons buttons;
+    for (const MessageAnswer answer : answers) buttons |= standardButtonFor(answer);
+    setStandardButtons(buttons);
+    setEscapeButton(standardButtonFor(answers.back()));
     setDefaultButton(standardButtonFor(message.defaultAnswer));
     setWindowTitle(message.title ? fromCp1252(*message.title)
                                  : QCoreApplication::applicationName());

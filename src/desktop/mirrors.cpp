@@ -48,7 +48,7 @@ void mirrorControl(Control& model, QWidget& widget, ControlArea& area) {
     widget.setObjectName(fromCp1252(model.name()));
     area.hold(model, widget);
     follow(model, [&model, &widget] {
-        widget.setVisible(isUncovered(model));
+        widget.setVisible(model.isUncovered());
         widget.setEnabled(model.isEnabled());
         widget.setToolTip(shownToolTip(model.toolTip()));
         widget.setAccessibleDescription(fromCp1252(model.toolTip()));

@@ -5,8 +5,10 @@
 #include <QScreen>
 #include <QStandardPaths>
 #include <QUrl>
+#include <cassert>
 
 #include "core/failures.h"
+#include "core/messages.h"
 #include "desktop/conversions.h"
 #include "desktop/file_chooser.h"
 #include "desktop/message_box.h"
@@ -47,11 +49,7 @@ std::optional<std::string> DesktopFileDialogs::choose(const FileDialogRequest& r
     FileChooser chooser(request, owner());
     while (chooser.exec() == QDialog::Accepted) {
         if (fitsCp1252(chooser.path())) return toCp1252(chooser.path());
-        MessageBox box({.text = "This name holds characters that Orvanta can't use. "
-                                "Please choose another file or folder name.",
-                        .icon = MessageIcon::Stop},
-                       owner());
-        box.exec();
+        MessageBox(unusablePath(), owner()).exec();
     }
     return std::nullopt;
 }
@@ -73,12 +71,17 @@ double DesktopScreen::twipsPerPixel() const {
     return twipsPerInch / QGuiApplication::primaryScreen()->logicalDotsPerInchX();
 }
 
-void DesktopForms::run(FrmSplash& form) { SplashDialog(*m_program, form).exec(); }
-void DesktopForms::run(FrmEdit& form) { EditDialog(*m_program, form, owner()).exec(); }
-void DesktopForms::run(FrmAbout& form) { AboutDialog(*m_program, form, owner()).exec(); }
+Program& DesktopForms::program() const {
+    assert(m_program);
+    return *m_program;
+}
+
+void DesktopForms::run(FrmSplash& form) { SplashDialog(program(), form).exec(); }
+void DesktopForms::run(FrmEdit& form) { EditDialog(program(), form, owner()).exec(); }
+void DesktopForms::run(FrmAbout& form) { AboutDialog(program(), form, owner()).exec(); }
 
 void DesktopForms::run(FrmReportType& form) {
-    ReportDialog dialog(*m_program, form, owner());
+    ReportDialog dialog(program(), form, owner());
     m_report = &dialog;
     dialog.exec();
 }

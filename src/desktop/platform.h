@@ -59,6 +59,8 @@ public:
     void setWaitCursor(bool on) override;
 
 private:
+    Program& program() const;
+
     Program* m_program = nullptr;
     QPointer<ReportDialog> m_report;
 };

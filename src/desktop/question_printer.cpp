@@ -13,6 +13,7 @@
 
 #include "desktop/conversions.h"
 #include "desktop/question_sheet_pages.h"
+#include "presentation/sheet_texts.h"
 
 namespace orvanta::desktop {
 
@@ -30,8 +31,8 @@ void addPaperChoice(QPrintPreviewDialog& preview, QPrinter& printer) {
     auto* pages = preview.findChild<QPrintPreviewWidget*>();
     if (!tools || !pages) return;
     auto* choice = new QComboBox(tools);
-    choice->setAccessibleName(QStringLiteral("Paper"));
-    choice->setToolTip(QStringLiteral("Paper"));
+    choice->setAccessibleName(fromCp1252(paperBox));
+    choice->setToolTip(fromCp1252(paperBox));
     for (const auto size : {QPageSize::A4, QPageSize::Letter})
         choice->addItem(QPageSize::name(size), size);
     choice->setCurrentIndex(choice->findData(usualPaper()));
@@ -46,7 +47,7 @@ void addPaperChoice(QPrintPreviewDialog& preview, QPrinter& printer) {
 void nameBoxes(QPrintPreviewDialog& preview) {
     for (QLineEdit* box : preview.findChildren<QLineEdit*>()) {
         const bool isZoom = qobject_cast<QComboBox*>(box->parentWidget());
-        box->setAccessibleName(isZoom ? QStringLiteral("Zoom") : QStringLiteral("Page"));
+        box->setAccessibleName(fromCp1252(isZoom ? zoomBox : pageBox));
     }
 }
 

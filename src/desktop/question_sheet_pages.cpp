@@ -5,11 +5,13 @@
 #include <QTextLayout>
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <utility>
 
 #include "desktop/art.h"
 #include "desktop/conversions.h"
 #include "desktop/theme.h"
+#include "presentation/sheet_texts.h"
 
 namespace orvanta::desktop {
 
@@ -141,15 +143,16 @@ QPen rulePen(const PaperGrid& grid) { return {theme::quietInk, grid.millimetres(
 void paintPerson(QPainter& painter, double bottom, double width, const PaperGrid& grid) {
     painter.setFont(PaperGrid::questionFont());
     const double dateLeft = width * 0.68, gap = grid.millimetres(2);
-    const auto field = [&](double left, double right, const QString& caption) {
+    const auto field = [&](double left, double right, std::string_view name) {
+        const QString caption = fromCp1252(name);
         painter.setPen(theme::quietInk);
         painter.drawText(QPointF(left, bottom - grid.millimetres(1)), caption);
         left += grid.metrics(PaperGrid::questionFont()).horizontalAdvance(caption) + gap;
         painter.setPen(rulePen(grid));
         painter.drawLine(QPointF(left, bottom), QPointF(right, bottom));
     };
-    field(0, dateLeft - 2 * gap, QStringLiteral("Name"));
-    field(dateLeft, width, QStringLiteral("Date"));
+    field(0, dateLeft - 2 * gap, nameField);
+    field(dateLeft, width, dateField);
 }
 
 void paintHead(QPainter& painter, const QuestionSheets& sheets, const SheetPage& page, double width,
@@ -210,6 +213,7 @@ std::vector<SheetPage> sheetPages(const QuestionSheets& sheets, const QSizeF& pr
 void paintSheetPage(QPainter& painter, const QuestionSheets& sheets,
                     const std::vector<SheetPage>& pages, std::size_t index,
                     const QSizeF& printable) {
+    assert(index < pages.size());
     const PaperGrid grid(*painter.device());
     const SheetPage& page = pages[index];
     paintHead(painter, sheets, page, printable.width(), grid);
@@ -218,7 +222,7 @@ void paintSheetPage(QPainter& painter, const QuestionSheets& sheets,
     painter.setFont(PaperGrid::font(8));
     painter.drawText(QRectF(0, 0, printable.width(), printable.height()),
                      Qt::AlignHCenter | Qt::AlignBottom,
-                     QStringLiteral("page %1 of %2").arg(index + 1).arg(pages.size()));
+                     fromCp1252(pageOf(index + 1, pages.size())));
 }
 
 }  // namespace orvanta::desktop

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <cassert>
 #include <utility>
 
 #include "desktop/art.h"
@@ -23,6 +24,7 @@ Art pressedArt(Art art) {
 
 ButtonPictureView::ButtonPictureView(SkinnedButton& model, ButtonActs acts, QWidget* parent)
     : QPushButton(parent), m_image(model.image), m_acts(std::move(acts)) {
+    assert(m_acts.press && m_acts.release);
     setFocusPolicy(Qt::TabFocus);
     setAutoDefault(false);
     whenClicked(*this, [this] {
@@ -66,6 +68,7 @@ void ButtonPictureView::paintEvent(QPaintEvent*) {
 ButtonCaptionView::ButtonCaptionView(SkinnedButton& model, ButtonActs acts,
                                      const PixelGrid& pixelGrid, QWidget* parent)
     : QLabel(parent), m_acts(std::move(acts)) {
+    assert(m_acts.press && m_acts.release);
     setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignCenter);
     QPalette white;

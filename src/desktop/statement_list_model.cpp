@@ -1,5 +1,7 @@
 #include "desktop/statement_list_model.h"
 
+#include <cassert>
+
 #include "desktop/art.h"
 #include "desktop/conversions.h"
 
@@ -45,6 +47,7 @@ void StatementListModel::rowAboutToBeInserted(int position) {
 }
 
 void StatementListModel::rowInserted(int position) {
+    assert(m_changing);
     endInsertRows();
     m_changing = false;
     rowCameIn(position);
@@ -56,6 +59,7 @@ void StatementListModel::rowAboutToBeRemoved(int position) {
 }
 
 void StatementListModel::rowRemoved(int) {
+    assert(m_changing);
     endRemoveRows();
     m_changing = false;
     selectionMayDiffer();
@@ -72,6 +76,7 @@ void StatementListModel::aboutToBeCleared() {
 }
 
 void StatementListModel::cleared() {
+    assert(m_changing);
     endResetModel();
     m_changing = false;
     selectionMayDiffer();

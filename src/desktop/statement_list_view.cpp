@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QTimer>
 #include <QToolTip>
+#include <cassert>
 #include <utility>
 
 #include "analyze/mapping.h"
@@ -25,6 +26,7 @@ const StatementDrag* statementDragIn(const QDropEvent& event) {
 }  // namespace
 
 void StatementDrag::dropOn(StatementList& list, int position) const {
+    assert(position >= 0 && position <= list.count());
     m_target = &list;
     m_position = position;
 }
@@ -33,9 +35,8 @@ void StatementDrag::finish(Program& program) const {
     if (m_target) droppedOn(program, *m_target, m_position);
 }
 
-StatementListView::StatementListView(Program& program, StatementList& list, Input input,
-                                     QWidget* parent)
-    : QListView(parent), m_program(program), m_list(list), m_input(input), m_model(list) {
+StatementListView::StatementListView(Program& program, StatementList& list, QWidget* parent)
+    : QListView(parent), m_program(program), m_list(list), m_model(list) {
     if (isMappingList(program.frmMain, list))
         m_mappingCounts = std::make_unique<MappingCounts>(list);
     m_model.describe = [this](int position) {
@@ -88,7 +89,6 @@ void StatementListView::selectionChanged(const QItemSelection& selected,
 }
 
 void StatementListView::mouseMoveEvent(QMouseEvent* event) {
-    if (m_input == Input::Driver && event->spontaneous()) return;
     hoveredOver(m_program, m_list, positionAt(event->position().toPoint()));
     QListView::mouseMoveEvent(event);
 }
@@ -164,7 +164,6 @@ void StatementListView::dropEvent(QDropEvent* event) {
 /// Scrolls on while a drag rests at the upper or lower edge.
 void StatementListView::scrollAtEdge(const QPoint& point) {
     constexpr int edge = 20, step = 8, milliseconds = 30;
-    if (m_input == Input::Driver) return;
     m_edgeStep = 0;
     if (point.y() < edge) m_edgeStep = -step;
     if (point.y() > viewport()->height() - edge) m_edgeStep = step;
@@ -176,6 +175,7 @@ void StatementListView::scrollAtEdge(const QPoint& point) {
 
 void StatementListView::timerEvent(QTimerEvent* event) {
     if (event->timerId() != m_edgeTimer.timerId()) return QListView::timerEvent(event);
+    assert(m_draggedFrom);
     verticalScrollBar()->setValue(verticalScrollBar()->value() + m_edgeStep);
     foresee(*m_draggedFrom, m_draggedTo);
 }

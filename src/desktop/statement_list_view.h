@@ -13,10 +13,6 @@
 
 namespace orvanta::desktop {
 
-/// Who moves the mouse and the windows. Under the driver nothing counts that the window system
-/// sends of itself.
-enum class Input { Person, Driver };
-
 /// What a dragged row carries: the list that it comes from and, once dropped, where that was.
 class StatementDrag : public QMimeData {
 public:
@@ -38,7 +34,7 @@ private:
 /// long.
 class StatementListView : public QListView {
 public:
-    StatementListView(Program& program, StatementList& list, Input input, QWidget* parent);
+    StatementListView(Program& program, StatementList& list, QWidget* parent);
 
     QModelIndex indexAtPosition(int position) const { return m_model.index(position - 1); }
     /// The row under a point of the viewport, from 1; 0 for none.
@@ -73,7 +69,6 @@ private:
 
     Program& m_program;
     StatementList& m_list;
-    Input m_input;
     StatementListModel m_model;
     std::unique_ptr<MappingCounts> m_mappingCounts;
     bool m_showing = false;

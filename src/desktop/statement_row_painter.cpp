@@ -106,7 +106,8 @@ void StatementRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& o
     const Row& row = m_list.row(index.row() + 1);
     QRect room = option.rect;
     const MappingCounts* counts = m_view.mappingCounts();
-    if (counts && row.image > 2) room.setRight(drawCounts(*painter, option, counts->of(row.key)));
+    if (counts && row.image > imageOf(StatementKind::Weakness))
+        room.setRight(drawCounts(*painter, option, counts->of(row.key)));
     drawContent(*painter, room, row, option.font);
     painter->restore();
 }

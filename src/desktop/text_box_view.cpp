@@ -3,41 +3,17 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QValidator>
-#include <algorithm>
+#include <cassert>
 #include <utility>
 
 #include "desktop/conversions.h"
+#include "view/text_entry.h"
 
 namespace orvanta::desktop {
 
 namespace {
 
-constexpr char enterKey = 13;
-
-bool isPrintable(QChar character) { return character >= u' ' && character != QChar(127); }
-
-/// One character of the result for each of the code page: what it lacks is one "?".
-QString clean(QString text) {
-    text.replace(QLatin1String("\r\n"), QLatin1String(" "));
-    text.replace(u'\r', u' ').replace(u'\n', u' ');
-    return fromCp1252(toCp1252(text));
-}
-
-/// Cuts from what was just entered ahead of the cursor whatever exceeds the limit. A longer
-/// text that was there before stays.
-void cutEntered(QString& text, int& cursor, const QString& before, qsizetype limit) {
-    const qsizetype excess = text.size() - limit;
-    if (limit == 0 || excess <= 0 || text.size() <= before.size()) return;
-    const qsizetype tail = text.size() - cursor;
-    const qsizetype sharedMost =
-        std::min<qsizetype>(cursor, std::max<qsizetype>(0, before.size() - tail));
-    const auto [end, ignored] =
-        std::mismatch(text.begin(), text.begin() + sharedMost, before.begin());
-    const qsizetype entered = cursor - (end - text.begin());
-    const qsizetype cut = std::min(entered, excess);
-    text.remove(cursor - cut, cut);
-    cursor -= static_cast<int>(cut);
-}
+std::string singleLine(const QString& text) { return singleLineFrom(text.toStdString()); }
 
 }  // namespace
 
@@ -48,11 +24,12 @@ public:
 
     State validate(QString& text, int& cursor) const override {
         if (m_view.m_showing) return Acceptable;
-        const QString ahead = clean(text.left(cursor));
-        text = ahead + clean(text.mid(cursor));
-        cursor = static_cast<int>(ahead.size());
-        cutEntered(text, cursor, fromCp1252(m_view.m_model.text()),
-                   static_cast<qsizetype>(m_view.m_model.maxLength()));
+        const std::string ahead = singleLine(text.left(cursor));
+        const TextBox& model = m_view.m_model;
+        const EnteredText entered = withinLimit(
+            model.text(), {ahead + singleLine(text.mid(cursor)), ahead.size()}, model.maxLength());
+        text = fromCp1252(entered.text);
+        cursor = static_cast<int>(entered.cursor);
         return Acceptable;
     }
 
@@ -62,6 +39,7 @@ private:
 
 TextBoxView::TextBoxView(TextBox& model, Typed typed, QWidget* parent)
     : QLineEdit(parent), m_model(model), m_typed(std::move(typed)) {
+    assert(m_typed);
     setMaxLength(1'000'000);
     setValidator(new Entry(*this));
     // Not textEdited: an assistive program sets a text without typing it.
@@ -81,11 +59,11 @@ void TextBoxView::showModel() {
 }
 
 /// What is left of typed characters once the program has been asked about each.
-QString TextBoxView::accepted(const QString& typed) {
-    QString left;
-    for (const char character : toCp1252(typed))
-        if (m_typed(character)) left += fromCp1252({&character, 1});
-    return left;
+QString TextBoxView::accepted(const std::string& typed) {
+    std::string left;
+    for (const char character : typed)
+        if (m_typed(character)) left += character;
+    return fromCp1252(left);
 }
 
 void TextBoxView::keyPressEvent(QKeyEvent* event) {
@@ -94,10 +72,10 @@ void TextBoxView::keyPressEvent(QKeyEvent* event) {
         event->accept();
         return;
     }
-    const QString typed = event->text();
+    const std::string typed = toCp1252(event->text());
     const bool isCommand = event->modifiers() & (Qt::ControlModifier | Qt::MetaModifier) &&
                            !(event->modifiers() & Qt::AltModifier);
-    if (typed.isEmpty() || !isPrintable(typed.front()) || isCommand || isReadOnly())
+    if (typed.empty() || !isPrintable(typed.front()) || isCommand || isReadOnly())
         return QLineEdit::keyPressEvent(event);
     event->accept();
     const QString left = accepted(typed);
@@ -106,8 +84,8 @@ void TextBoxView::keyPressEvent(QKeyEvent* event) {
 
 void TextBoxView::inputMethodEvent(QInputMethodEvent* event) {
     if (!event->commitString().isEmpty())
-        event->setCommitString(accepted(clean(event->commitString())), event->replacementStart(),
-                               event->replacementLength());
+        event->setCommitString(accepted(singleLine(event->commitString())),
+                               event->replacementStart(), event->replacementLength());
     QLineEdit::inputMethodEvent(event);
 }
 

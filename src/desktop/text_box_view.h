@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <functional>
+#include <string>
 
 #include "view/control.h"
 
@@ -23,7 +24,7 @@ protected:
 private:
     class Entry;
 
-    QString accepted(const QString& typed);
+    QString accepted(const std::string& typed);
     void showModel();
 
     TextBox& m_model;

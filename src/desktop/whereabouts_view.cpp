@@ -13,13 +13,6 @@ namespace {
 
 constexpr int pictureSize = 12, gap = 4, groupGap = 16;
 
-QString inWords(const PerKind<int>& counts) {
-    QStringList words;
-    for (const StatementKind kind : statementKinds)
-        words += fromCp1252(nameOfSeveral(kind)) + u' ' + QString::number(counts[kind]);
-    return words.join(QStringLiteral(", "));
-}
-
 }  // namespace
 
 WhereaboutsView::WhereaboutsView(Program& program, Label& model, const PixelGrid& pixelGrid,
@@ -45,10 +38,9 @@ void WhereaboutsView::mayDiffer() {
 void WhereaboutsView::look() {
     m_lookPending = false;
     m_shown = whereaboutsOf(m_program);
-    const QString counts = inWords(m_shown.counts);
-    m_model.setToolTip(toCp1252(counts));
+    m_model.setToolTip(countsInWords(m_shown));
     m_model.setVisible(!m_shown.place.empty());
-    setText(fromCp1252(m_shown.place) + QStringLiteral(". ") + counts + u'.');
+    setText(fromCp1252(inWords(m_shown)));
     update();
 }
 

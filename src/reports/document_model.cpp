@@ -1,5 +1,6 @@
 #include "reports/document_model.h"
 
+#include <cassert>
 #include <numeric>
 
 #include "core/text.h"
@@ -51,6 +52,7 @@ std::size_t DocumentParagraph::length() const {
 }
 
 void DocumentTable::addRow() {
+    assert(!rows.empty());
     DocumentRow fresh;
     fresh.height = rows.back().height;
     for (const auto& cell : rows.back().cells) fresh.cells.push_back(emptyLike(*cell));
@@ -62,6 +64,7 @@ StoryPlace endOf(const Story& story) {
 }
 
 StoryPlace insertText(Story& story, StoryPlace at, std::string_view text) {
+    assert(at.block < story.blocks.size());
     bool first = true;
     for (const std::string_view line : splitAt(text, "\r\n")) {
         if (!first) {

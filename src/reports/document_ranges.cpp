@@ -1,5 +1,8 @@
 #include "reports/document_ranges.h"
 
+#include <algorithm>
+#include <cassert>
+
 namespace orvanta::documentmodel {
 
 namespace {
@@ -124,7 +127,9 @@ class BodyRange : public RangeObject,
                   public std::enable_shared_from_this<BodyRange> {
 public:
     BodyRange(DocumentPtr document, StoryPlace start, StoryPlace end, FinalMark finalMark)
-        : m_document(std::move(document)), m_start(start), m_end(end), m_finalMark(finalMark) {}
+        : m_document(std::move(document)), m_start(start), m_end(end), m_finalMark(finalMark) {
+        assert(start.block <= end.block && end.block < m_document->body.blocks.size());
+    }
 
     void call(std::string_view member, const WordArguments& arguments) override {
         if (member == "InsertBefore") return insertBefore(argument<std::string>(arguments, 0));
@@ -176,7 +181,9 @@ class CellsRange : public RangeObject,
                    public TablePlace,
                    public std::enable_shared_from_this<CellsRange> {
 public:
-    explicit CellsRange(std::vector<CellPtr> cells) : m_cells(std::move(cells)) {}
+    explicit CellsRange(std::vector<CellPtr> cells) : m_cells(std::move(cells)) {
+        assert(std::ranges::find(m_cells, nullptr) == m_cells.end());
+    }
 
     void call(std::string_view member, const WordArguments& arguments) override {
         Story& story = onlyCell().story;

@@ -1,5 +1,7 @@
 #include "reports/report_dialog.h"
 
+#include <cassert>
+
 #include "core/constants.h"
 #include "core/display_scaling.h"
 #include "core/failures.h"
@@ -41,6 +43,7 @@ void generate(Program& program, FrmReportType& form) {
     const std::string analyzeFile = form.txtEdit.text();
     if (!fileExists(program, analyzeFile))
         return refuse(program.platform.messages, noSourceMessage);
+    assert(form.cboFormat.hasSelection());
     const bool document = form.cboFormat.selectedIndex() != htmlFormat;
     if (document && !choosesTarget(program)) return;
     showGenerating(form, true);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 
 #include "core/constants.h"
 #include "core/mapping_keys.h"
@@ -59,6 +60,7 @@ void takeRow(const ReportSection& section, std::string_view line, ReportLists& l
 }  // namespace
 
 void ReportList::add(std::string entry) {
+    assert(m_count <= m_entries.size());
     if (m_count == m_entries.size())
         m_entries.push_back(std::move(entry));
     else

@@ -1,6 +1,7 @@
 #include "reports/rtf_writer.h"
 
 #include <algorithm>
+#include <cassert>
 #include <map>
 
 namespace orvanta {
@@ -163,6 +164,7 @@ private:
         if (height > 0) m_out += word("trrh", twips(height));
         m_out.append(flag) +=
             word("trpaddl", padding) + word("trpaddr", padding) + "\\trpaddfl3\\trpaddfr3\n";
+        assert(row.cells.size() <= table.columnWidths.size());
         int right = -padding;
         for (std::size_t column = 0; column < row.cells.size(); ++column) {
             const int width = twips(table.columnWidths[column]);

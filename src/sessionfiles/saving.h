@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <string>
 
@@ -22,7 +23,10 @@ bool mayLeaveSessions(Program& program);
 /// nothing was to be copied. A failure is not told.
 std::optional<std::string> copyUnsavedSession(Program& program);
 
-/// One tick of the autosave timer: makes that copy, and warns once where there is none.
+/// How often the autosave timer ticks.
+inline constexpr std::chrono::seconds autoSaveInterval{30};
+
+/// One tick of it: makes that copy, and warns once where there is none.
 void tickAutoSave(Program& program);
 
 }  // namespace orvanta

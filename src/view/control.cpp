@@ -8,13 +8,8 @@ namespace orvanta {
 
 void ControlSet::add(Control& control) {
     assert(!control.name().empty());
-    assert(!find(control.name()));
+    assert(std::ranges::find(m_controls, control.name(), &Control::name) == m_controls.end());
     m_controls.push_back(&control);
-}
-
-Control* ControlSet::find(std::string_view name) const {
-    const auto found = std::ranges::find(m_controls, name, &Control::name);
-    return found == m_controls.end() ? nullptr : *found;
 }
 
 Control::Control(ControlSet& owner, std::string name, AnyControl self)
@@ -22,15 +17,16 @@ Control::Control(ControlSet& owner, std::string name, AnyControl self)
     owner.add(*this);
 }
 
+bool Control::isUncovered() const {
+    if (!m_visible) return false;
+    const Panel* top = m_coveredBy ? m_coveredBy->top() : nullptr;
+    return !top || top == this;
+}
+
 bool Control::isReachable() const {
-    if (!m_enabled || !m_visible) return false;
-    if (m_coveredBy && m_coveredBy->hasVisible()) return false;
-    for (const Panel* panel = m_container; panel; panel = panel->container()) {
-        if (!panel->isVisible()) return false;
-        if (panel->stack() && panel->stack()->top() != panel) return false;
-        if (panel->coveredBy() && panel->coveredBy()->hasVisible()) return false;
-    }
-    return true;
+    for (const Control* held = this; held; held = held->container())
+        if (!held->isUncovered()) return false;
+    return m_enabled;
 }
 
 void PanelStack::raise(Panel& panel) {
@@ -48,6 +44,7 @@ Panel* PanelStack::top() const {
 Panel::Panel(ControlSet& owner, std::string name, PanelStack* stack)
     : Control(owner, std::move(name), this), m_stack(stack) {
     if (stack) stack->add(*this);
+    setCoveredBy(stack);
 }
 
 void Panel::setVisible(bool visible) {

@@ -2,7 +2,6 @@
 
 #include <cassert>
 #include <string>
-#include <string_view>
 #include <type_traits>
 #include <utility>
 #include <variant>
@@ -36,9 +35,6 @@ public:
     /// No two controls of a form have the same name.
     void add(Control& control);
     const std::vector<Control*>& all() const { return m_controls; }
-
-    /// The control of this name; null if the form has none.
-    Control* find(std::string_view name) const;
 
 private:
     std::vector<Control*> m_controls;
@@ -89,15 +85,19 @@ public:
     Panel* container() const { return m_container; }
     void setContainer(Panel* container) { change(m_container, container); }
 
-    /// The panels that lie over the control while one of them is visible; null for none.
+    /// The panels that lie over the control while one of them is visible, or that it shares its
+    /// spot with if it is one of them itself; null for none.
     const PanelStack* coveredBy() const { return m_coveredBy; }
     void setCoveredBy(const PanelStack* panels) { change(m_coveredBy, panels); }
 
     /// Gives the keyboard to the control, also if it has it already.
     void giveFocus() { focusGiven(); }
 
-    /// True if a person can reach the control: it and all that hold it are visible, it is
-    /// enabled, and no panel lies over it.
+    /// True if the control is switched on and none of the panels that share its spot or lie over
+    /// it hides it. What holds it may still be hidden.
+    bool isUncovered() const;
+    /// True if a person can reach the control: it is enabled, and neither it nor anything that
+    /// holds it is hidden or covered.
     bool isReachable() const;
 
     /// True if one of its rows or items is selected; false for a control that has none.

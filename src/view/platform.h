@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -44,6 +46,24 @@ public:
 enum class MessageIcon { None, Stop, Question, Information };
 enum class MessageButtons { Ok, YesNo, YesNoCancel };
 enum class MessageAnswer { Ok, Yes, No, Cancel };
+
+inline constexpr std::array okAnswers{MessageAnswer::Ok};
+inline constexpr std::array yesNoCancelAnswers{MessageAnswer::Yes, MessageAnswer::No,
+                                               MessageAnswer::Cancel};
+
+/// The answers that a box has, one for each of its buttons. To close the box is to give the last.
+constexpr std::span<const MessageAnswer> answersOf(MessageButtons buttons) {
+    const std::span<const MessageAnswer> yesNoCancel(yesNoCancelAnswers);
+    switch (buttons) {
+        case MessageButtons::Ok:
+            break;
+        case MessageButtons::YesNo:
+            return yesNoCancel.first(2);
+        case MessageButtons::YesNoCancel:
+            return yesNoCancel;
+    }
+    return okAnswers;
+}
 
 struct Message {
     std::string text;

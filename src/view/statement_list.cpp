@@ -1,6 +1,7 @@
 #include "view/statement_list.h"
 
 #include <algorithm>
+#include <cassert>
 
 #include "view/failure.h"
 
@@ -51,19 +52,32 @@ void StatementList::refuseTakenKey(std::string_view key) const {
     if (!key.empty() && m_byKey.contains(key)) throw Failure(ErrorNumber::KeyNotUnique);
 }
 
+void StatementList::watch(StatementListObserver& observer) {
+    assert(!isTelling() && "an observer is added by one that is being told");
+    m_observers.push_back(&observer);
+}
+
+template <class... Positions>
+void StatementList::tell(void (StatementListObserver::*event)(Positions...),
+                         Positions... positions) {
+    assert(!isTelling() && "an observer changes the list that it is told of");
+    const Telling telling(m_tellingDepth);
+    for (auto* observer : m_observers) (observer->*event)(positions...);
+}
+
 void StatementList::insert(int position, Row row) {
     if (position < 1 || position > count() + 1) throw Failure(ErrorNumber::IndexOutOfBounds);
     refuseTakenKey(row.key);
-    for (auto* observer : m_observers) observer->rowAboutToBeInserted(position);
+    tell(&StatementListObserver::rowAboutToBeInserted, position);
     auto entry = std::make_unique<Entry>(Entry{std::move(row), rankFor(position)});
     if (!entry->row.key.empty()) m_byKey.emplace(entry->row.key, entry.get());
     m_rows.insert(m_rows.begin() + (position - 1), std::move(entry));
-    for (auto* observer : m_observers) observer->rowInserted(position);
+    tell(&StatementListObserver::rowInserted, position);
 }
 
 void StatementList::remove(int position) {
     Entry& gone = entry(position);
-    for (auto* observer : m_observers) observer->rowAboutToBeRemoved(position);
+    tell(&StatementListObserver::rowAboutToBeRemoved, position);
     const bool wasSelected = &gone == m_selected;
     m_byKey.erase(gone.row.key);
     m_rows.erase(m_rows.begin() + (position - 1));
@@ -72,24 +86,23 @@ void StatementList::remove(int position) {
         const bool none = next == 0 || m_afterRemoval == AfterRemoval::SelectNone;
         m_selected = none ? nullptr : &entry(next);
     }
-    for (auto* observer : m_observers) observer->rowRemoved(position);
-    if (wasSelected)
-        for (auto* observer : m_observers) observer->selectionChanged();
+    tell(&StatementListObserver::rowRemoved, position);
+    if (wasSelected) tell(&StatementListObserver::selectionChanged);
 }
 
 void StatementList::clear() {
     if (m_rows.empty()) return;
-    for (auto* observer : m_observers) observer->aboutToBeCleared();
+    tell(&StatementListObserver::aboutToBeCleared);
     m_byKey.clear();
     m_rows.clear();
     m_selected = nullptr;
-    for (auto* observer : m_observers) observer->cleared();
+    tell(&StatementListObserver::cleared);
 }
 
 template <class Change>
 void StatementList::changeRow(int position, Change change) {
     change(entry(position).row);
-    for (auto* observer : m_observers) observer->rowChanged(position);
+    tell(&StatementListObserver::rowChanged, position);
 }
 
 void StatementList::setKey(int position, std::string key) {
@@ -99,15 +112,11 @@ void StatementList::setKey(int position, std::string key) {
     m_byKey.erase(changed.row.key);
     changed.row.key = std::move(key);
     if (!changed.row.key.empty()) m_byKey.emplace(changed.row.key, &changed);
-    for (auto* observer : m_observers) observer->rowChanged(position);
+    tell(&StatementListObserver::rowChanged, position);
 }
 
 void StatementList::setText(int position, std::string text) {
     changeRow(position, [&](Row& row) { row.text = std::move(text); });
-}
-
-void StatementList::setSubItem(int position, std::string subItem) {
-    changeRow(position, [&](Row& row) { row.subItem = std::move(subItem); });
 }
 
 void StatementList::setColour(int position, Colour colour) {
@@ -115,6 +124,7 @@ void StatementList::setColour(int position, Colour colour) {
 }
 
 void StatementList::setIndent(int position, int indent) {
+    assert(indent >= 0);
     changeRow(position, [&](Row& row) { row.indent = indent; });
 }
 
@@ -122,7 +132,7 @@ void StatementList::select(int position) {
     Entry* chosen = position == 0 ? nullptr : &entry(position);
     if (chosen == m_selected) return;
     m_selected = chosen;
-    for (auto* observer : m_observers) observer->selectionChanged();
+    tell(&StatementListObserver::selectionChanged);
 }
 
 }  // namespace orvanta

@@ -29,7 +29,8 @@ struct Row {
     int indent = 0;
 };
 
-/// Watches one statement list, row by row. Positions count from 1.
+/// Watches one statement list, row by row. Positions count from 1. What is told may be read; an
+/// observer that is told of a list does not change that list, nor who watches it.
 class StatementListObserver {
 public:
     virtual ~StatementListObserver() = default;
@@ -78,7 +79,6 @@ public:
     /// Each fails with IndexOutOfBounds; setKey also with KeyNotUnique.
     void setKey(int position, std::string key);
     void setText(int position, std::string text);
-    void setSubItem(int position, std::string subItem);
     void setColour(int position, Colour colour);
     void setIndent(int position, int indent);
 
@@ -90,7 +90,7 @@ public:
     /// 0 selects none. Fails with IndexOutOfBounds.
     void select(int position);
 
-    void watch(StatementListObserver& observer) { m_observers.push_back(&observer); }
+    void watch(StatementListObserver& observer);
 
 private:
     struct Entry {
@@ -104,12 +104,16 @@ private:
     void refuseTakenKey(std::string_view key) const;
     template <class Change>
     void changeRow(int position, Change change);
+    template <class... Positions>
+    void tell(void (StatementListObserver::*event)(Positions...), Positions... positions);
+    bool isTelling() const { return m_tellingDepth > 0; }
 
     std::vector<std::unique_ptr<Entry>> m_rows;
     std::unordered_map<std::string_view, Entry*> m_byKey;  // views into the entries' own keys
     Entry* m_selected = nullptr;
     AfterRemoval m_afterRemoval;
     std::vector<StatementListObserver*> m_observers;
+    int m_tellingDepth = 0;
 };
 
 }  // namespace orvanta

@@ -73,15 +73,4 @@ std::string windows1252From(std::string_view utf8) {
     return bytes;
 }
 
-std::string singleLineFrom(std::string_view utf8) {
-    std::string line;
-    char before = 0;
-    for (const char byte : windows1252From(utf8)) {
-        const bool secondOfPair = byte == '\n' && before == '\r';
-        before = byte;
-        if (!secondOfPair) line += byte == '\r' || byte == '\n' ? ' ' : byte;
-    }
-    return line;
-}
-
 }  // namespace orvanta

@@ -14,8 +14,4 @@ std::string utf8From1252(std::string_view bytes);
 /// that is no UTF-8.
 std::string windows1252From(std::string_view utf8);
 
-/// What a box of one line takes of a text that is pasted into it: each line break, CR LF, CR or
-/// LF, becomes one blank.
-std::string singleLineFrom(std::string_view utf8);
-
 }  // namespace orvanta

@@ -30,9 +30,9 @@ TEST_F(DescriptionOfARow, TellsKindPlaceAndWhoSaidIt) {
 }
 
 TEST_F(DescriptionOfARow, NamesNobodyWhereNobodyIsNamed) {
-    bench.list("lvAThreat").setSubItem(2, {});
+    bench.relabel("lvAThreat", 2, "");
     EXPECT_EQ(described("lvAThreat", 2), "Threat, row 2 of 3");
-    bench.list("lvAThreat").setSubItem(2, "[]: ");
+    bench.relabel("lvAThreat", 2, "[]: ");
     EXPECT_EQ(described("lvAThreat", 2), "Threat, row 2 of 3");
 }
 

@@ -4,7 +4,6 @@
 
 #include "analysis_bench.h"
 #include "app/button_actions.h"
-#include "words.h"
 
 namespace orvanta::test {
 namespace {
@@ -72,7 +71,7 @@ const std::vector<Face> faces{
 class ButtonFace : public testing::TestWithParam<Face> {
 protected:
     ButtonFace() { bench.start(); }
-    SkinnedButton& button() { return bench.form().buttons[*driver::buttonNamed(GetParam().name)]; }
+    SkinnedButton& button() { return bench.form().buttons[bench.button(GetParam().name)]; }
     Art normal() const { return GetParam().large ? Art::LargeNormal : Art::SmallNormal; }
     Art down() const { return GetParam().large ? Art::LargeDown : Art::SmallDown; }
     Bench bench;
@@ -89,7 +88,7 @@ TEST_P(ButtonFace, HasOneToolTipOnPictureAndCaption) {
 TEST_P(ButtonFace, ShowsTheArtOfItsSize) { EXPECT_EQ(button().image.art(), normal()); }
 
 TEST_P(ButtonFace, StaysDownUntilItIsLetGo) {
-    const Button pressed = *driver::buttonNamed(GetParam().name);
+    const Button pressed = bench.button(GetParam().name);
     pressButton(bench.program(), pressed);
     pressButton(bench.program(), pressed);
     EXPECT_EQ(button().image.art(), down());

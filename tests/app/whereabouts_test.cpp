@@ -75,5 +75,16 @@ TEST(Whereabouts, CountTheStatementsOfTheModuleInSight) {
     EXPECT_EQ(countsIn(bench), (Counts{2, 0, 0, 0}));
 }
 
+TEST(Whereabouts, TellTheirCountsInWords) {
+    const Whereabouts whereabouts{"Step 3 of 5: Weaknesses",
+                                  {{{StatementKind::Strength, 2},
+                                    {StatementKind::Weakness, 0},
+                                    {StatementKind::Opportunity, 11},
+                                    {StatementKind::Threat, 1}}}};
+    EXPECT_EQ(countsInWords(whereabouts), "Strengths 2, Weaknesses 0, Opportunities 11, Threats 1");
+    EXPECT_EQ(inWords(whereabouts),
+              "Step 3 of 5: Weaknesses. Strengths 2, Weaknesses 0, Opportunities 11, Threats 1.");
+}
+
 }  // namespace
 }  // namespace orvanta::test

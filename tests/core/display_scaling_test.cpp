@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "analysis_bench.h"
+#include "lookup.h"
 #include "presentation/about_box.h"
 #include "presentation/edit_dialog.h"
 #include "presentation/splash.h"
@@ -58,7 +59,7 @@ protected:
     /// The same control as it is designed.
     template <class Kind>
     const Kind& designed(const Kind& control) const {
-        return dynamic_cast<const Kind&>(*design.controls.find(control.name()));
+        return dynamic_cast<const Kind&>(*driver::controlNamed(design.controls, control.name()));
     }
 
     const Display& display = GetParam();
@@ -182,7 +183,7 @@ TEST_P(LayoutOn, ShrinksTheReportDialogInAllButTheHeightOfItsDropDownList) {
     EXPECT_DOUBLE_EQ(report.width.value, asDesigned.width.value * display.left);
     EXPECT_DOUBLE_EQ(report.height.value, asDesigned.height.value * display.left);
     for (const Control* control : report.controls.all()) {
-        const Control& before = *asDesigned.controls.find(control->name());
+        const Control& before = *driver::controlNamed(asDesigned.controls, control->name());
         expectPlace(*control, before, display.left);
         const bool dropDown = control->is<ComboBox>();
         expectSize(*control, before, display.left, dropDown ? 1 : display.left);

@@ -213,7 +213,7 @@ TEST_P(AnalyzeToolTip, TellsWhoSaidTheStatement) {
 }
 
 TEST_P(AnalyzeToolTip, IsTheTextAloneWhereNobodyIsNamed) {
-    bench.list(list).setSubItem(2, "");
+    bench.relabel(list, 2, "");
     EXPECT_EQ(at(2), bench.texts(list)[1]);
 }
 

@@ -241,7 +241,7 @@ INSTANTIATE_TEST_SUITE_P(Of, ChosenModule,
 TEST_P(ChosenModule, IsNamedInFilesByCodeAndWord) {
     Bench bench;
     chooseModuleByWord(bench.form(), GetParam().word);
-    EXPECT_TRUE(dynamic_cast<Option&>(*bench.form().controls.find(GetParam().option)).isOn());
+    EXPECT_TRUE(bench.control(GetParam().option).as<Option>()->isOn());
     EXPECT_EQ(chosenCode(bench.form()), GetParam().code);
     EXPECT_EQ(chosenModuleWord(bench.form()), GetParam().word);
 }

@@ -151,7 +151,7 @@ TEST_F(ShippedBanks, AskNoQuestionTwice) {
 
 TEST_F(ShippedBanks, AreOfferedAllFive) {
     for (const char* option : {"optGBS", "optMP", "optSBD", "optPSD", "optHRP"})
-        EXPECT_TRUE(bench.form().controls.find(option)->isVisible()) << option;
+        EXPECT_TRUE(bench.control(option).isVisible()) << option;
 }
 
 TEST(ShippedAnalyzeText, HasSevenTagsTheLastAtItsEnd) {

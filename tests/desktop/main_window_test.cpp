@@ -122,6 +122,25 @@ TEST(MainWindow, LetsTheKeyboardPressASkinnedButton) {
     EXPECT_EQ(bench.form().buttons[Button::BNext].image.art(), Art::SmallNormal);
 }
 
+TEST(MainWindow, TakesUpTheLastPathsWhenItIsShownForTheFirstTime) {
+    WindowBench bench;
+    bench.program().workFolder = "docs/My SWOT";
+    bench.form().shown = true;
+    bench.form().shownChanged();
+    EXPECT_TRUE(bench.window().isVisible());
+    EXPECT_EQ(bench.form().lastPathBSM, "docs/My SWOT");
+}
+
+TEST(MainWindow, LeavesABoxAloneThatNobodyCanReach) {
+    WindowBench bench;
+    bench.start();
+    bench.window().show();
+    bench.form().txtStrength.setEnabled(false);
+    bench.openBrainstorm();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bench.window().focusWidget(), &bench.widget("lvBStrength"));
+}
+
 TEST(MainWindow, ShowsAnAmpersandOnceAndLeavesAmpersandsOfAQuestionAlone) {
     WindowBench bench;
     bench.start();

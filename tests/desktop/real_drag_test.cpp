@@ -53,7 +53,7 @@ private:
 
 TEST(RealDrag, MapsAStrengthOntoTheOpportunityItIsDroppedOn) {
     ASSERT_EQ(QGuiApplication::platformName(), "xcb") << "only an X server drags";
-    WindowBench<AnalysisBench> bench(Input::Person);
+    WindowBench<AnalysisBench> bench(SystemEvents::LetIn);
     bench.goTo(mappingSides()[0]);
     bench.window().show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&bench.window()));

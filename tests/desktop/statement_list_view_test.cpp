@@ -76,6 +76,24 @@ TEST_F(StatementListViewTest, TellsTheListOfAClickOnARow) {
     EXPECT_EQ(list().selected(), 2);
 }
 
+class ListUnderTheRealMouse : public testing::TestWithParam<SystemEvents> {};
+INSTANTIATE_TEST_SUITE_P(OfAPersonAndOfAScript, ListUnderTheRealMouse,
+                         testing::Values(SystemEvents::LetIn, SystemEvents::KeptOut));
+
+TEST_P(ListUnderTheRealMouse, TellsItsRowToAPersonAlone) {
+    WindowBench<> bench(GetParam());
+    bench.start();
+    bench.openBrainstorm();
+    bench.enter("txtStrength", {"A"});
+    bench.window().show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&bench.window()));
+    auto& view = bench.widget<StatementListView>("lvBStrength");
+    const QPoint row = view.visualRect(view.indexAtPosition(1)).center();
+    QTest::mouseMove(bench.window().windowHandle(), view.viewport()->mapTo(&bench.window(), row));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bench.list("lvBStrength").toolTip(), GetParam() == SystemEvents::LetIn ? "A" : "");
+}
+
 TEST_F(StatementListViewTest, KeepsTheListsChoiceWhenQtWouldSelectAnotherRow) {
     WindowBench<AnalysisBench> analysis;
     analysis.goTo(mappingSides()[0]);

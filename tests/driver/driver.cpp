@@ -6,7 +6,9 @@
 
 #include "app/startup.h"
 #include "app/window_events.h"
+#include "lookup.h"
 #include "state.h"
+#include "view/text_entry.h"
 #include "words.h"
 
 namespace orvanta::driver {
@@ -171,10 +173,15 @@ void Driver::perform(const Json& line) {
     (this->*act->perform)(line);
 }
 
-/// The control of this kind and name, where a person can reach it.
+/// The control of this name, of any kind or of a single one, where a person can reach it.
 template <class Kind>
 Kind& Driver::reachable(const std::string& name) {
-    auto* control = dynamic_cast<Kind*>(m_program.frmMain.controls.find(name));
+    Control* named = controlNamed(m_program.frmMain.controls, name);
+    Kind* control = nullptr;
+    if constexpr (std::is_same_v<Kind, Control>)
+        control = named;
+    else if (named)
+        control = named->as<Kind>();
     if (!control) throw Refused("there is no such control here: " + name);
     if (!control->isReachable()) throw Refused("nobody can reach " + name);
     return *control;
@@ -182,15 +189,15 @@ Kind& Driver::reachable(const std::string& name) {
 
 Button Driver::buttonOf(const Json& line) const {
     const std::string name = stringIn(line, "button");
-    const auto button = buttonNamed(name);
+    const auto button = buttonNamed(m_program.frmMain, name);
     if (!button) throw Refused("there is no such button: " + name);
     return *button;
 }
 
 void Driver::refuseWhileHeld(Button button) const {
     if (m_held && *m_held != button) throw Refused("another button is held down");
-    if (!m_program.frmMain.buttons[button].isReachable())
-        throw Refused("nobody can reach " + m_program.frmMain.buttons[button].baseName);
+    const SkinnedButton& pressed = m_program.frmMain.buttons[button];
+    if (!pressed.image.isReachable()) throw Refused("nobody can reach " + pressed.baseName);
 }
 
 void Driver::start(const Json& line) {

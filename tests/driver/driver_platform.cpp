@@ -1,6 +1,6 @@
 #include "driver_platform.h"
 
-#include <array>
+#include <algorithm>
 #include <fstream>
 
 #include "presentation/question_sheets.h"
@@ -11,23 +11,6 @@ namespace orvanta::driver {
 
 namespace {
 
-bool hasButton(MessageButtons buttons, MessageAnswer answer) {
-    switch (buttons) {
-        case MessageButtons::Ok:
-            return answer == MessageAnswer::Ok;
-        case MessageButtons::YesNo:
-            return answer == MessageAnswer::Yes || answer == MessageAnswer::No;
-        case MessageButtons::YesNoCancel:
-            return answer != MessageAnswer::Ok;
-    }
-    return false;
-}
-
-MessageAnswer answerUnasked(MessageButtons buttons) {
-    if (buttons == MessageButtons::Ok) return MessageAnswer::Ok;
-    return buttons == MessageButtons::YesNo ? MessageAnswer::No : MessageAnswer::Cancel;
-}
-
 Json pathOrNull(const std::optional<std::string>& path) {
     return path ? text(*path) : Json(nullptr);
 }
@@ -35,10 +18,10 @@ Json pathOrNull(const std::optional<std::string>& path) {
 }  // namespace
 
 MessageAnswer RecordedMessages::show(const Message& message) {
-    const auto queued = take(m_answers.messages);
-    const bool fits = queued && hasButton(message.buttons, *queued);
-    const MessageAnswer answer =
-        m_stage.answer(message, fits ? *queued : answerUnasked(message.buttons));
+    const auto offered = answersOf(message.buttons);
+    const MessageAnswer queued = take(m_answers.messages).value_or(offered.back());
+    const bool fits = std::ranges::find(offered, queued) != offered.end();
+    const MessageAnswer answer = m_stage.answer(message, fits ? queued : offered.back());
     m_log.add({{"event", "message"},
                {"text", text(message.text)},
                {"icon", wordOf(message.icon)},

@@ -2,6 +2,7 @@
 
 #include "app/window_events.h"
 #include "stage.h"
+#include "view/text_entry.h"
 
 namespace orvanta::driver {
 
@@ -14,10 +15,11 @@ public:
     void raiseCurtain(Program& program) override { m_program = &program; }
 
     void type(TextBox& box, const std::string& text) override {
-        for (const char character : text) typeCharacter(box, character == '\n' ? '\r' : character);
+        for (const char character : text)
+            typeCharacter(box, character == '\n' ? enterKey : character);
     }
-    void replaceText(TextBox& box, const std::string& text) override { box.setText(text); }
-    void pressEnter(TextBox& box) override { typeCharacter(box, '\r'); }
+    void replaceText(TextBox& box, const std::string& text) override { paste(box, text); }
+    void pressEnter(TextBox& box) override { typeCharacter(box, enterKey); }
     void press(Button button) override { buttonPressed(*m_program, button); }
     void release(Button button) override { buttonReleased(*m_program, button); }
 
@@ -74,15 +76,19 @@ public:
 
 private:
     void typeCharacter(TextBox& box, char character) {
-        const bool printable = static_cast<unsigned char>(character) >= 32 && character != 127;
-        if (characterTyped(*m_program, box, character) && printable)
+        if (characterTyped(*m_program, box, character) && isPrintable(character))
             box.setText(box.text() + character);
+    }
+
+    /// Over the whole text of a box.
+    static void paste(TextBox& box, const std::string& text) {
+        box.setText(withinLimit({}, {text, text.size()}, box.maxLength()).text);
     }
 
     void act(FrmEdit& form, const EditStep& step) {
         switch (step.act) {
             case EditStep::Act::Text:
-                form.txtEdit.setText(step.text.substr(0, form.txtEdit.maxLength()));
+                paste(form.txtEdit, step.text);
                 break;
             case EditStep::Act::Ok:
                 pressEditButton(*m_program, form.btnOk);
@@ -106,7 +112,7 @@ private:
                 form.cboFormat.setSelectedIndex(step.format);
                 break;
             case ReportStep::Act::Text:
-                form.txtEdit.setText(step.text);
+                paste(form.txtEdit, step.text);
                 break;
             case ReportStep::Act::Browse:
                 browseForAnalyzeFile(*m_program, form);

@@ -24,6 +24,7 @@
 #include "desktop/main_window.h"
 #include "desktop/message_box.h"
 #include "desktop/theme.h"
+#include "system_events.h"
 
 namespace orvanta::driver {
 
@@ -127,7 +128,8 @@ public:
 
     void raiseCurtain(Program& program) override {
         m_program = &program;
-        m_window = std::make_unique<MainWindow>(program, Input::Driver);
+        m_window = std::make_unique<MainWindow>(program);
+        m_systemEvents = std::make_unique<SystemEventsKeptOut>(*m_window);
     }
 
     void settle() override {
@@ -402,6 +404,7 @@ private:
     QApplication m_application;
     Program* m_program = nullptr;
     std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<SystemEventsKeptOut> m_systemEvents;
     ReportDialog* m_report = nullptr;
 };
 

@@ -4,7 +4,6 @@
 #include <optional>
 #include <string_view>
 
-#include "core/buttons.h"
 #include "view/platform.h"
 
 namespace orvanta::driver {
@@ -29,13 +28,6 @@ inline std::string_view wordOf(MessageAnswer answer) {
 inline std::optional<MessageAnswer> answerNamed(std::string_view word) {
     for (std::size_t i = 0; i < answerWords.size(); ++i)
         if (answerWords[i] == word) return static_cast<MessageAnswer>(i);
-    return std::nullopt;
-}
-
-/// The button with this base name; none if there is no such button.
-inline std::optional<Button> buttonNamed(std::string_view baseName) {
-    for (const Button button : allOf<Button>)
-        if (faceOf(button).baseName == baseName) return button;
     return std::nullopt;
 }
 

@@ -7,7 +7,6 @@
 #include "app/window_events.h"
 #include "core/statement_lists.h"
 #include "reference_session.h"
-#include "words.h"
 
 namespace orvanta::test {
 
@@ -163,7 +162,7 @@ private:
     }
     void release(char module, char kind, const std::string& verb) {
         const std::string name = std::string(1, module) + kind + verb;
-        buttonReleased(program, *driver::buttonNamed(name));
+        buttonReleased(program, bench.button(name));
     }
 
     std::vector<std::pair<StatementList*, ReferenceRows*>> m_pairs;

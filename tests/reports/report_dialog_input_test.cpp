@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "analysis_bench.h"
+#include "lookup.h"
 #include "reports/report_dialog.h"
 #include "saving_bench.h"
 
@@ -90,7 +91,7 @@ TEST_F(ReportDialogInput, HasItsControlsWithTheirTextsToolTipsAndPlaces) {
     };
     ASSERT_EQ(form.controls.all().size(), looks.size());
     for (const Look& look : looks) {
-        const Control* control = form.controls.find(look.name);
+        const Control* control = driver::controlNamed(form.controls, look.name);
         ASSERT_TRUE(control) << look.name;
         EXPECT_EQ(textOf(*control), look.text);
         EXPECT_EQ(control->toolTip(), look.toolTip == 'A'   ? toolTipA

@@ -19,7 +19,7 @@ protected:
             bench.disk.unwritable.emplace(locked.temporaryFile, ErrorNumber::PermissionDenied);
     }
     std::string copy() { return bench.disk.files[session.temporaryFile]; }
-    Panel& panel() { return dynamic_cast<Panel&>(*bench.form().controls.find(session.panel)); }
+    Panel& panel() { return *bench.control(session.panel).as<Panel>(); }
 };
 INSTANTIATE_TEST_SUITE_P(Of, Autosave, testing::ValuesIn(savedSessions()), NameOfParameter{});
 

@@ -119,7 +119,7 @@ TEST_P(SaveByName, ChangesNothingWhenTheDialogIsCancelled) {
     EXPECT_TRUE(isChanged());
     EXPECT_EQ(lastPath, "docs/My SWOT");
     EXPECT_EQ(bench.undoRecords(), records);
-    EXPECT_TRUE(bench.form().controls.find(session.panel)->isVisible());
+    EXPECT_TRUE(bench.control(session.panel).isVisible());
 }
 
 TEST_P(SaveByName, AsksBeforeAFileIsOverwrittenAndTakesNoForAnAnswer) {
@@ -217,7 +217,7 @@ TEST_F(OpenBrainstormFile, KeepsTheQuestionSetOfTheFile) {
     bench.answerFile("docs/lee.bsm");
     open();
     for (const char* option : {"optGBS", "optHRP", "optMP", "optPSD", "optSBD"})
-        EXPECT_FALSE(bench.form().controls.find(option)->isEnabled()) << option;
+        EXPECT_FALSE(bench.control(option).isEnabled()) << option;
 }
 
 TEST_F(OpenBrainstormFile, LooksForTheNextFileFromTheWholeNameOfTheLast) {

@@ -112,6 +112,14 @@ Texts AnalysisBench::keys(const std::string& name) {
     return result;
 }
 
+void AnalysisBench::relabel(const std::string& name, int position, const std::string& sourceLabel) {
+    StatementList& rows = list(name);
+    Row changed = rows.row(position);
+    changed.subItem = sourceLabel;
+    rows.remove(position);
+    rows.insert(position, changed);
+}
+
 Texts AnalysisBench::stepsShown() {
     Texts shown;
     for (const char* panel : {"fraASSummary", "fraAWeakness", "fraAOpportunity", "fraAThreats",
@@ -120,9 +128,7 @@ Texts AnalysisBench::stepsShown() {
     return shown;
 }
 
-bool AnalysisBench::isShown(const std::string& control) {
-    return form().controls.find(control)->isVisible();
-}
+bool AnalysisBench::isShown(const std::string& name) { return Bench::control(name).isVisible(); }
 
 std::string clipPath(const std::string& name) { return "app/Sounds/" + name + ".swf"; }
 

@@ -75,10 +75,12 @@ public:
 
     const Row& row(const std::string& name, int position) { return list(name).row(position); }
     Texts keys(const std::string& name);
+    /// Puts a row of another source label in the place of a row, all else the same.
+    void relabel(const std::string& name, int position, const std::string& sourceLabel);
 
     /// The panels of the Analyze wizard that are switched on, by name.
     Texts stepsShown();
-    bool isShown(const std::string& control);
+    bool isShown(const std::string& name);
 };
 
 std::string clipPath(const std::string& name);

@@ -6,8 +6,10 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <stdexcept>
 
 #include "core/constants.h"
+#include "lookup.h"
 
 namespace orvanta::test {
 
@@ -26,6 +28,11 @@ std::string newSettingsFile() {
     ::close(descriptor);
     std::filesystem::remove(path);
     return path;
+}
+
+template <class Kind>
+Kind& found(Kind* control, const std::string& name) {
+    return control ? *control : throw std::out_of_range(name);
 }
 
 Texts nonEmpty(const JournalRecords& records) {
@@ -143,11 +150,15 @@ void Bench::addSource(const std::string& path, const std::string& name, const Te
     click("AFAdd");
 }
 
-StatementList& Bench::list(const std::string& name) {
-    return dynamic_cast<StatementList&>(*form().controls.find(name));
+Control& Bench::control(const std::string& name) {
+    return found(driver::controlNamed(form().controls, name), name);
 }
-TextBox& Bench::box(const std::string& name) {
-    return dynamic_cast<TextBox&>(*form().controls.find(name));
+StatementList& Bench::list(const std::string& name) {
+    return found(control(name).as<StatementList>(), name);
+}
+TextBox& Bench::box(const std::string& name) { return found(control(name).as<TextBox>(), name); }
+Button Bench::button(const std::string& baseName) {
+    return driver::buttonNamed(form(), baseName).value();
 }
 
 ShownRows rowsOf(const StatementList& list) {

@@ -75,8 +75,10 @@ public:
     void addSource(const std::string& path, const std::string& name, const Texts& strengths,
                    const Texts& weaknesses, const Texts& opportunities, const Texts& threats);
 
+    Control& control(const std::string& name);
     StatementList& list(const std::string& name);
     TextBox& box(const std::string& name);
+    Button button(const std::string& baseName);
     ShownRows rows(const std::string& list);
     Texts texts(const std::string& list);
     /// The records of a journal stack that are not empty, oldest first.

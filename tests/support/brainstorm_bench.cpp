@@ -44,13 +44,13 @@ void BrainstormBench::addClips(const std::string& code) {
 }
 
 std::string BrainstormBench::asked(const AnsweredKind& kind) {
-    return dynamic_cast<Label&>(*form().controls.find(kind.question)).caption();
+    return control(kind.question).as<Label>()->caption();
 }
 
 Texts BrainstormBench::stepsShown() {
     Texts shown;
     for (const AnsweredKind& kind : answeredKinds())
-        if (form().controls.find(kind.panel)->isVisible()) shown.push_back(kind.panel);
+        if (control(kind.panel).isVisible()) shown.push_back(kind.panel);
     return shown;
 }
 

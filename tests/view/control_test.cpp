@@ -37,13 +37,6 @@ struct Form {
     }
 };
 
-TEST(ControlSet, FindsAControlByItsNameAlone) {
-    Form form;
-    EXPECT_EQ(form.controls.find("covered"), &form.covered);
-    EXPECT_EQ(form.controls.find("Covered"), nullptr);
-    EXPECT_EQ(form.controls.find(""), nullptr);
-}
-
 TEST(ControlSet, KeepsTheOrderOfDeclaration) {
     Form form;
     EXPECT_EQ(form.controls.all().front(), &form.module);
@@ -89,6 +82,17 @@ TEST(Reach, EndsWhereAPanelLiesOverTheHolderOfTheControl) {
     EXPECT_TRUE(picture.isReachable());
     form.first.show();
     EXPECT_FALSE(picture.isReachable());
+}
+
+TEST(Reach, EndsAtAPanelThatLiesUnderAnother) {
+    Form form;
+    form.first.show();
+    form.second.show();
+    EXPECT_TRUE(form.second.isUncovered());
+    EXPECT_FALSE(form.first.isUncovered());
+    EXPECT_FALSE(form.first.isReachable());
+    EXPECT_FALSE(form.onFirst.isReachable());
+    EXPECT_TRUE(form.onFirst.isUncovered());  // what hides it is not its own
 }
 
 TEST(PanelStack, HasThePanelOnTopThatWasShownLast) {
@@ -286,7 +290,7 @@ TEST_F(FileList, RefusesToRemoveWhatItDoesNotHold) {
 
 TEST(ControlDeathTest, HasANameThatNoOtherOfItsFormHas) {
     Form form;
-    EXPECT_DEATH(TextBox(form.controls, "beside"), "find");
+    EXPECT_DEATH(TextBox(form.controls, "beside"), "name");
     EXPECT_DEATH(TextBox(form.controls, ""), "empty");
 }
 
@@ -305,7 +309,7 @@ TEST(ControlDeathTest, RaisesNoPanelOfAnotherStack) {
 TEST(MainForm, HoldsEveryControlUnderANameOfItsOwn) {
     Bench bench;
     for (const Control* control : bench.form().controls.all())
-        EXPECT_EQ(bench.form().controls.find(control->name()), control) << control->name();
+        EXPECT_EQ(&bench.control(control->name()), control) << control->name();
 }
 
 }  // namespace

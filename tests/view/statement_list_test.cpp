@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "bench.h"
 #include "failure_of.h"
 
@@ -151,13 +153,11 @@ TEST(MappingList, SelectsNothingBehindTheRemovalOfItsSelectedRow) {
 
 TEST_F(StatementListOfThree, ChangesARowWhereItStands) {
     list.setText(2, "changed");
-    list.setSubItem(2, "[Dana]: ");
     list.setColour(2, {1, 2, 3});
     list.setIndent(2, 4);
     const Row& row = list.row(2);
     EXPECT_EQ(row.key, "S2");
     EXPECT_EQ(row.text, "changed");
-    EXPECT_EQ(row.subItem, "[Dana]: ");
     EXPECT_EQ(row.colour, (Colour{1, 2, 3}));
     EXPECT_EQ(row.indent, 4);
 }
@@ -199,6 +199,39 @@ TEST_F(StatementListOfThree, TellsNothingOfWhatItRefused) {
     failureOf([&] { list.remove(9); });
     failureOf([&] { list.setKey(1, "S2"); });
     EXPECT_EQ(listener.told, Texts{});
+}
+
+/// Does to a list what no observer may do while it is told of a new row.
+struct Meddler : StatementListObserver {
+    Meddler(StatementList& list, std::function<void(StatementList&)> act)
+        : list(list), act(std::move(act)) {
+        list.watch(*this);
+    }
+    void rowInserted(int) override { act(list); }
+
+    StatementList& list;
+    std::function<void(StatementList&)> act;
+};
+
+using StatementListDeathTest = StatementListOfThree;
+
+TEST_F(StatementListDeathTest, EndsTheProgramWhenAnObserverChangesTheListThatItIsToldOf) {
+    const Meddler meddler(list, [](StatementList& told) { told.remove(1); });
+    EXPECT_DEATH(list.add(rowOf("S4")), "changes the list that it is told of");
+}
+
+TEST_F(StatementListDeathTest, EndsTheProgramWhenAnObserverAddsAnotherWhileItIsTold) {
+    Listener listener;
+    const Meddler meddler(list, [&listener](StatementList& told) { told.watch(listener); });
+    EXPECT_DEATH(list.add(rowOf("S4")), "is being told");
+}
+
+TEST_F(StatementListOfThree, MayBeReadByAnObserverThatIsToldOfIt) {
+    int position = 0;
+    const Meddler reader(list,
+                         [&position](StatementList& told) { position = told.positionOf("S4"); });
+    list.add(rowOf("S4"));
+    EXPECT_EQ(position, 4);
 }
 
 TEST(LongList, FindsItsRowsAfterManyWereInsertedAtOnePlace) {

@@ -59,13 +59,5 @@ TEST(TextFromOutside, KeepsACharacterThatAStrayFollowerStandsBehind) {
     EXPECT_EQ(windows1252From("\xC3\xA9\x80\xE2\x82\xAC\x80"), "\xE9?\x80?");
 }
 
-TEST(PastedText, BecomesOneLineWithABlankForEachLineBreak) {
-    EXPECT_EQ(singleLineFrom("a\r\nb\rc\nd"), "a b c d");
-    EXPECT_EQ(singleLineFrom("a\n\nb"), "a  b");
-    EXPECT_EQ(singleLineFrom("a\r\r\nb"), "a  b");
-}
-
-TEST(PastedText, TurnsIntoTheCodePageToo) { EXPECT_EQ(singleLineFrom("é\u65E5"), "\xE9?"); }
-
 }  // namespace
 }  // namespace orvanta::test

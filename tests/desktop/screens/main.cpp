@@ -133,7 +133,7 @@ private:
     }
 
     void goTo(const std::string& panel) {
-        while (!m_bench.form().controls.find(panel)->isVisible()) m_bench.click("BNext");
+        while (!m_bench.control(panel).isVisible()) m_bench.click("BNext");
     }
 
     void takeAnalysis() {

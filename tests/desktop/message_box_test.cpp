@@ -1,0 +1,59 @@
+#include "desktop/message_box.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QtTest>
+
+namespace orvanta::test {
+
+namespace {
+
+using desktop::MessageBox;
+
+/// What a box gives when it is closed without a button.
+MessageAnswer answerOnEscape(MessageButtons buttons) {
+    MessageBox box({.text = "Go on?", .buttons = buttons}, nullptr);
+    box.show();
+    QTest::keyClick(&box, Qt::Key_Escape);
+    return box.answer();
+}
+
+}  // namespace
+
+TEST(MessageBox, GivesItsLastAnswerWhenItIsClosed) {
+    EXPECT_EQ(answerOnEscape(MessageButtons::Ok), MessageAnswer::Ok);
+    EXPECT_EQ(answerOnEscape(MessageButtons::YesNo), MessageAnswer::No);
+    EXPECT_EQ(answerOnEscape(MessageButtons::YesNoCancel), MessageAnswer::Cancel);
+}
+
+TEST(MessageBox, HasAButtonForEachAnswer) {
+    for (const auto buttons :
+         {MessageButtons::Ok, MessageButtons::YesNo, MessageButtons::YesNoCancel}) {
+        MessageBox box({.text = "Go on?", .buttons = buttons}, nullptr);
+        const auto answers = answersOf(buttons);
+        EXPECT_EQ(static_cast<std::size_t>(box.buttons().size()), answers.size());
+        for (const MessageAnswer answer : answers) {
+            ASSERT_TRUE(box.buttonFor(answer));
+            box.show();
+            box.buttonFor(answer)->click();
+            EXPECT_EQ(box.answer(), answer);
+        }
+    }
+}
+
+TEST(MessageBox, TellsItsIconToThoseWhoDoNotSeeIt) {
+    const std::vector<std::pair<MessageIcon, const char*>> words{
+        {MessageIcon::Stop, "Stop"},
+        {MessageIcon::Question, "Question"},
+        {MessageIcon::Information, "Information"},
+        {MessageIcon::None, ""}};
+    for (const auto& [icon, word] : words) {
+        const MessageBox box({.text = "Go on?", .icon = icon}, nullptr);
+        const auto* picture = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"));
+        EXPECT_EQ(picture->accessibleName(), QLatin1String(word));
+    }
+}
+
+}  // namespace orvanta::test
