@@ -1,24 +1,15 @@
+#include "journal/journal_records.h"
+
 #include <gtest/gtest.h>
 
-#include "analysis_bench.h"
-#include "journal/journal_records.h"
+#include "bench.h"
+#include "failure_of.h"
 
 namespace orvanta::test {
 namespace {
 
-/// A Brainstorm session on its strengths.
-class Journal : public testing::Test {
+class RecordKeeping : public testing::Test {
 protected:
-    Journal() {
-        bench.start();
-        bench.openBrainstorm();
-    }
-    void addStrengths(int count) {
-        for (int i = 1; i <= count; ++i) bench.enter("txtStrength", {std::to_string(i)});
-    }
-    void press(const std::string& control, int times) {
-        for (int i = 0; i < times; ++i) bench.clickControl(control);
-    }
     void push(bool toUndo, const std::string& text, bool clearRedo = false) {
         pushJournalRecord(bench.program(), toUndo, "TAG", 1, "K", text, clearRedo, "");
     }
@@ -27,27 +18,27 @@ protected:
     Bench bench;
 };
 
-TEST_F(Journal, JoinsFiveFieldsWithAllDelimitersWritten) {
+TEST_F(RecordKeeping, JoinsFiveFieldsWithAllDelimitersWritten) {
     pushJournalRecord(bench.program(), true, "ADD_B_S", 2, "S7", "Own fleet", false, "");
     EXPECT_EQ(undoStack()[0], "ADD_B_S<<!~!>>2<<!~!>>S7<<!~!>>Own fleet<<!~!>>");
     pushJournalRecord(bench.program(), true, "EDIT_B_S", 1, "", "", false, "O4|3,");
     EXPECT_EQ(undoStack()[1], "EDIT_B_S<<!~!>>1<<!~!>><<!~!>><<!~!>>O4|3,");
 }
 
-TEST_F(Journal, FillsTheUndoStackFromItsFirstEntry) {
+TEST_F(RecordKeeping, FillsTheUndoStackFromItsFirstEntry) {
     push(true, "one");
     push(true, "two");
     EXPECT_EQ(undoStack()[0], record("TAG", 1, "K", "one"));
     EXPECT_EQ(undoStack()[1], record("TAG", 1, "K", "two"));
 }
 
-TEST_F(Journal, FillsTheRedoStackFromItsSecondEntry) {
+TEST_F(RecordKeeping, FillsTheRedoStackFromItsSecondEntry) {
     push(false, "one");
     EXPECT_EQ(redoStack()[0], "");
     EXPECT_EQ(redoStack()[1], record("TAG", 1, "K", "one"));
 }
 
-TEST_F(Journal, UsesTheFirstRedoEntryOnlyThroughTheShiftOfAFullStack) {
+TEST_F(RecordKeeping, UsesTheFirstRedoEntryOnlyThroughTheShiftOfAFullStack) {
     for (int i = 1; i <= 10; ++i) push(false, std::to_string(i));
     EXPECT_EQ(redoStack()[0], "");
     push(false, "11");
@@ -55,7 +46,7 @@ TEST_F(Journal, UsesTheFirstRedoEntryOnlyThroughTheShiftOfAFullStack) {
     EXPECT_EQ(redoStack()[10], record("TAG", 1, "K", "11"));
 }
 
-TEST_F(Journal, DropsTheOldestRecordOfEitherFullStackWithoutAWord) {
+TEST_F(RecordKeeping, DropsTheOldestRecordOfEitherFullStackWithoutAWord) {
     for (int i = 1; i <= 12; ++i) {
         push(true, std::to_string(i));
         push(false, std::to_string(i));
@@ -67,7 +58,7 @@ TEST_F(Journal, DropsTheOldestRecordOfEitherFullStackWithoutAWord) {
     EXPECT_EQ(bench.messages(), Texts{});
 }
 
-TEST_F(Journal, FillsTheFirstHoleOfAStack) {
+TEST_F(RecordKeeping, FillsTheFirstHoleOfAStack) {
     bench.form().undoRecords[1] = "later";
     push(true, "one");
     EXPECT_EQ(undoStack()[0], record("TAG", 1, "K", "one"));
@@ -75,7 +66,7 @@ TEST_F(Journal, FillsTheFirstHoleOfAStack) {
     EXPECT_EQ(undoStack()[2], record("TAG", 1, "K", "two"));
 }
 
-TEST_F(Journal, EmptiesTheRedoStackOnlyWhenTold) {
+TEST_F(RecordKeeping, EmptiesTheRedoStackOnlyWhenTold) {
     push(false, "one");
     push(true, "two", false);
     EXPECT_EQ(bench.redoRecords().size(), 1u);
@@ -83,104 +74,68 @@ TEST_F(Journal, EmptiesTheRedoStackOnlyWhenTold) {
     EXPECT_EQ(bench.redoRecords(), Texts{});
 }
 
-TEST_F(Journal, DoesNotHeedTheWishToEmptyTheRedoStackWhenARecordGoesThere) {
+TEST_F(RecordKeeping, DoesNotHeedTheWishToEmptyTheRedoStackWhenARecordGoesThere) {
     push(false, "one", true);
     push(false, "two", true);
     EXPECT_EQ(bench.redoRecords().size(), 2u);
 }
 
-TEST_F(Journal, ForgetsTheFirstOfTwelveChanges) {
-    addStrengths(12);
-    press("cmdUndo", 11);
-    EXPECT_EQ(bench.texts("lvBStrength"), Texts{"1"});
-    press("cmdUndo", 1);
-    EXPECT_EQ(bench.texts("lvBStrength"), Texts{"1"});
+TEST(RecordTag, NamesTheOperationAndWhereItIsDone) {
+    EXPECT_EQ(tagOf(Operation::Delete, endingOf(Session::Brainstorm, StatementKind::Strength)),
+              "DEL_B_S");
+    EXPECT_EQ(tagOf(Operation::Edit, endingOf(Session::Analyze, StatementKind::Threat)),
+              "EDIT_A_T");
+    EXPECT_EQ(tagOf(Operation::Add, "OM"), "ADD_OM");
 }
 
-TEST_F(Journal, HoldsElevenUndoneChangesInAllEntriesAndRedoesThemInOrder) {
-    addStrengths(11);
-    press("cmdUndo", 11);
-    EXPECT_EQ(bench.texts("lvBStrength"), Texts{});
-    for (const std::string& entry : redoStack()) EXPECT_NE(entry, "");
-    press("cmdRedo", 11);
-    EXPECT_EQ(bench.texts("lvBStrength"),
-              (Texts{"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11"}));
-    EXPECT_EQ(bench.redoRecords(), Texts{});
+TEST(Record, IsTakenApartAtItsDelimiters) {
+    const std::string entry = record("ADD_A_O", 3, "O2", "New market", "O2|7,");
+    const auto taken = recordFrom(entry);
+    ASSERT_TRUE(taken.has_value());
+    EXPECT_EQ(taken->operation, Operation::Add);
+    EXPECT_EQ(taken->ending, "A_O");
+    EXPECT_EQ(taken->position(), 3);
+    EXPECT_EQ(taken->key, "O2");
+    EXPECT_EQ(taken->text, "New market");
+    EXPECT_EQ(taken->extra, "O2|7,");
 }
 
-TEST_F(Journal, CannotRedoBehindANewChange) {
-    addStrengths(2);
-    press("cmdUndo", 1);
-    bench.enter("txtStrength", {"other"});
-    EXPECT_EQ(bench.redoRecords(), Texts{});
-    press("cmdRedo", 1);
-    EXPECT_EQ(bench.texts("lvBStrength"), (Texts{"1", "other"}));
+TEST(Record, EndsItsStatementAtADelimiterInsideAndLosesItsExtraField) {
+    const std::string entry = record("ADD_A_O", 3, "O2", "one<<!~!>>two", "O2|7,");
+    const auto taken = recordFrom(entry);
+    ASSERT_TRUE(taken.has_value());
+    EXPECT_EQ(taken->text, "one");
+    EXPECT_EQ(taken->extra, "");
 }
 
-TEST_F(Journal, ThatIsEmptyLeavesTheButtonsOnScreenAndThePressDoesNothing) {
-    const Json before = bench.answerTo({{"do", "state"}})["state"];
-    press("cmdUndo", 1);
-    press("cmdRedo", 1);
-    EXPECT_EQ(bench.events(), Json::array());
-    EXPECT_EQ(bench.answerTo({{"do", "state"}})["state"], before);
-    EXPECT_TRUE(bench.form().cmdUndo.isVisible());
+TEST(Record, IsNoneOfFewerThanFourFields) {
+    EXPECT_FALSE(recordFrom(""));
+    EXPECT_FALSE(recordFrom("ADD_B_S<<!~!>>1<<!~!>>S1"));
+    EXPECT_TRUE(recordFrom("ADD_B_S<<!~!>>1<<!~!>>S1<<!~!>>text"));
 }
 
-TEST_F(Journal, IsEmptiedOnTheWayToTheNextList) {
-    addStrengths(2);
-    press("cmdUndo", 1);
-    for (int i = 0; i < 3; ++i) bench.click("BNext");
-    ASSERT_TRUE(bench.form().fraWeakness.isVisible());
-    EXPECT_EQ(bench.undoRecords(), Texts{});
-    EXPECT_EQ(bench.redoRecords(), Texts{});
+TEST(Record, OfAnUnknownOperationOrPositionSaysSo) {
+    const auto taken = recordFrom("MOVE<<!~!>>first<<!~!>><<!~!>>");
+    ASSERT_TRUE(taken.has_value());
+    EXPECT_EQ(taken->operation, std::nullopt);
+    EXPECT_EQ(taken->ending, "");
+    EXPECT_EQ(failureOf([&] { taken->position(); }), 5);
 }
 
-TEST_F(Journal, IsKeptFromQuestionToQuestionOfOneList) {
-    addStrengths(2);
-    press("cmdUndo", 1);
-    bench.click("BNext");
-    ASSERT_TRUE(bench.form().fraStrength.isVisible());
-    EXPECT_EQ(bench.undoRecords().size(), 1u);
-    EXPECT_EQ(bench.redoRecords().size(), 1u);
+TEST(RemovedParentRows, ComeBackFromTheExtraFieldAsTheyWentIn) {
+    EXPECT_EQ(extraOf({.key = "O4", .position = 3}), "O4|3,");
+    const auto rows = removedRowsFrom("O4|3,T1|12,");
+    ASSERT_EQ(rows.size(), 2u);
+    EXPECT_EQ(rows[0].key, "O4");
+    EXPECT_EQ(rows[0].position, 3);
+    EXPECT_EQ(rows[1].key, "T1");
+    EXPECT_EQ(rows[1].position, 12);
 }
 
-TEST_F(Journal, IsEmptiedWhenAModuleIsOpened) {
-    addStrengths(1);
-    bench.answerMessage("no");
-    bench.openAnalyze();
-    EXPECT_EQ(bench.undoRecords(), Texts{});
-}
-
-TEST_F(Journal, IsEmptiedWhenABrainstormFileIsOpened) {
-    bench.click("Brainstorm");
-    bench.form().undoRecords[0] = bench.form().redoRecords[1] = "a record";
-    bench.disk.files["docs/a.bsm"] = brainstormFile("Ann", "GBS", {"Brand"}, {}, {}, {});
-    bench.answerFile("docs/a.bsm");
-    bench.click("BOpen");
-    EXPECT_EQ(bench.texts("lvBStrength"), Texts{"Brand"});
-    EXPECT_EQ(bench.undoRecords(), Texts{});
-    EXPECT_EQ(bench.redoRecords(), Texts{});
-}
-
-TEST_F(Journal, IsEmptyAfterARecovery) {
-    addStrengths(1);
-    bench.play({{"do", "tick"}});
-    bench.restart();
-    EXPECT_EQ(bench.texts("lvBStrength"), Texts{"1"});
-    EXPECT_EQ(bench.undoRecords(), Texts{});
-    EXPECT_TRUE(bench.form().cmdUndo.isVisible());
-    EXPECT_TRUE(bench.form().cmdRedo.isVisible());
-}
-
-TEST_F(Journal, OfAListWithMoreRowsThanARecordCanNumberTakesNoRecord) {
-    for (int i = 0; i < 32767; ++i)
-        bench.list("lvBStrength").add({.key = "", .text = "many", .image = 1, .largeImage = 1});
-    bench.set("txtStrength", "one too many");
-    bench.events();
-    bench.play({{"do", "enter"}, {"control", "txtStrength"}});
-    EXPECT_EQ(bench.events().back(),
-              (Json{{"event", "unhandledError"}, {"number", 6}, {"description", "Overflow"}}));
-    EXPECT_EQ(bench.undoRecords(), Texts{});
+TEST(RemovedParentRows, PassOverWhatIsNoEntry) {
+    for (const char* extra : {"", ",", "S", "O4", "O4|", "O4|x,", "O4|3|5,"})
+        EXPECT_TRUE(removedRowsFrom(extra).empty()) << extra;
+    EXPECT_EQ(removedRowsFrom("junk,O4|3,O5|x").size(), 1u);
 }
 
 }  // namespace
