@@ -1,3 +1,5 @@
+#include "questions/bank_reader.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -5,7 +7,6 @@
 
 #include "analysis_bench.h"
 #include "failure_of.h"
-#include "questions/bank_reader.h"
 #include "questions/question_banks.h"
 
 namespace orvanta::test {

@@ -1,7 +1,8 @@
+#include "questions/question_banks.h"
+
 #include <gtest/gtest.h>
 
 #include "analysis_bench.h"
-#include "questions/bank_reader.h"
 
 namespace orvanta::test {
 namespace {
