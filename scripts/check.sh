@@ -76,8 +76,15 @@ check_scripts() {
     files 'scripts/*.sh' 'cmake/*.sh' .ci/run | xargs shellcheck || fail "shellcheck found something"
 }
 
+check_tests_mirror() {
+    have python3 || return 0
+    echo "-- tests repeat the tree"
+    scripts/check_tests_mirror.py || fail "a source has no test at its path"
+}
+
 have git || exit 1
 check_layout
+check_tests_mirror
 check_line_ends
 check_words
 check_scripts

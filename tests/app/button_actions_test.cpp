@@ -1,3 +1,5 @@
+#include "app/button_actions.h"
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -148,44 +150,77 @@ TEST_P(ButtonAction, RunsWhenTheButtonIsLetGo) {
 
 TEST(ButtonActions, AreTriedForAllButtons) { EXPECT_EQ(allActions().size(), countOf<Button>); }
 
+class ButtonFace : public testing::TestWithParam<Button> {
+protected:
+    ButtonFace() { bench.start(); }
+    Art art() { return bench.form().buttons[GetParam()].image.art(); }
+    bool large() const { return faceOf(GetParam()).size == ButtonSize::Large; }
+    Bench bench;
+};
+const auto baseNameOf = [](const auto& tested) {
+    return std::string(faceOf(tested.param).baseName);
+};
+INSTANTIATE_TEST_SUITE_P(Of, ButtonFace, testing::ValuesIn(allOf<Button>), baseNameOf);
+
+TEST_P(ButtonFace, StaysDownUntilItIsLetGo) {
+    pressButton(bench.program(), GetParam());
+    pressButton(bench.program(), GetParam());
+    EXPECT_EQ(art(), large() ? Art::LargeDown : Art::SmallDown);
+    releaseButton(bench.program(), GetParam());
+    EXPECT_EQ(art(), large() ? Art::LargeNormal : Art::SmallNormal);
+}
+
+TEST(SkinnedButtons, CopyTheirArtFromTheFourHiddenPictures) {
+    Bench bench;
+    bench.start();
+    bench.form().imgBtnSDown.setArt(Art::LargeDown);
+    bench.form().imgBtnLNormal.setArt(Art::SmallNormal);
+    pressButton(bench.program(), Button::BNext);
+    releaseButton(bench.program(), Button::About);
+    EXPECT_EQ(bench.form().buttons[Button::BNext].image.art(), Art::LargeDown);
+    EXPECT_EQ(bench.form().buttons[Button::About].image.art(), Art::SmallNormal);
+}
+
+TEST(SkinnedButtons, LookReleasedWhileTheirActionRuns) {
+    Bench bench;
+    bench.start();
+    bench.openBrainstorm();
+    bench.play({{"do", "press"}, {"button", "BSAdd"}});
+    EXPECT_EQ(bench.events(),
+              Json::array({{{"event", "art"}, {"button", "BSAdd"}, {"pressed", true}}}));
+    bench.play({{"do", "release"}, {"button", "BSAdd"}});
+    EXPECT_EQ(bench.events(),
+              Json::array({{{"event", "art"}, {"button", "BSAdd"}, {"pressed", false}},
+                           refusal("Please enter strength."),
+                           focusOn("txtStrength")}));
+}
+
+TEST(SkinnedButtons, ActOnReleaseAndNotOnPress) {
+    Bench bench;
+    bench.start();
+    bench.play({{"do", "press"}, {"button", "Brainstorm"}});
+    EXPECT_FALSE(bench.form().fraBrainstorm.isVisible());
+    bench.play({{"do", "release"}, {"button", "Brainstorm"}});
+    EXPECT_TRUE(bench.form().fraBrainstorm.isVisible());
+}
+
+TEST(SkinnedButtons, ActOncePerReleaseOfOneThatWasHeldTwice) {
+    Bench bench;
+    bench.start();
+    bench.openBrainstorm();
+    bench.set("txtStrength", "Brand");
+    bench.play({{"do", "press"}, {"button", "BSAdd"}});
+    bench.play({{"do", "press"}, {"button", "BSAdd"}});
+    bench.play({{"do", "release"}, {"button", "BSAdd"}});
+    EXPECT_EQ(bench.texts("lvBStrength"), Texts{"Brand"});
+}
+
 Json behindArt(AnalysisBench& bench, const std::string& button) {
     bench.events();
     bench.click(button);
     Json rest = bench.events();
     rest.erase(rest.begin(), rest.begin() + 2);
     return rest;
-}
-
-TEST(QuitButton, EndsACleanProgramWithoutStoppingTheSound) {
-    AnalysisBench bench;
-    EXPECT_EQ(behindArt(bench, "Quit"), Json::array({{{"event", "exit"}}}));
-}
-
-TEST(QuitButton, AsksForBothSessionsTheBrainstormFirst) {
-    AnalysisBench bench;
-    bench.form().editFlag = bench.form().editAFlag = true;
-    bench.answerMessage("no");
-    bench.answerMessage("no");
-    bench.click("Quit");
-    EXPECT_EQ(bench.messages(), (Texts{"Do you want to save changes in brainstorm session?",
-                                       "Do you want to save changes in analyze session?"}));
-}
-
-TEST(QuitButton, GoesNoFurtherThanTheFirstPromptThatIsCancelled) {
-    AnalysisBench bench;
-    bench.form().editFlag = bench.form().editAFlag = true;
-    bench.answerMessage("cancel");
-    const Json seen = behindArt(bench, "Quit");
-    ASSERT_EQ(seen.size(), 1u);
-    EXPECT_EQ(seen[0]["text"], "Do you want to save changes in brainstorm session?");
-}
-
-TEST(QuitButton, StaysWhenTheSecondPromptIsCancelled) {
-    AnalysisBench bench;
-    bench.form().editAFlag = true;
-    bench.answerMessage("cancel");
-    bench.click("Quit");
-    EXPECT_EQ(bench.events("exit"), Json::array());
 }
 
 TEST(OverviewButton, OpensTheOverviewPageAndLetsTheSoundGoOn) {
@@ -220,6 +255,17 @@ TEST_P(SilentButton, LetsTheSoundGoOnWhileAPersonTypes) {
     bench.events();
     bench.click(GetParam());
     EXPECT_EQ(bench.events("narration"), Json::array());
+}
+
+TEST(ReportAndAbout, LeaveTheSessionAsItIs) {
+    Bench bench;
+    bench.start();
+    bench.openBrainstorm();
+    bench.enter("txtStrength", {"Own fleet"});
+    const Json before = bench.answerTo({{"do", "state"}});
+    bench.click("Report");
+    bench.click("About");
+    EXPECT_EQ(bench.answerTo({{"do", "state"}})["state"], before["state"]);
 }
 
 }  // namespace

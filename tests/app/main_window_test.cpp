@@ -6,12 +6,10 @@
 
 #include "analysis_bench.h"
 #include "core/modules.h"
+#include "displays.h"
 
 namespace orvanta::test {
 namespace {
-
-const std::string brainstormPrompt = "Do you want to save changes in brainstorm session?";
-const std::string analyzePrompt = "Do you want to save changes in analyze session?";
 
 /// The options on offer by their place, from the top.
 Texts offered(const FrmMain& form) {
@@ -75,197 +73,22 @@ TEST(OfferedModules, DoNotCountAFolderAsABank) {
     EXPECT_EQ(offered(bench.form()), Texts{"optGBS"});
 }
 
-TEST(OfferedModules, BearTheirNames) {
-    Bench bench;
-    const FrmMain& form = bench.form();
-    EXPECT_EQ(form.optGBS.caption(), "General Business Strategy");
-    EXPECT_EQ(form.optMP.caption(), "Marketing Planning");
-    EXPECT_EQ(form.optSBD.caption(), "Sales && Business Development");
-    EXPECT_EQ(form.optPSD.caption(), "Product / Service Development");
-    EXPECT_EQ(form.optHRP.caption(), "Human Resources Planning");
-}
+class LayoutOn : public testing::TestWithParam<Display> {
+protected:
+    const Display& display = GetParam();
+};
+INSTANTIATE_TEST_SUITE_P(Displays, LayoutOn, testing::ValuesIn(displays), NameOfParameter());
 
-TEST(OpeningBrainstorm, ShowsTheChoiceScreenWithFocusInTheName) {
-    Bench bench;
-    bench.start();
-    bench.click("Brainstorm");
-    const FrmMain& form = bench.form();
-    EXPECT_TRUE(form.fraBrainstorm.isVisible());
-    EXPECT_TRUE(form.txtName.isReachable());
-    EXPECT_FALSE(form.picBBack.isVisible());
-    EXPECT_EQ(bench.events("focus"), Json::array({focusOn("txtName")}));
-}
-
-TEST(OpeningBrainstorm, BringsUndoAndRedo) {
-    Bench bench;
-    bench.start();
-    bench.click("Brainstorm");
-    EXPECT_TRUE(bench.form().cmdUndo.isVisible());
-    EXPECT_TRUE(bench.form().cmdRedo.isVisible());
-}
-
-TEST(OpeningBrainstorm, StopsTheSound) {
-    Bench bench;
-    bench.start();
-    bench.click("Brainstorm");
-    EXPECT_EQ(bench.events("narration"), Json::array({stopped()}));
-}
-
-TEST(OpeningBrainstorm, LeavesAStepOfEitherModule) {
-    AnalysisBench bench;
-    bench.next(2);
-    bench.click("Brainstorm");
-    const FrmMain& form = bench.form();
-    EXPECT_FALSE(form.fraAnalyze.isVisible());
-    EXPECT_TRUE(form.txtName.isReachable());
-}
-
-TEST(OpeningBrainstorm, FreesTheOptionsAndForgetsWhatWasHeard) {
-    Bench bench;
-    bench.start();
-    FrmMain& form = bench.form();
-    for (const Module& module : modules) (form.*module.option).setEnabled(false);
-    form.narratedStrength = form.narratedWeakness = 4;
-    form.narratedOpportunity = form.narratedThreat = 4;
-    bench.click("Brainstorm");
-    for (const Module& module : modules) EXPECT_TRUE((form.*module.option).isEnabled());
-    EXPECT_EQ(form.narratedStrength + form.narratedWeakness + form.narratedOpportunity +
-                  form.narratedThreat,
-              0);
-}
-
-TEST(OpeningBrainstorm, InTheMiddleOfTheWizardBeginsAnew) {
-    Bench bench;
-    bench.start();
-    bench.openBrainstorm();
-    bench.enter("txtStrength", {"Own fleet"});
-    bench.click("BNext");
-    bench.answerMessage("no");
-    bench.click("Brainstorm");
-    const FrmMain& form = bench.form();
-    EXPECT_TRUE(form.txtName.isReachable());
-    EXPECT_EQ(form.txtName.text(), "");
-    EXPECT_EQ(form.lvBStrength.count(), 0);
-    EXPECT_FALSE(form.optGBS.isOn());
-}
-
-TEST(OpeningBrainstorm, OffersBothSessionsForSavingWhicheverIsOnScreen) {
-    AnalysisBench bench;
-    bench.form().editFlag = bench.form().editAFlag = true;
-    bench.answerMessage("no");
-    bench.answerMessage("no");
-    bench.click("Brainstorm");
-    EXPECT_EQ(bench.messages(), (Texts{brainstormPrompt, analyzePrompt}));
-}
-
-TEST(OpeningBrainstorm, KeepsTheStatementsOfTheOtherModuleOutOfSight) {
-    AnalysisBench bench;
-    bench.next(1);
-    bench.click("Brainstorm");
-    EXPECT_EQ(bench.texts("lvAStrength"), (Texts{"Ann S1", "Ann S2", "Bo S1"}));
-}
-
-TEST(OpeningAModule, LeavesAllAsItWasWhenThePromptIsCancelled) {
-    Bench bench;
-    bench.start();
-    bench.openBrainstorm();
-    bench.enter("txtStrength", {"Own fleet"});
-    bench.click("BNext");
-    bench.events();
-    const Json before = bench.answerTo({{"do", "state"}});
-    bench.answerMessage("cancel");
-    bench.click("Brainstorm");
-    EXPECT_EQ(bench.messages(), Texts{brainstormPrompt});
-    EXPECT_EQ(bench.answerTo({{"do", "state"}})["state"], before["state"]);
-}
-
-TEST(OpeningAModule, StopsTheSoundEvenWhenThePromptIsCancelled) {
-    Bench bench;
-    bench.start();
-    bench.form().editAFlag = true;
-    bench.answerMessage("cancel");
-    bench.click("Analyze");
-    EXPECT_EQ(bench.events("narration"), Json::array({stopped()}));
-    EXPECT_FALSE(bench.form().fraAnalyze.isVisible());
-}
-
-TEST(OpeningAnalyze, OutOfACleanBrainstormSessionShowsAnEmptyListOfFiles) {
-    AnalysisBench bench;
-    bench.openBrainstorm();
-    bench.click("Analyze");
-    const FrmMain& form = bench.form();
-    EXPECT_EQ(bench.messages(), Texts{});
-    EXPECT_FALSE(form.fraBrainstorm.isVisible());
-    EXPECT_TRUE(form.lstFiles.isReachable());
-    EXPECT_EQ(form.lstFiles.items(), Texts{});
-    EXPECT_FALSE(form.picABack.isVisible());
-}
-
-TEST(OpeningAnalyze, InTheMiddleOfTheWizardBeginsAnew) {
-    AnalysisBench bench;
-    bench.next(6);
-    bench.click("Analyze");
-    EXPECT_EQ(bench.stepsShown(), Texts{});
-    EXPECT_EQ(bench.texts("lvAStrength"), Texts{});
-    EXPECT_TRUE(bench.form().cmdUndo.isVisible());
-    EXPECT_TRUE(bench.form().cmdRedo.isVisible());
-}
-
-TEST(OpeningAnalyze, KeepsTheStatementsOfTheOtherModuleOutOfSight) {
-    Bench bench;
-    bench.start();
-    bench.openBrainstorm();
-    bench.enter("txtStrength", {"Own fleet"});
-    bench.answerMessage("no");
-    bench.click("Analyze");
-    EXPECT_EQ(bench.texts("lvBStrength"), Texts{"Own fleet"});
-    EXPECT_FALSE(bench.form().editFlag);
-}
-
-TEST(OpeningAModule, TellsAnErrorAndKeepsWhatWasDone) {
-    Bench bench;
-    bench.start();
-    bench.form().txtName.focusGiven.subscribe([] { throw Failure(ErrorNumber::InvalidCall); });
-    bench.click("Brainstorm");
-    EXPECT_EQ(bench.events("message"),
-              Json::array({refusal("[5] Invalid procedure call or argument")}));
-    EXPECT_TRUE(bench.form().fraBrainstorm.isVisible());
-}
-
-TEST(QuittingAModule, TakesUndoAndRedoOffTheScreen) {
-    Bench bench;
-    bench.start();
-    for (const auto& [open, quit] : {std::pair{"Brainstorm", "BQuit"}, {"Analyze", "AQuit"}}) {
-        bench.click(open);
-        bench.click(quit);
-        EXPECT_FALSE(bench.form().cmdUndo.isVisible()) << quit;
-        EXPECT_FALSE(bench.form().cmdRedo.isVisible()) << quit;
-    }
-}
-
-TEST(UndoAndRedo, TellWhatTheyDo) {
-    Bench bench;
-    EXPECT_EQ(bench.form().cmdUndo.toolTip(), "Click here to undo last change.");
-    EXPECT_EQ(bench.form().cmdRedo.toolTip(), "Click here to redo last change.");
-}
-
-TEST(UndoAndRedo, StayEnabledWithNothingToUndo) {
-    Bench bench;
-    bench.start();
-    bench.click("Brainstorm");
-    EXPECT_TRUE(bench.form().cmdUndo.isReachable());
-    EXPECT_TRUE(bench.form().cmdRedo.isReachable());
-}
-
-TEST(ReportAndAbout, LeaveTheSessionAsItIs) {
-    Bench bench;
-    bench.start();
-    bench.openBrainstorm();
-    bench.enter("txtStrength", {"Own fleet"});
-    const Json before = bench.answerTo({{"do", "state"}});
-    bench.click("Report");
-    bench.click("About");
-    EXPECT_EQ(bench.answerTo({{"do", "state"}})["state"], before["state"]);
+TEST_P(LayoutOn, IsInPlaceBeforeTheOptionsCloseUp) {
+    Bench started, untouched;
+    const FrmMain& design = untouched.form();
+    started.disk.files.erase("app/mpquestions.txt");
+    started.play({{"do", "start"}, {"twipsPerPixel", display.twipsPerPixel}});
+    const FrmMain& window = started.form();
+    const double first = design.optGBS.bounds().top.value * display.left;
+    EXPECT_NEAR(window.optGBS.bounds().top.value, first, 1e-6);
+    EXPECT_NEAR(window.optSBD.bounds().top.value, first + 360, 1e-6);
+    EXPECT_NEAR(window.optPSD.bounds().top.value, first + 720, 1e-6);
 }
 
 }  // namespace

@@ -209,49 +209,5 @@ TEST_F(FullSession, LosesAllTwentyTwoRecordsWhenTheJournalIsCleared) {
     EXPECT_EQ(form.redoRecords, JournalRecords{});
 }
 
-TEST(QuestionNumber, CountsFromOne) {
-    const Texts questions{"first", "last"};
-    EXPECT_EQ(questionAt(questions, 1), "first");
-    EXPECT_EQ(questionAt(questions, 2), "last");
-}
-
-class QuestionNumberBeside : public testing::TestWithParam<int> {};
-INSTANTIATE_TEST_SUITE_P(All, QuestionNumberBeside, testing::Values(-1, 0, 3));
-
-TEST_P(QuestionNumberBeside, IsAnError) {
-    const Texts questions{"first", "last"};
-    EXPECT_EQ(failureOf([&] { questionAt(questions, GetParam()); }), 9);
-}
-
-struct ModuleNames {
-    std::string option, code, word;
-};
-std::ostream& operator<<(std::ostream& out, const ModuleNames& names) {
-    return out << names.option;
-}
-
-class ChosenModule : public testing::TestWithParam<ModuleNames> {};
-INSTANTIATE_TEST_SUITE_P(Of, ChosenModule,
-                         testing::Values(ModuleNames{"optGBS", "gbs", "GBS"},
-                                         ModuleNames{"optHRP", "hrp", "HRP"},
-                                         ModuleNames{"optMP", "mp", "MP"},
-                                         ModuleNames{"optPSD", "psd", "PSD"},
-                                         ModuleNames{"optSBD", "sbd", "SBD"}));
-
-TEST_P(ChosenModule, IsNamedInFilesByCodeAndWord) {
-    Bench bench;
-    chooseModuleByWord(bench.form(), GetParam().word);
-    EXPECT_TRUE(bench.control(GetParam().option).as<Option>()->isOn());
-    EXPECT_EQ(chosenCode(bench.form()), GetParam().code);
-    EXPECT_EQ(chosenModuleWord(bench.form()), GetParam().word);
-}
-
-TEST(NoChosenModule, HasNeitherCodeNorWord) {
-    Bench bench;
-    EXPECT_EQ(chosenModule(bench.form()), nullptr);
-    EXPECT_EQ(chosenCode(bench.form()), "");
-    EXPECT_EQ(chosenModuleWord(bench.form()), "");
-}
-
 }  // namespace
 }  // namespace orvanta::test

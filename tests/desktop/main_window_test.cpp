@@ -1,3 +1,5 @@
+#include "desktop/main_window.h"
+
 #include <gtest/gtest.h>
 
 #include <QAccessible>

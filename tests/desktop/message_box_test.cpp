@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QLabel>
+#include <QPushButton>
 #include <QtTest>
 
 namespace orvanta::test {
@@ -54,6 +56,25 @@ TEST(MessageBox, TellsItsIconToThoseWhoDoNotSeeIt) {
         const auto* picture = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"));
         EXPECT_EQ(picture->accessibleName(), QLatin1String(word));
     }
+}
+
+TEST(MessageBox, StartsAtItsDefaultAndAnswersWhatIsPressed) {
+    MessageBox box(
+        {.text = "a", .buttons = MessageButtons::YesNo, .defaultAnswer = MessageAnswer::No},
+        nullptr);
+    EXPECT_TRUE(box.defaultButton() == box.buttonFor(MessageAnswer::No));
+    box.show();
+    box.buttonFor(MessageAnswer::Yes)->click();
+    EXPECT_EQ(box.answer(), MessageAnswer::Yes);
+}
+
+TEST(MessageBox, ShowsItsTextAsItStandsUnderItsTitleOrTheProductsName) {
+    const MessageBox plain({.text = "<b>5 \x80</b>"}, nullptr);
+    EXPECT_EQ(plain.text(), QString::fromUtf8("<b>5 €</b>"));
+    EXPECT_EQ(plain.textFormat(), Qt::PlainText);
+    EXPECT_EQ(plain.windowTitle(), QCoreApplication::applicationName());
+    EXPECT_EQ(MessageBox({.text = "a", .title = "Merge"}, nullptr).windowTitle(),
+              QStringLiteral("Merge"));
 }
 
 }  // namespace orvanta::test

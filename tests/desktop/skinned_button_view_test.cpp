@@ -1,3 +1,5 @@
+#include "desktop/skinned_button_view.h"
+
 #include <gtest/gtest.h>
 
 #include <QtTest>

@@ -1,10 +1,69 @@
+#include "journal/journal.h"
+
 #include <gtest/gtest.h>
 
 #include "analysis_bench.h"
-#include "journal/journal_records.h"
+#include "failure_of.h"
 
 namespace orvanta::test {
 namespace {
+
+/// A program with a record on its redo stack, and the one record that a change leaves.
+class RecordedChange : public testing::Test {
+protected:
+    RecordedChange() { program.frmMain.redoRecords[1] = "undone before"; }
+    void expectRecord(const std::string& text) {
+        EXPECT_EQ(bench.undoRecords(), Texts{text});
+        EXPECT_EQ(bench.redoRecords(), Texts{}) << "nothing can be redone behind a new change";
+    }
+    Bench bench;
+    Program& program = bench.program();
+};
+
+TEST_F(RecordedChange, OfAnAddedRowTellsToDeleteIt) {
+    recordAdded(program, Session::Brainstorm, StatementKind::Strength, {3, "S7", " Own fleet "});
+    expectRecord("DEL_B_S<<!~!>>3<<!~!>>S7<<!~!>> Own fleet <<!~!>>");
+}
+
+TEST_F(RecordedChange, OfARemovedRowTellsToAddItWithoutBlanksAtItsEnds) {
+    recordRemoved(program, Session::Analyze, StatementKind::Weakness, {2, "W5", " Slow  work "});
+    expectRecord("ADD_A_W<<!~!>>2<<!~!>>W5<<!~!>>Slow  work<<!~!>>");
+}
+
+TEST_F(RecordedChange, OfARemovedParentTellsWhereItStoodInTheMappingList) {
+    recordRemoved(program, Session::Analyze, StatementKind::Opportunity, {1, "O4", "Market"}, 6);
+    expectRecord("ADD_A_O<<!~!>>1<<!~!>>O4<<!~!>>Market<<!~!>>O4|6,");
+}
+
+TEST_F(RecordedChange, OfAnEditedAnswerHoldsTheFormerTextAsItStoodAndNoKey) {
+    recordEdited(program, Session::Brainstorm, StatementKind::Threat, {4, "T2", " Rival "});
+    expectRecord("EDIT_B_T<<!~!>>4<<!~!>><<!~!>> Rival <<!~!>>");
+}
+
+TEST_F(RecordedChange, OfAnEditedAnalyzeRowHoldsItsKeyToo) {
+    recordEdited(program, Session::Analyze, StatementKind::Opportunity, {4, "O2", " Market "});
+    expectRecord("EDIT_A_O<<!~!>>4<<!~!>>O2<<!~!>> Market <<!~!>>");
+}
+
+TEST_F(RecordedChange, OfAnUnmappedRowTellsItsKindAndPlaceInTheMappingList) {
+    recordUnmapped(program, orvanta::MappingSide::Opportunities, {9, "O1-S3", " Own fleet "});
+    expectRecord("ADD_OM<<!~!>>9<<!~!>>O1-S3<<!~!>>Own fleet<<!~!>>S");
+}
+
+TEST_F(RecordedChange, OfAnUnmappedWeaknessTellsItsLetter) {
+    recordUnmapped(program, orvanta::MappingSide::Threats, {1, "T1-W2", "Slow"});
+    expectRecord("ADD_TM<<!~!>>1<<!~!>>T1-W2<<!~!>>Slow<<!~!>>W");
+}
+
+TEST_F(RecordedChange, OfAParentTakenOutOfItsMappingListTellsNoLetter) {
+    recordUnmapped(program, orvanta::MappingSide::Threats, {1, "T1", "Rival"});
+    expectRecord("ADD_TM<<!~!>>1<<!~!>>T1<<!~!>>Rival<<!~!>>");
+}
+
+TEST(RecordedPosition, GoesUpToTheLargestOfARecordAndFailsBeyond) {
+    EXPECT_EQ(recordedPosition(32767), 32767);
+    EXPECT_EQ(failureOf([] { recordedPosition(32768); }), 6);
+}
 
 /// A Brainstorm session on its strengths.
 class Journal : public testing::Test {
@@ -19,75 +78,9 @@ protected:
     void press(const std::string& control, int times) {
         for (int i = 0; i < times; ++i) bench.clickControl(control);
     }
-    void push(bool toUndo, const std::string& text, bool clearRedo = false) {
-        pushJournalRecord(bench.program(), toUndo, "TAG", 1, "K", text, clearRedo, "");
-    }
-    const JournalRecords& undoStack() { return bench.form().undoRecords; }
     const JournalRecords& redoStack() { return bench.form().redoRecords; }
     Bench bench;
 };
-
-TEST_F(Journal, JoinsFiveFieldsWithAllDelimitersWritten) {
-    pushJournalRecord(bench.program(), true, "ADD_B_S", 2, "S7", "Own fleet", false, "");
-    EXPECT_EQ(undoStack()[0], "ADD_B_S<<!~!>>2<<!~!>>S7<<!~!>>Own fleet<<!~!>>");
-    pushJournalRecord(bench.program(), true, "EDIT_B_S", 1, "", "", false, "O4|3,");
-    EXPECT_EQ(undoStack()[1], "EDIT_B_S<<!~!>>1<<!~!>><<!~!>><<!~!>>O4|3,");
-}
-
-TEST_F(Journal, FillsTheUndoStackFromItsFirstEntry) {
-    push(true, "one");
-    push(true, "two");
-    EXPECT_EQ(undoStack()[0], record("TAG", 1, "K", "one"));
-    EXPECT_EQ(undoStack()[1], record("TAG", 1, "K", "two"));
-}
-
-TEST_F(Journal, FillsTheRedoStackFromItsSecondEntry) {
-    push(false, "one");
-    EXPECT_EQ(redoStack()[0], "");
-    EXPECT_EQ(redoStack()[1], record("TAG", 1, "K", "one"));
-}
-
-TEST_F(Journal, UsesTheFirstRedoEntryOnlyThroughTheShiftOfAFullStack) {
-    for (int i = 1; i <= 10; ++i) push(false, std::to_string(i));
-    EXPECT_EQ(redoStack()[0], "");
-    push(false, "11");
-    EXPECT_EQ(redoStack()[0], record("TAG", 1, "K", "1"));
-    EXPECT_EQ(redoStack()[10], record("TAG", 1, "K", "11"));
-}
-
-TEST_F(Journal, DropsTheOldestRecordOfEitherFullStackWithoutAWord) {
-    for (int i = 1; i <= 12; ++i) {
-        push(true, std::to_string(i));
-        push(false, std::to_string(i));
-    }
-    for (const JournalRecords* stack : {&undoStack(), &redoStack()}) {
-        EXPECT_EQ(stack->front(), record("TAG", 1, "K", "2"));
-        EXPECT_EQ(stack->back(), record("TAG", 1, "K", "12"));
-    }
-    EXPECT_EQ(bench.messages(), Texts{});
-}
-
-TEST_F(Journal, FillsTheFirstHoleOfAStack) {
-    bench.form().undoRecords[1] = "later";
-    push(true, "one");
-    EXPECT_EQ(undoStack()[0], record("TAG", 1, "K", "one"));
-    push(true, "two");
-    EXPECT_EQ(undoStack()[2], record("TAG", 1, "K", "two"));
-}
-
-TEST_F(Journal, EmptiesTheRedoStackOnlyWhenTold) {
-    push(false, "one");
-    push(true, "two", false);
-    EXPECT_EQ(bench.redoRecords().size(), 1u);
-    push(true, "three", true);
-    EXPECT_EQ(bench.redoRecords(), Texts{});
-}
-
-TEST_F(Journal, DoesNotHeedTheWishToEmptyTheRedoStackWhenARecordGoesThere) {
-    push(false, "one", true);
-    push(false, "two", true);
-    EXPECT_EQ(bench.redoRecords().size(), 2u);
-}
 
 TEST_F(Journal, ForgetsTheFirstOfTwelveChanges) {
     addStrengths(12);

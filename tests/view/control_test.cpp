@@ -306,11 +306,5 @@ TEST(ControlDeathTest, RaisesNoPanelOfAnotherStack) {
     EXPECT_DEATH(form.steps.raise(form.module), "place");
 }
 
-TEST(MainForm, HoldsEveryControlUnderANameOfItsOwn) {
-    Bench bench;
-    for (const Control* control : bench.form().controls.all())
-        EXPECT_EQ(&bench.control(control->name()), control) << control->name();
-}
-
 }  // namespace
 }  // namespace orvanta::test

@@ -1,15 +1,20 @@
+#include "desktop/question_printer.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QComboBox>
+#include <QFile>
 #include <QLocale>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <functional>
 
-#include "desktop/question_printer.h"
+#include "printed_sheets.h"
 
 namespace orvanta::test {
 
@@ -48,6 +53,29 @@ protected:
     }
 };
 
+class QuestionSheetPdf : public testing::Test {
+protected:
+    QuestionSheetPdf() {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(m_path);
+        printer.setPageSize(QPageSize(QPageSize::A4));
+    }
+
+    QString printed(const QuestionSheets& sheets) {
+        printQuestionSheets(printer, sheets);
+        QProcess reader;
+        reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), m_path, "-"});
+        EXPECT_TRUE(reader.waitForFinished()) << "pdftotext is needed";
+        return QString::fromUtf8(reader.readAllStandardOutput());
+    }
+
+    QPrinter printer{QPrinter::HighResolution};
+
+private:
+    QTemporaryDir m_folder;
+    QString m_path = m_folder.filePath(QStringLiteral("sheets.pdf"));
+};
+
 }  // namespace
 
 TEST_F(PrintPreview, ShowsTheSheetsUnderTheNameOfTheModule) {
@@ -78,6 +106,32 @@ TEST_F(PrintPreview, TakesTheOtherPaperFromItsChoice) {
         EXPECT_EQ(sizeOf(preview), QPageSize::Letter);
         EXPECT_EQ(preview.findChild<QPrintPreviewWidget*>()->pageCount(), 4);
     });
+}
+
+TEST_F(QuestionSheetPdf, HoldsTheModuleTheKindsTheQuestionsAndThePageNumbers) {
+    const QString text = printed(sheetsWith(8));
+    const auto pages = text.count('\f');
+    EXPECT_GE(pages, 4);
+    for (const char* expected : {"Marketing", "Strengths", "Threats", "Name", "Date",
+                                 "S1: What do we do well?", "T8: What do we do well?"})
+        EXPECT_TRUE(text.contains(QLatin1String(expected))) << expected;
+    EXPECT_TRUE(text.contains(QStringLiteral("page %1 of %1").arg(pages)));
+}
+
+TEST_F(QuestionSheetPdf, HoldsThePagesThatWereAskedFor) {
+    printer.setPrintRange(QPrinter::PageRange);
+    printer.setFromTo(2, 3);
+    const QString text = printed(sheetsWith(1));
+    EXPECT_EQ(text.count('\f'), 2);
+    EXPECT_TRUE(text.contains(QStringLiteral("page 2 of 4"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("page 3 of 4"))) << text.toStdString();
+}
+
+TEST_F(QuestionSheetPdf, IsNotWrittenForPagesThatThereAreNot) {
+    printer.setPrintRange(QPrinter::PageRange);
+    printer.setFromTo(5, 9);
+    printQuestionSheets(printer, sheetsWith(1));
+    EXPECT_FALSE(QFile::exists(printer.outputFileName()));
 }
 
 }  // namespace orvanta::test

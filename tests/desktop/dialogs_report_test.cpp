@@ -105,14 +105,4 @@ TEST_F(ReportDialogView, ClosesBehindADocumentAndOpensIt) {
               Json::array({{{"event", "open"}, {"target", "docs/team.rtf"}}}));
 }
 
-TEST(DesktopPlatform, MakesDocumentsWithTheProgramsOwnWordProcessor) {
-    MemoryDisk disk;
-    disk.folders = {"docs"};
-    DesktopPlatform desktop(disk);
-    const WordRef application(desktop.platform().wordProcessors.createApplication());
-    const WordRef document = application.get("Documents").get("Add");
-    document.call("SaveAs", {std::string("docs/team.rtf")});
-    EXPECT_TRUE(disk.files["docs/team.rtf"].starts_with("{\\rtf1"));
-}
-
 }  // namespace orvanta::test

@@ -1,8 +1,8 @@
+#include "core/files.h"
+
 #include <gtest/gtest.h>
 
-#include "analysis_bench.h"
-#include "core/files.h"
-#include "core/remembered_paths.h"
+#include "bench.h"
 
 namespace orvanta::test {
 namespace {
@@ -23,15 +23,6 @@ TEST(Path, ToAFileIsNoFolder) {
     Bench bench;
     EXPECT_TRUE(fileExists(bench.program(), "app/gbsquestions.txt"));
     EXPECT_FALSE(folderExists(bench.program(), "app/gbsquestions.txt"));
-}
-
-TEST(RememberedPath, IsStoredForLaterRunsAndHeldInThisOne) {
-    Bench bench;
-    bench.start();
-    rememberPath(bench.program(), documentPath, "docs/report.rtf");
-    bench.play({{"do", "activate"}});
-    EXPECT_EQ(bench.events(), Json::array({setting("LastSavedPathRTF", "docs/report.rtf")}));
-    EXPECT_EQ(bench.form().lastPathRTF, "docs/report.rtf");
 }
 
 TEST(TemporaryFile, IsDeletedIfItIsThere) {

@@ -1,15 +1,12 @@
+#include "desktop/question_sheet_pages.h"
+
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QImage>
 #include <QPainter>
-#include <QPrinter>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <set>
 
-#include "desktop/question_printer.h"
-#include "desktop/question_sheet_pages.h"
+#include "printed_sheets.h"
 
 namespace orvanta::test {
 
@@ -18,15 +15,6 @@ namespace {
 using namespace orvanta::desktop;
 
 constexpr QSizeF a4{1654, 2339}, letter{1700, 2200};  // at 200 dots an inch
-
-QuestionSheets sheetsWith(int questions, const std::string& text = "What do we do well?") {
-    QuestionSheets sheets{"mp", "Marketing", {}};
-    for (const StatementKind kind : statementKinds)
-        for (int i = 1; i <= questions; ++i)
-            sheets.questions[kind].push_back(std::string(1, letterOf(kind)) + std::to_string(i) +
-                                             ": " + text);
-    return sheets;
-}
 
 QImage paper(const QSizeF& size = a4) {
     constexpr int dotsPerMetre = 7874;
@@ -145,55 +133,6 @@ TEST(QuestionSheetPages, PaintInsideThePaperAndLeaveNoPageBlank) {
                 if (image.pixel(x, y) != 0xffffffff) ++inked;
         EXPECT_GT(inked, 20'000) << "page " << i;
     }
-}
-
-class QuestionSheetPdf : public testing::Test {
-protected:
-    QuestionSheetPdf() {
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(m_path);
-        printer.setPageSize(QPageSize(QPageSize::A4));
-    }
-
-    QString printed(const QuestionSheets& sheets) {
-        printQuestionSheets(printer, sheets);
-        QProcess reader;
-        reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), m_path, "-"});
-        EXPECT_TRUE(reader.waitForFinished()) << "pdftotext is needed";
-        return QString::fromUtf8(reader.readAllStandardOutput());
-    }
-
-    QPrinter printer{QPrinter::HighResolution};
-
-private:
-    QTemporaryDir m_folder;
-    QString m_path = m_folder.filePath(QStringLiteral("sheets.pdf"));
-};
-
-TEST_F(QuestionSheetPdf, HoldsTheModuleTheKindsTheQuestionsAndThePageNumbers) {
-    const QString text = printed(sheetsWith(8));
-    const auto pages = text.count('\f');
-    EXPECT_GE(pages, 4);
-    for (const char* expected : {"Marketing", "Strengths", "Threats", "Name", "Date",
-                                 "S1: What do we do well?", "T8: What do we do well?"})
-        EXPECT_TRUE(text.contains(QLatin1String(expected))) << expected;
-    EXPECT_TRUE(text.contains(QStringLiteral("page %1 of %1").arg(pages)));
-}
-
-TEST_F(QuestionSheetPdf, HoldsThePagesThatWereAskedFor) {
-    printer.setPrintRange(QPrinter::PageRange);
-    printer.setFromTo(2, 3);
-    const QString text = printed(sheetsWith(1));
-    EXPECT_EQ(text.count('\f'), 2);
-    EXPECT_TRUE(text.contains(QStringLiteral("page 2 of 4"))) << text.toStdString();
-    EXPECT_TRUE(text.contains(QStringLiteral("page 3 of 4"))) << text.toStdString();
-}
-
-TEST_F(QuestionSheetPdf, IsNotWrittenForPagesThatThereAreNot) {
-    printer.setPrintRange(QPrinter::PageRange);
-    printer.setFromTo(5, 9);
-    printQuestionSheets(printer, sheetsWith(1));
-    EXPECT_FALSE(QFile::exists(printer.outputFileName()));
 }
 
 }  // namespace orvanta::test

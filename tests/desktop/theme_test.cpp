@@ -1,3 +1,5 @@
+#include "desktop/theme.h"
+
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
@@ -10,7 +12,6 @@
 #include "desktop/dialogs.h"
 #include "desktop/message_box.h"
 #include "desktop/statement_list_view.h"
-#include "desktop/theme.h"
 #include "painted_contrast.h"
 #include "window_bench.h"
 

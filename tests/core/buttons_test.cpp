@@ -1,9 +1,10 @@
+#include "core/buttons.h"
+
 #include <gtest/gtest.h>
 
 #include <set>
 
 #include "analysis_bench.h"
-#include "app/button_actions.h"
 
 namespace orvanta::test {
 namespace {
@@ -73,7 +74,6 @@ protected:
     ButtonFace() { bench.start(); }
     SkinnedButton& button() { return bench.form().buttons[bench.button(GetParam().name)]; }
     Art normal() const { return GetParam().large ? Art::LargeNormal : Art::SmallNormal; }
-    Art down() const { return GetParam().large ? Art::LargeDown : Art::SmallDown; }
     Bench bench;
 };
 INSTANTIATE_TEST_SUITE_P(Of, ButtonFace, testing::ValuesIn(faces), NameOfParameter());
@@ -86,15 +86,6 @@ TEST_P(ButtonFace, HasOneToolTipOnPictureAndCaption) {
 }
 
 TEST_P(ButtonFace, ShowsTheArtOfItsSize) { EXPECT_EQ(button().image.art(), normal()); }
-
-TEST_P(ButtonFace, StaysDownUntilItIsLetGo) {
-    const Button pressed = bench.button(GetParam().name);
-    pressButton(bench.program(), pressed);
-    pressButton(bench.program(), pressed);
-    EXPECT_EQ(button().image.art(), down());
-    releaseButton(bench.program(), pressed);
-    EXPECT_EQ(button().image.art(), normal());
-}
 
 TEST_P(ButtonFace, WritesItsCaptionInBoldAtNineAndThreeQuarterPoints) {
     EXPECT_TRUE(button().label.isBold());
@@ -111,51 +102,6 @@ TEST(SkinnedButtons, AreFortyOneOnTheMainWindow) {
     std::set<std::string> expected;
     for (const Face& face : faces) expected.insert(face.name);
     EXPECT_EQ(names, expected);
-}
-
-TEST(SkinnedButtons, CopyTheirArtFromTheFourHiddenPictures) {
-    Bench bench;
-    bench.start();
-    bench.form().imgBtnSDown.setArt(Art::LargeDown);
-    bench.form().imgBtnLNormal.setArt(Art::SmallNormal);
-    pressButton(bench.program(), Button::BNext);
-    releaseButton(bench.program(), Button::About);
-    EXPECT_EQ(bench.form().buttons[Button::BNext].image.art(), Art::LargeDown);
-    EXPECT_EQ(bench.form().buttons[Button::About].image.art(), Art::SmallNormal);
-}
-
-TEST(SkinnedButtons, LookReleasedWhileTheirActionRuns) {
-    Bench bench;
-    bench.start();
-    bench.openBrainstorm();
-    bench.play({{"do", "press"}, {"button", "BSAdd"}});
-    EXPECT_EQ(bench.events(),
-              Json::array({{{"event", "art"}, {"button", "BSAdd"}, {"pressed", true}}}));
-    bench.play({{"do", "release"}, {"button", "BSAdd"}});
-    EXPECT_EQ(bench.events(),
-              Json::array({{{"event", "art"}, {"button", "BSAdd"}, {"pressed", false}},
-                           refusal("Please enter strength."),
-                           focusOn("txtStrength")}));
-}
-
-TEST(SkinnedButtons, ActOnReleaseAndNotOnPress) {
-    Bench bench;
-    bench.start();
-    bench.play({{"do", "press"}, {"button", "Brainstorm"}});
-    EXPECT_FALSE(bench.form().fraBrainstorm.isVisible());
-    bench.play({{"do", "release"}, {"button", "Brainstorm"}});
-    EXPECT_TRUE(bench.form().fraBrainstorm.isVisible());
-}
-
-TEST(SkinnedButtons, ActOncePerReleaseOfOneThatWasHeldTwice) {
-    Bench bench;
-    bench.start();
-    bench.openBrainstorm();
-    bench.set("txtStrength", "Brand");
-    bench.play({{"do", "press"}, {"button", "BSAdd"}});
-    bench.play({{"do", "press"}, {"button", "BSAdd"}});
-    bench.play({{"do", "release"}, {"button", "BSAdd"}});
-    EXPECT_EQ(bench.texts("lvBStrength"), Texts{"Brand"});
 }
 
 }  // namespace

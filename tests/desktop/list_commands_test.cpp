@@ -1,3 +1,5 @@
+#include "desktop/list_commands.h"
+
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>

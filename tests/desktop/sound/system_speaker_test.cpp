@@ -1,5 +1,3 @@
-#include "sound_server.h"
-
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
@@ -13,6 +11,7 @@
 
 #include "desktop/sound/sound_player.h"
 #include "movie_writer.h"
+#include "sound_server.h"
 #include "view/windows1252.h"
 
 // The player and a real sound server. What comes out of it is recorded and looked at.

@@ -1,3 +1,5 @@
+#include "core/frm_main.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -103,6 +105,28 @@ TEST(ScreenTexts, TellWhatTheLinkToTheTeamIsFor) {
     Bench bench;
     EXPECT_EQ(bench.form().lblDistribute.toolTip(),
               "Use this link to email the Brainstorm module to your team.");
+}
+
+TEST(MainForm, HoldsEveryControlUnderANameOfItsOwn) {
+    Bench bench;
+    for (const Control* control : bench.form().controls.all())
+        EXPECT_EQ(&bench.control(control->name()), control) << control->name();
+}
+
+TEST(OfferedModules, BearTheirNames) {
+    Bench bench;
+    const FrmMain& form = bench.form();
+    EXPECT_EQ(form.optGBS.caption(), "General Business Strategy");
+    EXPECT_EQ(form.optMP.caption(), "Marketing Planning");
+    EXPECT_EQ(form.optSBD.caption(), "Sales && Business Development");
+    EXPECT_EQ(form.optPSD.caption(), "Product / Service Development");
+    EXPECT_EQ(form.optHRP.caption(), "Human Resources Planning");
+}
+
+TEST(UndoAndRedo, TellWhatTheyDo) {
+    Bench bench;
+    EXPECT_EQ(bench.form().cmdUndo.toolTip(), "Click here to undo last change.");
+    EXPECT_EQ(bench.form().cmdRedo.toolTip(), "Click here to redo last change.");
 }
 
 }  // namespace

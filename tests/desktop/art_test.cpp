@@ -1,0 +1,30 @@
+#include "desktop/art.h"
+
+#include <gtest/gtest.h>
+
+namespace orvanta::test {
+
+namespace {
+
+using namespace orvanta::desktop;
+
+TEST(Pictures, AreThereForEachArtOfAButton) {
+    EXPECT_TRUE(artName(Art::None).isEmpty());
+    for (const Art art : {Art::SmallNormal, Art::SmallDown, Art::LargeNormal, Art::LargeDown})
+        EXPECT_FALSE(picture(artName(art), {88, 32}, 1).isNull()) << static_cast<int>(art);
+}
+
+TEST(Pictures, OfRowsAreFourAndNoneBesideThem) {
+    for (int image = 1; image <= 4; ++image) EXPECT_FALSE(rowIcon(image).isNull()) << image;
+    for (const int image : {-1, 0, 5}) EXPECT_TRUE(rowIcon(image).isNull()) << image;
+}
+
+TEST(Pictures, AreDrawnInThePixelsOfTheirScreen) {
+    const QPixmap sharp = picture(QStringLiteral("logo"), {40, 20}, 2);
+    EXPECT_EQ(sharp.size(), QSize(80, 40));
+    EXPECT_EQ(sharp.devicePixelRatio(), 2);
+}
+
+}  // namespace
+
+}  // namespace orvanta::test

@@ -1,0 +1,60 @@
+#include "desktop/conversions.h"
+
+#include <gtest/gtest.h>
+
+namespace orvanta::test {
+
+namespace {
+
+using namespace orvanta::desktop;
+
+class ScreenOf : public orvanta::Screen {
+public:
+    explicit ScreenOf(double twipsPerPixel) : m_twipsPerPixel(twipsPerPixel) {}
+    double twipsPerPixel() const override { return m_twipsPerPixel; }
+
+private:
+    double m_twipsPerPixel;
+};
+
+TEST(TextOfTheCodePage, ComesBackFromQtAsItWas) {
+    EXPECT_EQ(fromCp1252("\x80 caf\xE9"), QString::fromUtf8("€ café"));
+    EXPECT_EQ(toCp1252(QString::fromUtf8("€ café")), "\x80 caf\xE9");
+    EXPECT_TRUE(fitsCp1252(QString::fromUtf8("€ café")));
+}
+
+TEST(TextOfQt, ThatTheCodePageLacksBecomesQuestionMarks) {
+    EXPECT_EQ(toCp1252(QString::fromUtf8("a日b")), "a?b");
+    EXPECT_FALSE(fitsCp1252(QString::fromUtf8("a日b")));
+    EXPECT_TRUE(fitsCp1252(QStringLiteral("a?b")));
+}
+
+TEST(ShownCaption, HasSingleAmpersandsAndNoBlanksAtItsEnds) {
+    EXPECT_EQ(shownCaption(" Sales && Business Development "),
+              QStringLiteral("Sales & Business Development"));
+}
+
+TEST(ShownToolTip, IsNeverTakenForMarkup) {
+    EXPECT_TRUE(
+        shownToolTip("<b>a</b> & c").contains(QStringLiteral("&lt;b&gt;a&lt;/b&gt; &amp; c")));
+    EXPECT_TRUE(shownToolTip("").isEmpty());
+}
+
+TEST(PixelGrid, CountsInTheTwipsOfItsScreenAndRoundsToWholePixels) {
+    const ScreenOf ordinary(15), large(12);
+    EXPECT_EQ(PixelGrid(ordinary).exact({1500}), 100);
+    EXPECT_EQ(PixelGrid(ordinary).pixels({22}), 1);
+    EXPECT_EQ(PixelGrid(ordinary).pixels({23}), 2);
+    EXPECT_EQ(PixelGrid(large).pixels({1500}), 125);
+}
+
+TEST(PixelGrid, GivesAFontOfTheSamePixelsThatTwipsWouldHave) {
+    const ScreenOf ordinary(15), large(12);
+    const double small = PixelGrid(ordinary).font({12}).pointSizeF();
+    EXPECT_NEAR(PixelGrid(large).font({12}).pointSizeF() / small, 15.0 / 12, 0.01);
+    EXPECT_TRUE(PixelGrid(ordinary).font({12}, true).bold());
+}
+
+}  // namespace
+
+}  // namespace orvanta::test
