@@ -10,6 +10,7 @@
 #include "brainstorm/wizard.h"
 #include "core/main_window.h"
 #include "core/startup.h"
+#include "core/web_host.h"
 #include "presentation/about_box.h"
 #include "presentation/question_sheets.h"
 #include "reports/report_dialog.h"
@@ -133,8 +134,6 @@ void releaseButton(Program& program, Button button) {
     design.action(program);
 }
 
-void openOverviewPage(Program& program) {
-    program.platform.shell.open("http://" + std::string(webHost) + "/orvanta-overview/");
-}
+void openOverviewPage(Program& program) { program.platform.shell.open(webAddress(overviewPage)); }
 
 }  // namespace orvanta
