@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QUrl>
@@ -9,6 +11,7 @@
 
 #include "core/failures.h"
 #include "core/messages.h"
+#include "core/web_host.h"
 #include "desktop/conversions.h"
 #include "desktop/file_chooser.h"
 #include "desktop/message_box.h"
@@ -35,6 +38,14 @@ QUrl urlOf(const std::string& target) {
         if (text.startsWith(QLatin1String(scheme)))
             return QUrl(QString(text).replace(u' ', QLatin1String("%20")));
     return QUrl::fromLocalFile(text);
+}
+
+/// The path of the copy that takes the target's place; empty if there is none.
+QString copyBeside(const std::string& target) {
+    const std::optional<std::string> copy = installedCopy(target);
+    if (!copy) return {};
+    const QString path = QDir(QCoreApplication::applicationDirPath()).filePath(fromCp1252(*copy));
+    return QFileInfo(path).isFile() ? path : QString();
 }
 
 }  // namespace
@@ -64,7 +75,10 @@ void DesktopSettings::write(std::string_view section, std::string_view key,
     m_settings.sync();
 }
 
-void DesktopShell::open(const std::string& target) { QDesktopServices::openUrl(urlOf(target)); }
+void DesktopShell::open(const std::string& target) {
+    const QString copy = copyBeside(target);
+    QDesktopServices::openUrl(copy.isEmpty() ? urlOf(target) : QUrl::fromLocalFile(copy));
+}
 
 double DesktopScreen::twipsPerPixel() const {
     constexpr double twipsPerInch = 1440;

@@ -37,6 +37,7 @@ private:
     QSettings m_settings;
 };
 
+/// Opens the installed copy of a page whose address can lead nowhere.
 class DesktopShell : public Shell {
 public:
     void open(const std::string& target) override;

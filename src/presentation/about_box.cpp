@@ -2,15 +2,10 @@
 
 #include "core/design_grid.h"
 #include "core/display_scaling.h"
+#include "core/web_host.h"
 #include "questions/narration.h"
 
 namespace orvanta {
-
-namespace {
-
-std::string supportPage() { return "http://" + std::string(webHost) + "/support/"; }
-
-}  // namespace
 
 FrmAbout::FrmAbout() {
     Image1.setBounds(grid(0, 0, 180, 310));
@@ -23,7 +18,7 @@ FrmAbout::FrmAbout() {
     Label1.setBounds(grid(204, 100, 290, 20));
     Label1.setBold(true);
     lblSupport.setBounds(grid(204, 122, 290, 20));
-    lblSupport.setCaption(supportPage());
+    lblSupport.setCaption(webAddress(supportPage));
     lblDisclaimer.setBounds(grid(204, 156, 292, 90));
     lblDisclaimer.setFontSize({8});
     lblDisclaimer.setCaption(
@@ -55,6 +50,6 @@ void openAboutBox(Program& program) {
     program.platform.modalForms.run(form);
 }
 
-void openSupportPage(Program& program) { program.platform.shell.open(supportPage()); }
+void openSupportPage(Program& program) { program.platform.shell.open(webAddress(supportPage)); }
 
 }  // namespace orvanta

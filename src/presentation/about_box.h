@@ -5,9 +5,6 @@
 
 namespace orvanta {
 
-/// The host of the product's pages.
-inline constexpr std::string_view webHost = "www.orvanta.example";
-
 struct FrmAbout : ModalForm {
     FrmAbout();
 

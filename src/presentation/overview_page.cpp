@@ -1,11 +1,9 @@
 #include "presentation/overview_page.h"
 
-#include "presentation/about_box.h"
+#include "core/web_host.h"
 
 namespace orvanta {
 
-void openOverviewPage(Program& program) {
-    program.platform.shell.open("http://" + std::string(webHost) + "/orvanta-overview/");
-}
+void openOverviewPage(Program& program) { program.platform.shell.open(webAddress(overviewPage)); }
 
 }  // namespace orvanta

@@ -2,7 +2,7 @@
 
 #include "core/messages.h"
 #include "core/modules.h"
-#include "presentation/about_box.h"
+#include "core/web_host.h"
 
 namespace orvanta {
 
@@ -16,7 +16,7 @@ void distributeToTeam(Program& program) {
     // the end keeps what follows it apart.
     program.platform.shell.open(
         "mailto:?subject=Invitation for Brainstorming Session&body=Download link%3A http%3A%2F%2F" +
-        std::string(webHost) + "%2Fdownload.php?type%3D" + code + " ");
+        std::string(webHost()) + "%2Fdownload.php?type%3D" + code + " ");
 }
 
 }  // namespace orvanta

@@ -92,6 +92,7 @@ class Program:
         shutil.copy(binary, folder)
         for file in pathlib.Path(data).glob("*.txt"):
             shutil.copy(file, folder)
+        shutil.copytree(pathlib.Path(binary).parent / "site", folder / "site")
         self.home.chmod(0o700)
         environment = dict(os.environ, HOME=str(self.home), XDG_CONFIG_HOME=str(self.home),
                            XDG_DATA_HOME=str(self.home), XDG_RUNTIME_DIR=str(self.home),
@@ -136,6 +137,13 @@ class Program:
         log = self.home / "opened"
         wait_for(lambda: log.exists() and log.read_text().splitlines()[-1:] == [target],
                  f"the opening of {target}")
+
+    def copy_of(self, page):
+        """The address of the installed copy of a page."""
+        return (self.home / "app" / "site" / page / "index.html").as_uri()
+
+    def lose_copies(self):
+        shutil.rmtree(self.home / "app" / "site")
 
     def wait_for_end(self):
         try:
@@ -324,14 +332,18 @@ def is_checked(node):
 
 def dialogs(program):
     program.press("Overview")
-    program.wait_for_opened("http://www.orvanta.example/orvanta-overview/")
+    # No page can be at this host.
+    program.wait_for_opened(program.copy_of("orvanta-overview"))
     program.press("About")
     program.find("push button", "OK")
     program.check_names("About box")
     program.press("http://www.orvanta.example/support/")
-    program.wait_for_opened("http://www.orvanta.example/support/")
+    program.wait_for_opened(program.copy_of("support"))
     program.press("OK")
     program.waits_for_gone("push button", "OK")
+    program.lose_copies()
+    program.press("Overview")
+    program.wait_for_opened("http://www.orvanta.example/orvanta-overview/")
     program.press("Reports")
     # The name of a combo box is its choice; what it chooses is told by its label.
     formats = wait_for(lambda: next((n for n in shown(program.window())
