@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
 
 #include "analysis_bench.h"
@@ -87,6 +86,23 @@ TEST(ScreenTexts, NameEachListOfTheMappingScreensFromAbove) {
     for (const MappingSide& side : mappingSides()) {
         EXPECT_EQ(headingOf(bench, side.strengths), "Strengths") << side;
         EXPECT_EQ(headingOf(bench, side.weaknesses), "Weaknesses") << side;
+    }
+}
+
+TEST(ScreenLists, EndAtOneLineOnAllScreensAndAreOfOneWidth) {
+    Bench bench;
+    FrmMain& form = bench.form();
+    const auto endOf = [](const Control& list) {
+        return list.bounds().top.value + list.bounds().height.value;
+    };
+    const double end = endOf(form.lstFiles);
+    for (const char* name : {"lvOpportunity", "lvThreat", "lvWeaknessOp", "lvWeaknessTh"})
+        EXPECT_EQ(endOf(bench.list(name)), end) << name;
+    for (const char* name : {"lvBStrength", "lvBWeakness", "lvBOpportunity", "lvBThreat",
+                             "lvAStrength", "lvAWeakness", "lvAOpportunity", "lvAThreat"}) {
+        EXPECT_EQ(endOf(bench.list(name)), end) << name;
+        EXPECT_EQ(bench.list(name).bounds().left, form.lstFiles.bounds().left) << name;
+        EXPECT_EQ(bench.list(name).bounds().width, form.lstFiles.bounds().width) << name;
     }
 }
 
