@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 #include <fstream>
 #include <iterator>
 #include <set>
+#include <sstream>
 
 #include "analysis_bench.h"
 #include "core/text.h"
@@ -33,6 +35,11 @@ Texts linesIn(const std::string& bytes) {
     LineSource source(bytes);
     while (const auto line = source.next()) result.emplace_back(*line);
     return result;
+}
+
+std::ptrdiff_t wordsIn(const std::string& text) {
+    std::istringstream words(text);
+    return std::distance(std::istream_iterator<std::string>(words), {});
 }
 
 struct NameWithoutEnding {
@@ -77,6 +84,15 @@ TEST_P(ShippedFile, HasNoBlanksAroundItsLines) {
     for (const std::string& line : linesIn(bytes)) EXPECT_EQ(trimBlanks(line), line);
 }
 
+TEST_P(ShippedFile, SpellsAsAmericansDo) {
+    std::string text = bytes;
+    std::ranges::transform(text, text.begin(), [](unsigned char c) { return std::tolower(c); });
+    for (const char* british :
+         {"isation", "organis", "criticis", "recognis", "realis", "analyse", "avour", "abour",
+          "colour", "behaviour", "centre", "programme", "licence", "enquir", "travell", "labelled"})
+        EXPECT_EQ(text.find(british), std::string::npos) << british;
+}
+
 /// The program with the files that it is shipped with.
 class ShippedBanks : public testing::Test {
 protected:
@@ -116,6 +132,21 @@ TEST_P(ShippedBank, AsksQuestionsThatFitOnTheirScreen) {
             EXPECT_GE(question.size(), 20u) << question;
             EXPECT_LE(question.size(), 160u) << question;
         }
+}
+
+TEST_P(ShippedBank, AsksNothingThatIsTooLongToBeHeardOnce) {
+    for (const Texts& list : load(GetParam()))
+        for (const std::string& question : list) EXPECT_LE(wordsIn(question), 14) << question;
+}
+
+TEST_P(ShippedBank, BeginsOneQuestionInFiveAtMostWithWhich) {
+    std::ptrdiff_t questions = 0, withWhich = 0;
+    for (const Texts& list : load(GetParam())) {
+        questions += std::ssize(list);
+        withWhich += std::ranges::count_if(
+            list, [](const std::string& question) { return question.starts_with(" Which "); });
+    }
+    EXPECT_LE(5 * withWhich, questions);
 }
 
 TEST_P(ShippedBank, AsksWholeQuestionsOfOneLine) {
@@ -167,12 +198,19 @@ TEST_F(ShippedBanks, ComeWithSixHeadingsThatDifferAndFitOnTheirScreens) {
     for (const Label* label : {&form.lblAStrength, &form.lblAWeakness, &form.lblAOpportunity,
                                &form.lblAThreats, &form.lblAOMapping, &form.lblATMapping}) {
         EXPECT_GE(label->caption().size(), 40u) << label->name();
-        EXPECT_LE(label->caption().size(), 220u) << label->name();
+        EXPECT_LE(wordsIn(label->caption()), 25) << label->name();
         EXPECT_TRUE(label->caption().ends_with('.')) << label->name();
         headings.insert(label->caption());
     }
     EXPECT_EQ(headings.size(), 6u);
     EXPECT_EQ(bench.messages(), Texts{});
+}
+
+// A drop lands below a row, and the mapping lists keep the order in which their rows came.
+TEST_F(ShippedBanks, ComeWithHeadingsThatTellHowToRankAndHowFarThatReaches) {
+    const FrmMain& form = bench.form();
+    EXPECT_NE(form.lblAOpportunity.caption().find("drag the top row down"), std::string::npos);
+    EXPECT_NE(form.lblAThreats.caption().find("mapping steps"), std::string::npos);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <QThread>
 #include <atomic>
 #include <chrono>
+#include <optional>
 #include <utility>
 
 #include "view/windows1252.h"
@@ -39,20 +40,29 @@ public:
 
     /// Called from any thread.
     void order(const std::string& path) {
-        QCoreApplication::postEvent(this, new Order(path, ++m_newest));
+        QCoreApplication::postEvent(this, new OrderEvent({path, ++m_newest}));
     }
     void forgetOrders() { ++m_newest; }
 
 protected:
-    void customEvent(QEvent* event) override { carryOut(*static_cast<Order*>(event)); }
+    // The system's sound may handle the events of this thread amid a call: an order that comes
+    // then waits for the end of the one that is being carried out.
+    void customEvent(QEvent* event) override {
+        m_waiting = static_cast<OrderEvent*>(event)->order;
+        if (std::exchange(m_busy, true)) return;
+        while (m_waiting) carryOut(*std::exchange(m_waiting, std::nullopt));
+        m_busy = false;
+    }
 
 private:
-    struct Order : QEvent {
-        Order(std::string movie, unsigned orderNumber)
-            : QEvent(QEvent::User), path(std::move(movie)), number(orderNumber) {}
-
+    struct Order {
         std::string path;
         unsigned number;
+    };
+    struct OrderEvent : QEvent {
+        explicit OrderEvent(Order of) : QEvent(QEvent::User), order(std::move(of)) {}
+
+        Order order;
     };
 
     void carryOut(const Order& order) {
@@ -65,8 +75,10 @@ private:
     }
 
     SpeakerMaker m_makeSpeaker;
-    std::unique_ptr<Speaker> m_speaker;
     std::atomic<unsigned> m_newest = 0;
+    std::optional<Order> m_waiting;
+    bool m_busy = false;
+    std::unique_ptr<Speaker> m_speaker;  // its end, too, may handle events: it goes first
 };
 
 SoundPlayer::SoundPlayer(SpeakerMaker makeSpeaker)

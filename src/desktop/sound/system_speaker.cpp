@@ -66,12 +66,13 @@ public:
 
     void stop() override {
         m_rest.stop();
-        if (m_sink) {
-            m_sink->disconnect(&m_rest);
-            m_sink->reset();  // silent at once; without this the system plays what it holds
-            m_sink->stop();
-            m_sink.reset();
-        }
+        // The end of a sink handles the events of its thread, and one of these may start the next
+        // clip. So it comes last and finds nothing of the old clip in place.
+        const std::unique_ptr<QAudioSink> sink = std::move(m_sink);
+        if (!sink) return;
+        sink->disconnect(&m_rest);
+        sink->reset();  // silent at once; without this the system plays what it holds
+        sink->stop();
         m_buffer.close();
     }
 

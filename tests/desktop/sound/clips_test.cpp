@@ -6,7 +6,10 @@
 #include <fstream>
 #include <iterator>
 #include <set>
+#include <span>
+#include <sstream>
 #include <string>
+#include <vector>
 
 #include "desktop/sound/decoder.h"
 #include "questions/clip_texts.h"
@@ -25,9 +28,11 @@ Bytes bytesOf(const fs::path& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
+std::vector<ClipText> texts() { return clipTexts(FileDisk(), ORVANTA_DATA); }
+
 std::set<std::string> wantedClips() {
     std::set<std::string> names;
-    for (const ClipText& clip : clipTexts(FileDisk(), ORVANTA_DATA)) names.insert(clip.clip);
+    for (const ClipText& clip : texts()) names.insert(clip.clip);
     return names;
 }
 
@@ -35,8 +40,37 @@ Samples samplesOfClip(const std::string& name) {
     return samplesOfMovie(bytesOf(fs::path(ORVANTA_SOUNDS) / (name + ".swf")));
 }
 
-double secondsOf(const Samples& samples) {
-    return static_cast<double>(samples.size()) / playedChannels / playedRate;
+double secondsOf(std::size_t samples) {
+    return static_cast<double>(samples) / playedChannels / playedRate;
+}
+
+bool isLoud(std::int16_t sample) { return std::abs(sample) > 200; }
+
+/// From the first sound to the last.
+std::span<const std::int16_t> speechIn(const Samples& samples) {
+    const auto first = std::ranges::find_if(samples, isLoud);
+    const auto last = std::find_if(samples.rbegin(), samples.rend(), isLoud).base();
+    return {first, std::max(first, last)};
+}
+
+double wordsAMinute(const ClipText& clip) {
+    std::istringstream text(clip.text);
+    const auto words = std::distance(std::istream_iterator<std::string>(text), {});
+    constexpr double secondsOfAMinute = 60;
+    return static_cast<double>(words) * secondsOfAMinute /
+           secondsOf(speechIn(samplesOfClip(clip.clip)).size());
+}
+
+/// Silences in which a speaker breathes.
+std::ptrdiff_t breathsIn(std::span<const std::int16_t> speech) {
+    constexpr double breath = 0.4;  // seconds
+    std::ptrdiff_t breaths = 0;
+    for (auto from = speech.begin(); from != speech.end();) {
+        const auto to = std::find_if(from + 1, speech.end(), isLoud);
+        if (secondsOf(static_cast<std::size_t>(to - from)) > breath) ++breaths;
+        from = to;
+    }
+    return breaths;
 }
 
 /// The waves are of one channel, 16 bits and 22,050 samples a second, behind a head of 44 bytes.
@@ -56,20 +90,29 @@ TEST(MadeClips, AreThereForEachTextAndForNothingElse) {
 
 TEST(MadeClips, AreAsLongAsWhatWasSpoken) {
     for (const std::string& name : wantedClips())
-        EXPECT_NEAR(secondsOf(samplesOfClip(name)), secondsOfWave(name), 0.15) << name;
+        EXPECT_NEAR(secondsOf(samplesOfClip(name).size()), secondsOfWave(name), 0.15) << name;
 }
 
-TEST(MadeClips, AreLoudAndNotOverdriven) {
-    for (const std::string& name : wantedClips()) {
-        const Samples samples = samplesOfClip(name);
-        const auto louder = [](std::int16_t a, std::int16_t b) {
-            return std::abs(a) < std::abs(b);
-        };
-        const auto peak = std::max_element(samples.begin(), samples.end(), louder);
-        ASSERT_NE(peak, samples.end()) << name;
-        EXPECT_GT(std::abs(*peak), 15000) << name;
-        EXPECT_LT(std::abs(*peak), 32767) << name;
+TEST(MadeClips, AreSpokenAtThePaceOfAnEasyTalk) {
+    std::vector<double> paces;
+    for (const ClipText& clip : texts()) paces.push_back(wordsAMinute(clip));
+    ASSERT_FALSE(paces.empty());
+    std::ranges::sort(paces);
+    EXPECT_GE(paces[paces.size() / 2], 150);
+    EXPECT_LE(paces[paces.size() / 2], 160);
+    // What has many short words.
+    EXPECT_LE(paces.back(), 220);
+}
+
+TEST(MadeClips, TakeABreathBetweenSentences) {
+    int sentenceEnds = 0;
+    for (const ClipText& clip : texts()) {
+        const auto ends = std::ranges::count(clip.text.substr(0, clip.text.size() - 1), '.');
+        if (ends == 0) continue;
+        EXPECT_EQ(breathsIn(speechIn(samplesOfClip(clip.clip))), ends) << clip.clip;
+        sentenceEnds += static_cast<int>(ends);
     }
+    EXPECT_GT(sentenceEnds, 0);
 }
 
 }  // namespace orvanta::sound::test

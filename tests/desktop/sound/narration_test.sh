@@ -19,7 +19,12 @@ write_bank() {
     printf '</STRENGTH>\r\n' >>"$folder/data/mpquestions.txt"
 }
 
-make_clips() { "$maker" "$lister" "$folder/data" "$folder/Sounds" "$folder/work"; }
+# Lines of what the texts say, a tab, and how it is spelled for the voice.
+write_forms() { printf '%b\n' "$@" >"$folder/forms"; }
+
+make_clips() {
+    "$maker" "$lister" "$folder/data" "$folder/forms" "$folder/Sounds" "$folder/work"
+}
 
 # What lies there, with sums and times.
 state() { (cd "$folder/Sounds" && stat -c '%n %y' -- * && sha256sum -- *); }
@@ -30,6 +35,7 @@ expect_files() {
     [[ $found == "$1" ]] || fail "$2: there are $found"
 }
 
+write_forms '# nothing'
 write_bank 'Who "are" we?' 'What\s that (all)?' $'K\xF6ln \x96 \x93yes\x94'
 said=$(make_clips)
 [[ $said == "Speaking 3 of 3 voice clips" ]] || fail "three new texts: $said"
@@ -52,6 +58,16 @@ said=$(make_clips)
 [[ $said == "Speaking 1 of 3 voice clips" ]] || fail "a clip was lost: $said"
 [[ $(state | grep S1.swf | tail -1) == $(grep S1.swf <<<"$before" | tail -1) ]] ||
     fail "the same text gave another clip"
+
+write_forms 'are" we\tar" wee'
+said=$(make_clips)
+[[ $said == "Speaking 1 of 3 voice clips" ]] || fail "one word is spelled for the voice: $said"
+grep -qxF 'Who "ar" wee?' "$folder/work/mp_S1.text" || fail "the voice got another spelling"
+
+write_forms 'nobody says it\tno body'
+said=$(make_clips 2>&1) && fail "a spelling that no text needs is kept"
+[[ $said == *"no text says: nobody says it"* ]] || fail "a spelling that no text needs: $said"
+write_forms '# nothing'
 
 write_bank 'Who "are" we?'
 make_clips

@@ -46,7 +46,9 @@ public:
         return m_threads;
     }
 
-    bool holdsStarts = false;  // set before the player is used
+    // Set before the player is used.
+    bool holdsStarts = false;
+    bool handlesEventsAtStops = false;  // once it is let go, as the system's sound does
     QSemaphore letGo;
 
 private:
@@ -68,7 +70,13 @@ public:
         m_log.add("start " + std::to_string(samples.size()));
         if (m_log.holdsStarts) m_log.letGo.acquire();
     }
-    void stop() override { m_log.add("stop"); }
+    void stop() override {
+        m_log.add("stop");
+        if (!m_log.handlesEventsAtStops) return;
+        m_log.letGo.acquire();
+        QCoreApplication::processEvents();
+        m_log.add("stopped");
+    }
 
 private:
     SpeakerLog& m_log;
@@ -200,6 +208,18 @@ TEST_F(SoundPlayerTest, PassesByWhatWasReplacedBeforeItsTurn) {
     play(clip("mp_S3.swf", 300));
     log.letGo.release(2);
     EXPECT_EQ(log.await(4), (Calls{"made", "start 100", "stop", "start 300"}));
+}
+
+TEST_F(SoundPlayerTest, EndsAStopBeforeTheClipThatIsOrderedAmidIt) {
+    log.handlesEventsAtStops = true;
+    play(clip("mp_S1.swf", 100));
+    log.await(2);
+    play("STOP");
+    log.await(3);
+    play(clip("mp_S2.swf", 200));
+    log.letGo.release(2);
+    EXPECT_EQ(log.await(7),
+              (Calls{"made", "start 100", "stop", "stopped", "stop", "stopped", "start 200"}));
 }
 
 TEST_F(SoundPlayerTest, UsesItsSpeakerOnOneOtherThread) {

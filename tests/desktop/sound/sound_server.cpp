@@ -1,11 +1,15 @@
 #include "sound_server.h"
 
+#include <gtest/gtest.h>
+
 #include <QFile>
 #include <QTest>
 #include <algorithm>
 #include <cmath>
 #include <csignal>
 #include <cstring>
+
+#include "view/windows1252.h"
 
 namespace orvanta::sound::test {
 
@@ -114,6 +118,18 @@ std::vector<Moment> momentsOf(const Samples& samples) {
     return moments;
 }
 
+bool sounds(const Moment& moment, double pitch) {
+    constexpr double loud = 3000;
+    return moment.loudness > loud && shareOf(pitch, moment.samples, 0) > 0.5;
+}
+
+bool isHeard(const Recording& recording, double pitch) {
+    constexpr int quarterOfASecond = 5;  // moments
+    const std::vector<Moment> moments = momentsOf(recording.samples());
+    return std::ranges::count_if(moments, [&](const Moment& m) { return sounds(m, pitch); }) >=
+           quarterOfASecond;
+}
+
 double likeness(const Samples& heard, const Samples& played) {
     const std::vector<double> ofPlayed = loudnessOf(played);
     double best = 0;
@@ -126,6 +142,17 @@ double likeness(const Samples& heard, const Samples& played) {
                 best, correlation(std::span(ofHeard).subspan(from, ofPlayed.size()), ofPlayed));
     }
     return best;
+}
+
+void writeMovie(const QString& path, const Bytes& movie) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+    file.write(reinterpret_cast<const char*>(movie.data()), static_cast<qint64>(movie.size()));
+}
+
+void play(Player& player, const QString& path) {
+    player.setMovie(windows1252From(path.toStdString()));
+    player.play();
 }
 
 }  // namespace orvanta::sound::test

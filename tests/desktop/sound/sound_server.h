@@ -3,7 +3,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "desktop/sound/decoder.h"
+#include "coders.h"
+#include "view/platform.h"
 
 namespace orvanta::sound::test {
 
@@ -40,6 +41,8 @@ public:
 
     Samples samples() const;
     double seconds() const;
+    /// What came out before is as if it had never been.
+    void forget() { m_bytes.clear(); }
 
 private:
     QProcess m_process;
@@ -54,7 +57,17 @@ struct Moment {
 
 std::vector<Moment> momentsOf(const Samples& samples);
 
+/// Whether this pitch is the chief one, and loud.
+bool sounds(const Moment& moment, double pitch);
+
+/// Whether this pitch sounded for a quarter of a second.
+bool isHeard(const Recording& recording, double pitch);
+
 /// How alike the ups and downs of loudness are, where they fit best: 1 for the same sound.
 double likeness(const Samples& heard, const Samples& played);
+
+void writeMovie(const QString& path, const Bytes& movie);
+
+void play(Player& player, const QString& path);
 
 }  // namespace orvanta::sound::test

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QSemaphore>
 #include <QTest>
+#include <QTimer>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -12,7 +13,6 @@
 #include "desktop/sound/sound_player.h"
 #include "movie_writer.h"
 #include "sound_server.h"
-#include "view/windows1252.h"
 
 // The player and a real sound server. What comes out of it is recorded and looked at.
 
@@ -21,17 +21,8 @@ namespace orvanta::sound::test {
 namespace {
 
 constexpr int patience = 20000;  // milliseconds
-constexpr double quiet = 30, loud = 3000;
+constexpr double quiet = 30;
 constexpr double firstPitch = 440, secondPitch = 880;
-
-bool sounds(const Moment& moment, double pitch) {
-    return moment.loudness > loud && shareOf(pitch, moment.samples, 0) > 0.5;
-}
-
-bool isHeard(const Recording& recording, double pitch) {
-    const std::vector<Moment> moments = momentsOf(recording.samples());
-    return std::ranges::count_if(moments, [&](const Moment& m) { return sounds(m, pitch); }) > 4;
-}
 
 bool awaitHearing(const Recording& recording, double pitch) {
     return QTest::qWaitFor([&] { return isHeard(recording, pitch); }, patience);
@@ -56,21 +47,13 @@ protected:
 
     void SetUp() override { ASSERT_TRUE(server->isReady()); }
 
-    void play(const QString& path) {
-        player->setMovie(windows1252From(path.toStdString()));
-        player->play();
-    }
-
     void playTone(double pitch) {
         const Form form{Coding::Pcm16, playedRate, playedChannels};
         const Samples samples = tone(pitch, form.rate, form.channels, 20);
         const Bytes movie = MovieWriter().defineSound(1, form, samples).startSound(1).file();
         const QString path = m_folder.filePath(QString::number(pitch));
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(reinterpret_cast<const char*>(movie.data()), static_cast<qint64>(movie.size()));
-        file.close();
-        play(path);
+        writeMovie(path, movie);
+        play(*player, path);
     }
 
     static SoundServer* server;
@@ -107,7 +90,7 @@ TEST_F(RealSound, SpeaksAClipToItsEnd) {
     const Samples another = samplesOfMovie(bytesOf(QStringLiteral(ORVANTA_SOUNDS "/mp_S2.swf")));
     ASSERT_FALSE(played.empty() || another.empty());
     const Recording recording(*server);
-    play(clip);
+    play(*player, clip);
     const double length = static_cast<double>(played.size()) / playedChannels / playedRate;
     ASSERT_TRUE(awaitMore(recording, length + 2));
     EXPECT_GT(likeness(recording.samples(), played), 0.9);
@@ -130,12 +113,24 @@ TEST_F(RealSound, IsSilentOnceAClipIsStopped) {
     const Recording recording(*server);
     playTone(firstPitch);
     ASSERT_TRUE(awaitHearing(recording, firstPitch));
-    play(QStringLiteral("STOP"));
+    play(*player, QStringLiteral("STOP"));
     ASSERT_TRUE(awaitMore(recording, 1.5));
     const std::vector<Moment> moments = momentsOf(recording.samples());
     constexpr std::ptrdiff_t momentsOfASecond = 20;
     EXPECT_TRUE(std::all_of(moments.end() - momentsOfASecond, moments.end(),
                             [](const Moment& moment) { return moment.loudness < quiet; }));
+}
+
+// The end of a clip may handle the events of its thread, and the next clip be one of them.
+TEST_F(RealSound, PlaysAClipThatBeginsAmidTheEndOfAnother) {
+    const auto speaker = makeSystemSpeaker();
+    const Recording recording(*server);
+    speaker->start(tone(firstPitch, playedRate, playedChannels, 20));
+    ASSERT_TRUE(awaitHearing(recording, firstPitch));
+    QTimer::singleShot(0,
+                       [&] { speaker->start(tone(secondPitch, playedRate, playedChannels, 20)); });
+    speaker->stop();
+    EXPECT_TRUE(awaitHearing(recording, secondPitch));
 }
 
 // The last one: the thread that hangs is left behind.
