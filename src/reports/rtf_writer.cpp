@@ -139,21 +139,23 @@ private:
 
     void writeOuterRow(const DocumentTable& table, const DocumentRow& row) {
         const int height = row.repeatsAsHeader ? std::max(row.height, headerHeight) : row.height;
-        writeRowLook(table, row, cellPadding, height, row.repeatsAsHeader ? "\\trhdr" : "");
+        writeRowLook(table, row, cellPadding, height,
+                     std::string(row.repeatsAsHeader ? "\\trhdr" : "") +
+                         (row.staysWhole ? "\\trkeep" : ""));
         for (const auto& cell : row.cells) writeStory(cell->story, 1, "\\cell");
         m_out += "\\row\n";
     }
 
     /// The properties of a nested row follow its cells. Readers without nested tables get a tab
-    /// between its cells and a line break behind it. A page never ends inside it: readers differ
-    /// in how they tear a table within a table.
+    /// between its cells and a line break behind it. It is never held together itself: where the
+    /// first of a group is and meets the end of a page, Writer drops its last lines.
     void writeNestedRow(const DocumentTable& table, const DocumentRow& row, int depth) {
         for (const auto& cell : row.cells) {
             writeStory(cell->story, depth, "\\nestcell");
             if (&cell != &row.cells.back()) m_out += "{\\nonesttables\\tab}";
         }
         m_out += "{\\*\\nesttableprops";
-        writeRowLook(table, row, 0, row.height, "\\trkeep");
+        writeRowLook(table, row, 0, row.height, "");
         m_out += "\\nestrow}{\\nonesttables\\line}\n";
     }
 

@@ -215,10 +215,26 @@ TEST(RtfWriter, WritesATableInACellAndWhatStandsAroundIt) {
     EXPECT_TRUE(row.cells[1].nested.empty());
 }
 
+TEST(RtfWriter, HoldsNoRowOfATableInACellTogether) {
+    auto outer = tableOf(1, {330});
+    auto inner = tableOf(1, {20, 300});
+    inner->rows[0].staysWhole = true;
+    outer->rows[0].cells[0]->story.blocks = {inner, paragraphOf("")};
+    const RtfRow row = written(outer)[0].cells[0].nested.at(0);
+    EXPECT_FALSE(hasWord(row.words, "trkeep"));
+}
+
 TEST(RtfWriter, KeepsTwoTablesApart) {
     Document document;
     document.body.blocks = {tableOf(1, {100}), paragraphOf(""), tableOf(1, {100}), paragraphOf("")};
     EXPECT_EQ(readRtf(rtfBytes(document)).outline(), (std::vector<std::string>{"#", "", "#", ""}));
+}
+
+TEST(RtfWriter, HoldsARowTogetherThatStaysWhole) {
+    auto table = tableOf(2, {100});
+    table->rows[1].staysWhole = true;
+    EXPECT_FALSE(hasWord(written(table)[0].words, "trkeep"));
+    EXPECT_TRUE(hasWord(written(table)[1].words, "trkeep"));
 }
 
 TEST(RtfWriter, ListsEachFontOnceWithTheStandardOneAsNumberNought) {
