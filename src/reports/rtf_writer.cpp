@@ -10,6 +10,8 @@ namespace {
 constexpr int twips(int points) { return points * 20; }
 
 constexpr int cellPadding = 108;  // twips
+constexpr int tightPadding = 20;  // twips, so that "100" is not broken in the column of numbers
+constexpr int narrowColumn = 40;  // points
 constexpr int headerHeight = 60;  // points, so that "Priority" upright is not cut
 constexpr int hairline = 10;      // twips
 
@@ -169,6 +171,8 @@ private:
         for (std::size_t column = 0; column < row.cells.size(); ++column) {
             const int width = twips(table.columnWidths[column]);
             writeCellLook(*row.cells[column], table.hasBorders);
+            writePadding(*row.cells[column],
+                         padding > 0 && table.columnWidths[column] < narrowColumn);
             m_out +=
                 "\\clftsWidth3" + word("clwWidth", width) + word("cellx", right += width) + "\n";
         }
@@ -183,18 +187,17 @@ private:
             m_out += "\\clbrdrr\\brdrs" + word("brdrw", edgeWidth(cell.rightEdge));
         }
         if (cell.shading != noColour) m_out += word("clcbpat", m_colours.at(cell.shading));
-        m_out += cell.direction == TextDirection::Upward ? upwardText() : "\\cltxlrtb";
+        m_out += cell.direction == TextDirection::Upward ? "\\cltxbtlr" : "\\cltxlrtb";
     }
 
-    /// Upward text keeps off the edges that its line begins and ends at, as other text does. All
-    /// four edges are told, alike: readers take the words for the left and the upper one for each
-    /// other.
-    static std::string upwardText() {
-        std::string words = "\\cltxbtlr";
-        for (const std::string edge : {"l", "t", "b", "r"})
-            words.append("\\clpad" + edge + std::to_string(cellPadding))
-                .append("\\clpadf" + edge + "3");
-        return words;
+    /// Upward text keeps off the edges that its line begins and ends at, as other text does. The
+    /// left and the upper edge are told alike: readers take the words for each other.
+    void writePadding(const DocumentCell& cell, bool tight) {
+        const bool upward = cell.direction == TextDirection::Upward;
+        if (!upward && !tight) return;
+        for (const char edge : std::string_view(upward ? "ltbr" : "ltr"))
+            m_out.append("\\clpad").append(1, edge) +=
+                std::to_string(upward ? cellPadding : tightPadding) + "\\clpadf" + edge + "3";
     }
 
     static int edgeWidth(int eighths) { return eighths == 0 ? hairline : eighths * 20 / 8; }

@@ -215,19 +215,36 @@ TEST(RtfWriter, WritesATableInACellAndWhatStandsAroundIt) {
     EXPECT_TRUE(row.cells[1].nested.empty());
 }
 
-TEST(RtfWriter, HoldsNoRowOfATableInACellTogether) {
+TEST(RtfWriter, HoldsNoRowOfATableInACellTogetherNorPadsIt) {
     auto outer = tableOf(1, {330});
     auto inner = tableOf(1, {20, 300});
     inner->rows[0].staysWhole = true;
     outer->rows[0].cells[0]->story.blocks = {inner, paragraphOf("")};
     const RtfRow row = written(outer)[0].cells[0].nested.at(0);
     EXPECT_FALSE(hasWord(row.words, "trkeep"));
+    EXPECT_FALSE(hasWord(row.cells[0].words, "clpadl"));
 }
 
 TEST(RtfWriter, KeepsTwoTablesApart) {
     Document document;
     document.body.blocks = {tableOf(1, {100}), paragraphOf(""), tableOf(1, {100}), paragraphOf("")};
     EXPECT_EQ(readRtf(rtfBytes(document)).outline(), (std::vector<std::string>{"#", "", "#", ""}));
+}
+
+TEST(RtfWriter, MakesRoomForThreeFiguresInANarrowColumn) {
+    const RtfRow row = written(tableOf(1, {330, 30}))[0];
+    for (const std::string edge : {"l", "t", "r"}) {
+        EXPECT_EQ(row.cells[1].words.at("clpad" + edge), 20) << edge;
+        EXPECT_EQ(row.cells[1].words.at("clpadf" + edge), 3) << edge;
+        EXPECT_FALSE(hasWord(row.cells[0].words, "clpad" + edge));
+    }
+}
+
+TEST(RtfWriter, KeepsUpwardTextOffItsEdgesInANarrowColumn) {
+    auto table = tableOf(1, {30});
+    table->rows[0].cells[0]->direction = TextDirection::Upward;
+    for (const std::string edge : {"l", "t", "b", "r"})
+        EXPECT_EQ(written(table)[0].cells[0].words.at("clpad" + edge), 108) << edge;
 }
 
 TEST(RtfWriter, HoldsARowTogetherThatStaysWhole) {
