@@ -120,6 +120,17 @@ TEST(ReportDocument, SetsTitlesAndTextsInTheirFonts) {
     for (const std::size_t text : {3u, 13u}) EXPECT_EQ(lookOf(document, text), "Arial 10");
 }
 
+TEST(ReportDocument, HasATitleOfItsOwnAndTwoHeadings) {
+    const RtfDocument document = documentOf(smallAnalysis());
+    EXPECT_EQ(document.title, "SWOT Analysis - Correlation Report");
+    std::vector<std::size_t> headings;
+    for (std::size_t block = 0; block < document.body.size(); ++block)
+        if (const auto* paragraph = std::get_if<RtfParagraph>(&document.body[block]);
+            paragraph && paragraph->words.contains("outlinelevel"))
+            headings.push_back(block);
+    EXPECT_EQ(headings, (std::vector<std::size_t>{0, 9}));
+}
+
 TEST(ReportDocument, KeepsItsTitlesAndTextsWithTheTableBelow) {
     const RtfDocument document = documentOf(smallAnalysis());
     std::string kept;  // a letter for each block: a table, kept or loose
