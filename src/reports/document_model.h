@@ -68,6 +68,7 @@ struct DocumentRow {
     std::vector<std::shared_ptr<DocumentCell>> cells;
     int height = 0;  // at least; 0: as its text needs
     bool repeatsAsHeader = false;
+    bool staysWhole = false;  // no page ends within it
 };
 
 struct DocumentTable {

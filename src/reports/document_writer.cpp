@@ -1,5 +1,6 @@
 #include "reports/document_writer.h"
 
+#include "reports/document_pages.h"
 #include "reports/document_ranges.h"
 #include "reports/rtf_writer.h"
 
@@ -285,7 +286,8 @@ public:
 
     void call(std::string_view member, const WordArguments& arguments) override {
         if (member == "SaveAs")
-            m_session->disk.replace(argument<std::string>(arguments, 0), rtfBytes(*m_document));
+            m_session->disk.replace(argument<std::string>(arguments, 0),
+                                    rtfBytes(withCareForPages(*m_document)));
         else if (member != "Close")
             refuseMember();
     }

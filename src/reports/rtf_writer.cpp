@@ -11,6 +11,9 @@ namespace {
 constexpr int twips(int points) { return points * 20; }
 
 constexpr int cellPadding = 108;  // twips
+constexpr int tightPadding = 20;  // twips, so that "100" is not broken in the column of numbers
+constexpr int narrowColumn = 40;  // points
+constexpr int titleSize = 18;     // points, at least
 constexpr int headerHeight = 60;  // points, so that "Priority" upright is not cut
 constexpr int hairline = 10;      // twips
 
@@ -36,6 +39,17 @@ void appendEscaped(std::string& out, std::string_view text) {
         else
             out += character;
     }
+}
+
+std::string textOf(const DocumentParagraph& paragraph) {
+    std::string text;
+    for (const TextRun& run : paragraph.runs) text += run.text;
+    return text;
+}
+
+/// Outside the tables, what is set large is a title.
+bool isTitle(const DocumentParagraph& paragraph) {
+    return !paragraph.runs.empty() && paragraph.runs.front().format.size >= titleSize;
 }
 
 class Writer {
@@ -83,7 +97,30 @@ private:
             m_out += word("red", colour & 255) + word("green", colour >> 8 & 255) +
                      word("blue", colour >> 16 & 255) + ";";
         }
-        m_out += "}\n{\\stylesheet{\\ql\\f0\\fs24 Normal;}}\n";
+        m_out += "}\n";
+        writeStyles(firstTitle());
+    }
+
+    const DocumentParagraph* firstTitle() const {
+        for (const Block& block : m_document.body.blocks)
+            if (const auto* paragraph = std::get_if<DocumentParagraph>(&block);
+                paragraph && isTitle(*paragraph))
+                return paragraph;
+        return nullptr;
+    }
+
+    /// The style of the titles looks as they do. The language is told here, since Writer takes no
+    /// notice of the one at the head of the file.
+    void writeStyles(const DocumentParagraph* title) {
+        m_out += "{\\stylesheet{\\ql\\widctlpar\\f0\\fs24\\lang1033 Normal;}";
+        if (title) {
+            m_out += "{\\s1\\ql\\keepn\\widctlpar\\outlinelevel0\\lang1033";
+            appendLook(title->runs.front().format);
+            m_out += "\\sbasedon0 heading 1;}}\n{\\info{\\title ";
+            appendEscaped(m_out, textOf(*title));
+            m_out += "}";
+        }
+        m_out += "}\n";
     }
 
     /// The page is told twice: readers differ in where they look.
@@ -92,7 +129,7 @@ private:
         m_out += word("paperw", twips(page.width)) + word("paperh", twips(page.height)) +
                  word("margl", twips(page.left)) + word("margr", twips(page.right)) +
                  word("margt", twips(page.top)) + word("margb", twips(page.bottom)) +
-                 (page.landscape ? "\\landscape\n" : "\n");
+                 (page.landscape ? "\\landscape" : "") + "\\widowctrl\n";
         m_out += "\\sectd" + word("pgwsxn", twips(page.width)) +
                  word("pghsxn", twips(page.height)) + word("marglsxn", twips(page.left)) +
                  word("margrsxn", twips(page.right)) + word("margtsxn", twips(page.top)) +
@@ -113,7 +150,9 @@ private:
     void writeParagraph(const DocumentParagraph& paragraph, int depth, std::string_view end) {
         m_out += "\\pard\\plain";
         if (depth > 0) m_out += "\\intbl" + word("itap", depth);
+        if (depth == 0 && isTitle(paragraph)) m_out += "\\s1\\outlinelevel0";
         m_out += paragraph.format.alignment == Alignment::Centred ? "\\qc" : "\\ql";
+        m_out += "\\widctlpar";
         m_out += word("sb", twips(paragraph.format.spaceBefore)) +
                  word("sa", twips(paragraph.format.spaceAfter));
         if (paragraph.format.keepWithNext) m_out += "\\keepn";
@@ -129,8 +168,14 @@ private:
 
     /// A group with all looks told: one that is left out would leak from the text before.
     void openLook(const CharacterFormat& format) {
-        m_out += "{" + word("f", m_fonts.at(format.font)) + word("fs", format.size * 2) +
-                 (format.bold ? "\\b" : "\\b0") + (format.italic ? "\\i" : "\\i0") + " ";
+        m_out += "{";
+        appendLook(format);
+        m_out += " ";
+    }
+
+    void appendLook(const CharacterFormat& format) {
+        m_out += word("f", m_fonts.at(format.font)) + word("fs", format.size * 2) +
+                 (format.bold ? "\\b" : "\\b0") + (format.italic ? "\\i" : "\\i0");
     }
 
     void writeTable(const DocumentTable& table, int depth) {
@@ -140,21 +185,23 @@ private:
 
     void writeOuterRow(const DocumentTable& table, const DocumentRow& row) {
         const int height = row.repeatsAsHeader ? std::max(row.height, headerHeight) : row.height;
-        writeRowLook(table, row, cellPadding, height, row.repeatsAsHeader ? "\\trhdr" : "");
+        writeRowLook(
+            table, row, cellPadding, height,
+            std::string(row.repeatsAsHeader ? "\\trhdr" : "") + (row.staysWhole ? "\\trkeep" : ""));
         for (const auto& cell : row.cells) writeStory(cell->story, 1, "\\cell");
         m_out += "\\row\n";
     }
 
     /// The properties of a nested row follow its cells. Readers without nested tables get a tab
-    /// between its cells and a line break behind it. A page never ends inside it: readers differ
-    /// in how they tear a table within a table.
+    /// between its cells and a line break behind it. It is never held together itself: where the
+    /// first of a group is and meets the end of a page, Writer drops its last lines.
     void writeNestedRow(const DocumentTable& table, const DocumentRow& row, int depth) {
         for (const auto& cell : row.cells) {
             writeStory(cell->story, depth, "\\nestcell");
             if (&cell != &row.cells.back()) m_out += "{\\nonesttables\\tab}";
         }
         m_out += "{\\*\\nesttableprops";
-        writeRowLook(table, row, 0, row.height, "\\trkeep");
+        writeRowLook(table, row, 0, row.height, "");
         m_out += "\\nestrow}{\\nonesttables\\line}\n";
     }
 
@@ -169,6 +216,8 @@ private:
         for (std::size_t column = 0; column < row.cells.size(); ++column) {
             const int width = twips(table.columnWidths[column]);
             writeCellLook(*row.cells[column], table.hasBorders);
+            writePadding(*row.cells[column],
+                         padding > 0 && table.columnWidths[column] < narrowColumn);
             m_out +=
                 "\\clftsWidth3" + word("clwWidth", width) + word("cellx", right += width) + "\n";
         }
@@ -183,18 +232,17 @@ private:
             m_out += "\\clbrdrr\\brdrs" + word("brdrw", edgeWidth(cell.rightEdge));
         }
         if (cell.shading != noColour) m_out += word("clcbpat", m_colours.at(cell.shading));
-        m_out += cell.direction == TextDirection::Upward ? upwardText() : "\\cltxlrtb";
+        m_out += cell.direction == TextDirection::Upward ? "\\cltxbtlr" : "\\cltxlrtb";
     }
 
-    /// Upward text keeps off the edges that its line begins and ends at, as other text does. All
-    /// four edges are told, alike: readers take the words for the left and the upper one for each
-    /// other.
-    static std::string upwardText() {
-        std::string words = "\\cltxbtlr";
-        for (const std::string edge : {"l", "t", "b", "r"})
-            words.append("\\clpad" + edge + std::to_string(cellPadding))
-                .append("\\clpadf" + edge + "3");
-        return words;
+    /// Upward text keeps off the edges that its line begins and ends at, as other text does. The
+    /// left and the upper edge are told alike: readers take the words for each other.
+    void writePadding(const DocumentCell& cell, bool tight) {
+        const bool upward = cell.direction == TextDirection::Upward;
+        if (!upward && !tight) return;
+        for (const char edge : std::string_view(upward ? "ltbr" : "ltr"))
+            m_out.append("\\clpad").append(1, edge) +=
+                std::to_string(upward ? cellPadding : tightPadding) + "\\clpadf" + edge + "3";
     }
 
     static int edgeWidth(int eighths) { return eighths == 0 ? hairline : eighths * 20 / 8; }

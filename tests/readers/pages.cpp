@@ -14,6 +14,7 @@ constexpr double secondColumn = tableStart + 330, thirdColumn = secondColumn + 3
 constexpr double centreOfNumbers = secondColumn + 15;
 constexpr double centreOfSigns = tableStart + 5.4 + 10;
 constexpr double tolerance = 2;
+constexpr double lineTolerance = 1;
 
 struct Word {
     int page;
@@ -45,13 +46,19 @@ std::vector<Word> wordsOf(const Node& document) {
     return words;
 }
 
-bool onOneLine(const Word& a, const Word& b) {
-    return a.page == b.page && std::abs(a.top - b.top) < 1;
-}
+using Line = std::vector<Word>;  // from left to right, of all columns
 
-bool comesFirst(const Word& a, const Word& b) {
-    if (a.page != b.page) return a.page < b.page;
-    return onOneLine(a, b) ? a.left < b.left : a.top < b.top;
+std::vector<Line> linesOf(std::vector<Word> words) {
+    std::ranges::sort(words, {}, [](const Word& word) { return std::pair(word.page, word.top); });
+    std::vector<Line> lines;
+    for (Word& word : words) {
+        if (lines.empty() || lines.back().back().page != word.page ||
+            word.top - lines.back().back().top >= lineTolerance)
+            lines.emplace_back();
+        lines.back().push_back(std::move(word));
+    }
+    for (Line& line : lines) std::ranges::sort(line, {}, &Word::left);
+    return lines;
 }
 
 /// A line of the running text goes right across the place of the second column.
@@ -60,28 +67,96 @@ bool isAcross(const Word& word) {
            !word.isUpward();
 }
 
+/// Text with the page of each of its bytes.
+struct Running {
+    std::string text;
+    std::vector<int> pages;
+
+    void add(const Word& word) {
+        text += word.text;
+        pages.resize(text.size(), word.page);
+    }
+};
+
 struct Columns {
-    std::string running;  // and the first column
+    Running running;  // and the first column
     std::vector<Word> second;
     std::string third;
     int upward = 0;
 };
 
-void sortIn(const Word& word, const std::vector<Word>& words, Columns& columns) {
-    if (word.isUpward()) {
-        compare("the upward text", word.text, "Priority");
-        ++columns.upward;
-    } else if (std::ranges::any_of(words, [&](const Word& other) {
-                   return onOneLine(other, word) && isAcross(other);
-               })) {
-        columns.running += word.text;
-    } else if (word.right <= secondColumn) {
-        columns.running += word.text;
-    } else if (word.left < thirdColumn) {
-        columns.second.push_back(word);
-    } else {
-        columns.third += word.text;
+void sortIn(const Line& line, Columns& columns) {
+    const bool goesAcross = std::ranges::any_of(line, isAcross);
+    for (const Word& word : line) {
+        if (word.isUpward()) {
+            compare("the upward text", word.text, "Priority");
+            ++columns.upward;
+        } else if (goesAcross || word.right <= secondColumn) {
+            columns.running.add(word);
+        } else if (word.left < thirdColumn) {
+            columns.second.push_back(word);
+        } else {
+            columns.third += word.text;
+        }
     }
+}
+
+Columns columnsOf(const std::vector<Word>& words) {
+    Columns columns;
+    for (const Line& line : linesOf(words)) sortIn(line, columns);
+    return columns;
+}
+
+/// A text of the first column. What leads to the next one must not end a page.
+struct Piece {
+    std::string text;
+    bool leads;
+};
+
+struct ExpectedColumns {
+    std::vector<Piece> first;
+    std::string second, third;
+    int tables = 0;
+
+    void add(const ExpectedRow& row) {
+        first.push_back({row.text, !row.mapped.empty()});
+        second += row.number + ",";
+        for (const MappedRow& mapped : row.mapped)
+            first.push_back({mapped.sign + mapped.text, false});
+    }
+    void add(const ExpectedTable& table) {
+        ++tables;
+        third += table.lastHeading;
+        for (const std::string& text : table.heading) first.push_back({text, !table.rows.empty()});
+        for (const ExpectedRow& row : table.rows) add(row);
+    }
+    void add(const ExpectedPart& part) {
+        for (const std::string& text : part.paragraphs) first.push_back({text, true});
+        for (const ExpectedTable& table : part.tables) add(table);
+    }
+};
+
+void checkRunning(const Running& running, const std::vector<Piece>& pieces) {
+    std::string whole;
+    for (const Piece& piece : pieces) whole += piece.text;
+    compare("the first column", running.text, whole);
+    std::size_t end = 0;
+    for (const Piece& piece : pieces) {
+        end += withoutBlanks(piece.text).size();
+        if (piece.leads && running.pages.at(end - 1) != running.pages.at(end))
+            throw Mismatch{"page " + std::to_string(running.pages[end - 1]) + " ends in " +
+                           piece.text};
+    }
+}
+
+void checkNumbers(const std::vector<Word>& words, const std::string& expected) {
+    std::string read;
+    for (const Word& word : words) {
+        read += word.text + ",";
+        if (std::abs(word.centre() - centreOfNumbers) > tolerance)
+            throw Mismatch{"number " + word.text + " is not in the middle of its column"};
+    }
+    compare("the second column", read, expected);
 }
 
 void checkSigns(const std::vector<Word>& words) {
@@ -95,35 +170,15 @@ void checkSigns(const std::vector<Word>& words) {
 }  // namespace
 
 void checkPages(const Node& document, const std::vector<ExpectedPart>& expected) {
-    std::vector<Word> words = wordsOf(document);
-    std::ranges::sort(words, comesFirst);
-    Columns columns;
-    for (const Word& word : words) sortIn(word, words, columns);
-    std::string running, numbers, third;
-    int tables = 0;
-    for (const ExpectedPart& part : expected) {
-        for (const std::string& text : part.paragraphs) running += text;
-        for (const ExpectedTable& table : part.tables) {
-            ++tables;
-            third += table.lastHeading;
-            for (const std::string& text : table.heading) running += text;
-            for (const ExpectedRow& row : table.rows) {
-                running += row.text;
-                numbers += row.number + ",";
-                for (const MappedRow& mapped : row.mapped) running += mapped.sign + mapped.text;
-            }
-        }
-    }
-    compare("the first column", columns.running, running);
-    compare("the third column", columns.third, third);
-    std::string read;
-    for (const Word& word : columns.second) {
-        read += word.text + ",";
-        if (std::abs(word.centre() - centreOfNumbers) > tolerance)
-            throw Mismatch{"number " + word.text + " is not in the middle of its column"};
-    }
-    compare("the second column", read, numbers);
-    if (columns.upward != tables) throw Mismatch{"not every table has its upward heading once"};
+    const std::vector<Word> words = wordsOf(document);
+    ExpectedColumns columns;
+    for (const ExpectedPart& part : expected) columns.add(part);
+    const Columns read = columnsOf(words);
+    checkRunning(read.running, columns.first);
+    checkNumbers(read.second, columns.second);
+    compare("the third column", read.third, columns.third);
+    if (read.upward != columns.tables)
+        throw Mismatch{"not every table has its upward heading once"};
     checkSigns(words);
 }
 

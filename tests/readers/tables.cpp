@@ -182,10 +182,23 @@ void checkPage(const Node& document) {
     throw Mismatch{"no landscape page"};
 }
 
+/// The first text of each half is a heading, and the first of all the title.
+void checkHeadings(const Node& document, const std::vector<ExpectedPart>& expected) {
+    std::string headings, read;
+    for (const ExpectedPart& part : expected) headings += part.paragraphs.front() + "1";
+    for (const Node* heading : document.within("text:h"))
+        read += heading->allText() + heading->attribute("text:outline-level");
+    compare("the headings", read, headings);
+    const auto titles = document.within("dc:title");
+    require(titles.size() == 1, "no title");
+    compare("the title", titles.front()->allText(), expected.front().paragraphs.front());
+}
+
 }  // namespace
 
 void checkTables(const Node& document, const std::vector<ExpectedPart>& expected) {
     checkPage(document);
+    checkHeadings(document, expected);
     const Styles styles(document);
     const auto bodies = document.within("office:text");
     require(bodies.size() == 1, "no text");

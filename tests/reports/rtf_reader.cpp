@@ -12,14 +12,14 @@ namespace {
 constexpr int twipsPerPoint = 20;
 
 const std::set<std::string> knownWords{
-    "ansi",     "ansicpg",  "deff",      "deflang",  "uc",       "rtf",       "paperw",
-    "paperh",   "margl",    "margr",     "margt",    "margb",    "landscape", "sectd",
-    "pgwsxn",   "pghsxn",   "marglsxn",  "margrsxn", "margtsxn", "margbsxn",  "lndscpsxn",
-    "trgaph",   "trleft",   "trrh",      "trhdr",    "trkeep",   "trpaddl",   "trpaddr",
-    "trpaddfl", "trpaddfr", "intbl",     "itap",     "ql",       "qc",        "sb",
-    "sa",       "keepn",    "clvertalc", "clcbpat",  "cltxbtlr", "cltxlrtb",  "clftsWidth",
-    "clwWidth", "clpadl",   "clpadt",    "clpadb",   "clpadr",   "clpadfl",   "clpadft",
-    "clpadfb",  "clpadfr",  "brdrs"};
+    "ansi",     "ansicpg",  "deff",      "deflang",  "uc",           "rtf",       "paperw",
+    "paperh",   "margl",    "margr",     "margt",    "margb",        "landscape", "sectd",
+    "pgwsxn",   "pghsxn",   "marglsxn",  "margrsxn", "margtsxn",     "margbsxn",  "lndscpsxn",
+    "trgaph",   "trleft",   "trrh",      "trhdr",    "trkeep",       "trpaddl",   "trpaddr",
+    "trpaddfl", "trpaddfr", "intbl",     "itap",     "ql",           "qc",        "sb",
+    "sa",       "keepn",    "clvertalc", "clcbpat",  "cltxbtlr",     "cltxlrtb",  "clftsWidth",
+    "clwWidth", "clpadl",   "clpadt",    "clpadb",   "clpadr",       "clpadfl",   "clpadft",
+    "clpadfb",  "clpadfr",  "brdrs",     "s",        "outlinelevel", "widctlpar", "widowctrl"};
 
 int valueOf(const RtfWords& words, const std::string& word) {
     const auto found = words.find(word);
@@ -119,7 +119,9 @@ private:
         const Token first = m_tokens.next();
         if (first.text == "fonttbl") return fonts();
         if (first.text == "colortbl") return colours();
-        if (first.text == "stylesheet" || first.text == "nonesttables") return skip();
+        if (first.text == "stylesheet") return styles();
+        if (first.text == "info") return title();
+        if (first.text == "nonesttables") return skip();
         if (first.text == "*") {
             if (m_tokens.next().text != "nesttableprops") throw RtfError("an unknown destination");
             return nestedRow();
@@ -154,6 +156,29 @@ private:
                 if (token.kind == Token::Kind::Text && token.text != ";") name += token.text;
             m_fonts[number] = name;
         }
+    }
+
+    /// The name of each style, behind its words, with its number, 0 for the one without.
+    void styles() {
+        for (Token open = m_tokens.next(); open.kind == Token::Kind::Open; open = m_tokens.next()) {
+            RtfStyle style;
+            for (Token token = m_tokens.next(); token.kind != Token::Kind::Close;
+                 token = m_tokens.next())
+                if (token.kind == Token::Kind::Word)
+                    style.words[token.text] = token.number;
+                else if (token.text != ";")
+                    style.name += token.text;
+            m_document.styles[valueOf(style.words, "s")] = style;
+        }
+    }
+
+    void title() {
+        if (m_tokens.next().kind != Token::Kind::Open || m_tokens.next().text != "title")
+            throw RtfError("other information than a title");
+        for (Token token = m_tokens.next(); token.kind == Token::Kind::Text;
+             token = m_tokens.next())
+            m_document.title += token.text;
+        if (m_tokens.next().kind != Token::Kind::Close) throw RtfError("more than a title");
     }
 
     void colours() {

@@ -54,8 +54,15 @@ struct RtfRow {
 
 using RtfTable = std::vector<RtfRow>;
 
+struct RtfStyle {
+    std::string name;
+    RtfWords words;
+};
+
 struct RtfDocument {
     RtfWords words;  // of the page
+    std::string title;
+    std::map<int, RtfStyle> styles;
     std::vector<std::variant<RtfParagraph, RtfTable>> body;
 
     std::vector<RtfTable> tables() const;

@@ -215,10 +215,90 @@ TEST(RtfWriter, WritesATableInACellAndWhatStandsAroundIt) {
     EXPECT_TRUE(row.cells[1].nested.empty());
 }
 
+TEST(RtfWriter, HoldsNoRowOfATableInACellTogetherNorPadsIt) {
+    auto outer = tableOf(1, {330});
+    auto inner = tableOf(1, {20, 300});
+    inner->rows[0].staysWhole = true;
+    outer->rows[0].cells[0]->story.blocks = {inner, paragraphOf("")};
+    const RtfRow row = written(outer)[0].cells[0].nested.at(0);
+    EXPECT_FALSE(hasWord(row.words, "trkeep"));
+    EXPECT_FALSE(hasWord(row.cells[0].words, "clpadl"));
+}
+
 TEST(RtfWriter, KeepsTwoTablesApart) {
     Document document;
     document.body.blocks = {tableOf(1, {100}), paragraphOf(""), tableOf(1, {100}), paragraphOf("")};
     EXPECT_EQ(readRtf(rtfBytes(document)).outline(), (std::vector<std::string>{"#", "", "#", ""}));
+}
+
+TEST(RtfWriter, MakesRoomForThreeFiguresInANarrowColumn) {
+    const RtfRow row = written(tableOf(1, {330, 30}))[0];
+    for (const std::string edge : {"l", "t", "r"}) {
+        EXPECT_EQ(row.cells[1].words.at("clpad" + edge), 20) << edge;
+        EXPECT_EQ(row.cells[1].words.at("clpadf" + edge), 3) << edge;
+        EXPECT_FALSE(hasWord(row.cells[0].words, "clpad" + edge));
+    }
+}
+
+TEST(RtfWriter, KeepsUpwardTextOffItsEdgesInANarrowColumn) {
+    auto table = tableOf(1, {30});
+    table->rows[0].cells[0]->direction = TextDirection::Upward;
+    for (const std::string edge : {"l", "t", "b", "r"})
+        EXPECT_EQ(written(table)[0].cells[0].words.at("clpad" + edge), 108) << edge;
+}
+
+TEST(RtfWriter, HoldsARowTogetherThatStaysWhole) {
+    auto table = tableOf(2, {100});
+    table->rows[1].staysWhole = true;
+    EXPECT_FALSE(hasWord(written(table)[0].words, "trkeep"));
+    EXPECT_TRUE(hasWord(written(table)[1].words, "trkeep"));
+}
+
+TEST(RtfWriter, TakesTheFirstLargeLineForTheTitleAndEachForAHeading) {
+    Document document = documentOf("before");
+    for (const std::string text : {"{First}", "Second"})
+        document.body.blocks.push_back(paragraphOf(text, {.font = "Arial", .size = 20}));
+    const RtfDocument read = readRtf(rtfBytes(document));
+    EXPECT_EQ(read.title, "{First}");
+    const auto words = [&](std::size_t block) {
+        return std::get<RtfParagraph>(read.body[block]).words;
+    };
+    EXPECT_FALSE(hasWord(words(0), "s") || hasWord(words(0), "outlinelevel"));
+    for (const std::size_t block : {1u, 2u}) {
+        EXPECT_EQ(words(block).at("s"), 1);
+        EXPECT_EQ(words(block).at("outlinelevel"), 0);
+    }
+}
+
+TEST(RtfWriter, StylesAHeadingAsItsFirstOneLooks) {
+    const RtfDocument read =
+        readRtf(rtfBytes(documentOf("x", {.font = "Arial", .size = 20, .bold = true})));
+    const RtfStyle& heading = read.styles.at(1);
+    EXPECT_EQ(heading.name, "heading 1");
+    EXPECT_EQ(heading.words.at("fs"), 40);
+    EXPECT_EQ(heading.words.at("f"), 1);
+    EXPECT_EQ(heading.words.at("b"), 1);
+    EXPECT_EQ(heading.words.at("outlinelevel"), 0);
+}
+
+TEST(RtfWriter, TakesNoLineOfATableAndNoEmptyOneForATitle) {
+    const CharacterFormat large{.font = "Arial", .size = 20};
+    auto table = tableOf(1, {100});
+    table->rows[0].cells[0]->story.blocks.assign(1, paragraphOf("in a cell", large));
+    Document document = documentOf(table);
+    document.body.blocks.emplace_back(DocumentParagraph{.runs = {}, .mark = large, .format = {}});
+    const RtfDocument read = readRtf(rtfBytes(document));
+    EXPECT_EQ(read.title, "");
+    EXPECT_FALSE(read.styles.contains(1));
+    EXPECT_FALSE(hasWord(read.tables()[0][0].cells[0].paragraphs[0].words, "s"));
+}
+
+TEST(RtfWriter, IsInAmericanEnglishAndLeavesNoLineOfAParagraphAlone) {
+    const RtfDocument read = readRtf(rtfBytes(documentOf("x", {.font = "Arial", .size = 20})));
+    EXPECT_EQ(read.words.at("deflang"), 1033);
+    for (const auto& [number, style] : read.styles) EXPECT_EQ(style.words.at("lang"), 1033);
+    EXPECT_TRUE(hasWord(read.words, "widowctrl"));
+    EXPECT_TRUE(hasWord(std::get<RtfParagraph>(read.body.front()).words, "widctlpar"));
 }
 
 TEST(RtfWriter, ListsEachFontOnceWithTheStandardOneAsNumberNought) {

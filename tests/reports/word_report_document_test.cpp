@@ -120,6 +120,27 @@ TEST(ReportDocument, SetsTitlesAndTextsInTheirFonts) {
     for (const std::size_t text : {3u, 13u}) EXPECT_EQ(lookOf(document, text), "Arial 10");
 }
 
+TEST(ReportDocument, HasATitleOfItsOwnAndTwoHeadings) {
+    const RtfDocument document = documentOf(smallAnalysis());
+    EXPECT_EQ(document.title, "SWOT Analysis - Correlation Report");
+    std::vector<std::size_t> headings;
+    for (std::size_t block = 0; block < document.body.size(); ++block)
+        if (const auto* paragraph = std::get_if<RtfParagraph>(&document.body[block]);
+            paragraph && paragraph->words.contains("outlinelevel"))
+            headings.push_back(block);
+    EXPECT_EQ(headings, (std::vector<std::size_t>{0, 9}));
+}
+
+TEST(ReportDocument, KeepsItsTitlesAndTextsWithTheTableBelow) {
+    const RtfDocument document = documentOf(smallAnalysis());
+    std::string kept;  // a letter for each block: a table, kept or loose
+    for (const auto& block : document.body) {
+        const auto* paragraph = std::get_if<RtfParagraph>(&block);
+        kept += !paragraph ? '#' : paragraph->words.contains("keepn") ? 'k' : '.';
+    }
+    EXPECT_EQ(kept, "kkkkk#.#.kkkkkk#.#.#.#.");
+}
+
 TEST(ReportDocument, IsALandscapePage) {
     const RtfWords page = documentOf(smallAnalysis()).words;
     EXPECT_TRUE(page.contains("landscape"));
@@ -278,8 +299,8 @@ TEST(ReportDocument, KeepsAStatementWithItsGroupAndAListTogether) {
         for (const RtfRow& row : table(document, number)) rows.push_back(isKeptWithNext(row));
         return rows;
     };
-    EXPECT_EQ(kept(opportunityMap), (std::vector{false, true, false, true}));
-    EXPECT_EQ(kept(threatMap), (std::vector{false, true, true, true}));
+    EXPECT_EQ(kept(opportunityMap), (std::vector{true, true, false, true}));
+    EXPECT_EQ(kept(threatMap), (std::vector{true, true, true, true}));
     EXPECT_EQ(kept(strengths), (std::vector{true, true, true}));
     EXPECT_EQ(kept(weaknesses), (std::vector{true}));
 }
