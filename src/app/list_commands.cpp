@@ -1,7 +1,10 @@
 #include "app/list_commands.h"
 
+#include <algorithm>
+
 #include "app/window_events.h"
 #include "core/kind_controls.h"
+#include "core/mapping_side.h"
 #include "sessionfiles/merging.h"
 
 namespace orvanta {
@@ -22,6 +25,15 @@ std::vector<ListCommand> commandsOf(const ListButtons& buttons) {
             commandOf(buttons.remove, "Remove", Needs::ChosenRow)};
 }
 
+/// A mapped row, or a parent row that its own list has lost. Any other parent row would be gone for
+/// good: Undo is off the screen there, and the list before still holds the statement.
+bool holdsRemovableRow(const FrmMain& form, MappingSide side) {
+    const Row* row = mappingList(form, side).selectedRow();
+    if (!row) return false;
+    const StatementList& own = listOf(form, Session::Analyze, sideControls[side].parentKind);
+    return row->key.find('-') != std::string::npos || own.positionOf(row->key) == 0;
+}
+
 }  // namespace
 
 std::vector<ListCommand> listCommandsOf(const FrmMain& form, const Control& list) {
@@ -30,9 +42,9 @@ std::vector<ListCommand> listCommandsOf(const FrmMain& form, const Control& list
                 commandOf(Button::AFAdd, "Add...", Needs::Nothing),
                 commandOf(Button::AFRemove, "Remove", Needs::ChosenRow)};
     if (&list == &form.lvOpportunity)
-        return {{"Remove", Needs::ChosenRow, true, removeOpportunityMappingChosen}};
+        return {{"Remove", Needs::RemovableRow, true, removeOpportunityMappingChosen}};
     if (&list == &form.lvThreat)
-        return {{"Remove", Needs::ChosenRow, true, removeThreatMappingChosen}};
+        return {{"Remove", Needs::RemovableRow, true, removeThreatMappingChosen}};
     for (const Session session : allOf<Session>)
         for (const StatementKind kind : statementKinds)
             if (&list == &listOf(form, session, kind))
@@ -40,7 +52,11 @@ std::vector<ListCommand> listCommandsOf(const FrmMain& form, const Control& list
     return {};
 }
 
-bool isOffered(const Control& list, const ListCommand& command) {
+bool isOffered(const FrmMain& form, const Control& list, const ListCommand& command) {
+    if (command.needs == Needs::RemovableRow)
+        return std::ranges::any_of(mappingSides, [&](MappingSide side) {
+            return &list == &mappingList(form, side) && holdsRemovableRow(form, side);
+        });
     return command.needs == Needs::Nothing || list.hasSelection();
 }
 

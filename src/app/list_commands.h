@@ -10,7 +10,7 @@ namespace orvanta {
 
 /// A command in the menu of a list.
 struct ListCommand {
-    enum class Needs { Nothing, ChosenRow };
+    enum class Needs { Nothing, ChosenRow, RemovableRow };
 
     std::string_view caption;
     Needs needs = Needs::Nothing;
@@ -22,6 +22,6 @@ struct ListCommand {
 std::vector<ListCommand> listCommandsOf(const FrmMain& form, const Control& list);
 
 /// True if a person can choose the command now.
-bool isOffered(const Control& list, const ListCommand& command);
+bool isOffered(const FrmMain& form, const Control& list, const ListCommand& command);
 
 }  // namespace orvanta

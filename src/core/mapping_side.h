@@ -72,6 +72,9 @@ constexpr std::optional<MappingSide> sideOfParents(StatementKind kind) {
 inline StatementList& mappingList(FrmMain& form, MappingSide side) {
     return form.*sideControls[side].mapping.list;
 }
+inline const StatementList& mappingList(const FrmMain& form, MappingSide side) {
+    return form.*sideControls[side].mapping.list;
+}
 
 /// Runs `visit` on each of the companions of a kind's main Analyze list, the lists that a change
 /// of it goes on to: both picking lists of a strength or weakness, the mapping list of a parent.

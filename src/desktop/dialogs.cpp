@@ -88,7 +88,7 @@ FormDialog::FormDialog(Program& program, QWidget* owner)
     setModal(true);
 }
 
-void FormDialog::dress(const std::string& caption, Twips width, Twips height) {
+void FormDialog::setUpWindow(const std::string& caption, Twips width, Twips height) {
     setWindowTitle(fromCp1252(caption));
     m_area->setDesignSize(width, height);
     m_area->resize(m_area->designSize());
@@ -119,7 +119,7 @@ EditDialog::EditDialog(Program& program, FrmEdit& form, QWidget* owner)
                       {pressed(form.btnOk),
                        [this] { handle(m_program, [&] { releaseEditOk(m_program, m_form); }); }});
     form.closed.subscribe([this] { done(Accepted); });
-    dress(form.caption, form.width, form.height);
+    setUpWindow(form.caption, form.width, form.height);
     box->setFocus();
     // Showing the dialog selects the whole text; a statement is to be reworded, not replaced.
     QTimer::singleShot(0, box, [box] { box->end(false); });
@@ -149,7 +149,7 @@ ReportDialog::ReportDialog(Program& program, FrmReportType& form, QWidget* owner
     form.enabledChanged.subscribe(showEnabled);
     showEnabled();
     form.closed.subscribe([this] { done(Accepted); });
-    dress(form.caption, form.width, form.height);
+    setUpWindow(form.caption, form.width, form.height);
     box->setFocus();
 }
 
@@ -169,7 +169,7 @@ AboutDialog::AboutDialog(Program& program, FrmAbout& form, QWidget* owner)
     QPushButton* ok = makePushButton(form.cmdOK, *m_area, [this] { m_form.close(); });
     ok->setDefault(true);
     form.closed.subscribe([this] { done(Accepted); });
-    dress(form.caption, form.width, form.height);
+    setUpWindow(form.caption, form.width, form.height);
     ok->setFocus();
 }
 

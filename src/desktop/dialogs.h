@@ -20,7 +20,7 @@ public:
 
 protected:
     /// Fits the dialog to a form's size and gives it its title.
-    void dress(const std::string& caption, Twips width, Twips height);
+    void setUpWindow(const std::string& caption, Twips width, Twips height);
     void closeEvent(QCloseEvent* event) override;
     /// The close box was used.
     virtual void closeForm() = 0;

@@ -52,7 +52,7 @@ private:
     }
 
     void choose(const ListCommand& command) {
-        if (isOffered(m_list, command)) command.choose(m_program);
+        if (isOffered(m_program.frmMain, m_list, command)) command.choose(m_program);
     }
 
     void show(const QPoint& globalPlace) {
@@ -67,7 +67,7 @@ private:
             connect(
                 action, &QAction::triggered, this, [this, &command] { choose(command); },
                 Qt::QueuedConnection);
-            action->setEnabled(isOffered(m_list, command));
+            action->setEnabled(isOffered(m_program.frmMain, m_list, command));
         }
         menu->popup(globalPlace);
     }

@@ -60,7 +60,7 @@ int main(int argc, char** argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("orvanta"));
     QGuiApplication::setQuitOnLastWindowClosed(false);  // the splash goes before the window comes
     QSettings::setDefaultFormat(QSettings::IniFormat);
-    dressApplication(application);
+    applyTheme(application);
 
     std::function<void()> end, raise;
     // Ahead of the lock: a second start signals whoever holds it.

@@ -1,6 +1,8 @@
 #include "desktop/message_box.h"
 
+#include <QCloseEvent>
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <array>
 #include <cassert>
@@ -35,7 +37,8 @@ QMessageBox::StandardButton standardButtonFor(MessageAnswer answer) {
 
 }  // namespace
 
-MessageBox::MessageBox(const Message& message, QWidget* owner) : QMessageBox(owner) {
+MessageBox::MessageBox(const Message& message, QWidget* owner)
+    : QMessageBox(owner), m_mustBeAnswered(message.buttons == MessageButtons::YesNo) {
     const auto answers = answersOf(message.buttons);
     setTextFormat(Qt::PlainText);
     setText(fromCp1252(message.text));
@@ -46,9 +49,20 @@ MessageBox::MessageBox(const Message& message, QWidget* owner) : QMessageBox(own
     for (const MessageAnswer answer : answers) buttons |= standardButtonFor(answer);
     setStandardButtons(buttons);
     setEscapeButton(standardButtonFor(answers.back()));
+    if (m_mustBeAnswered) setWindowFlag(Qt::WindowCloseButtonHint, false);
     setDefaultButton(standardButtonFor(message.defaultAnswer));
     setWindowTitle(message.title ? fromCp1252(*message.title)
                                  : QCoreApplication::applicationName());
+}
+
+void MessageBox::keyPressEvent(QKeyEvent* event) {
+    if (m_mustBeAnswered && event->matches(QKeySequence::Cancel)) return event->ignore();
+    QMessageBox::keyPressEvent(event);
+}
+
+void MessageBox::closeEvent(QCloseEvent* event) {
+    if (m_mustBeAnswered) return event->ignore();
+    QMessageBox::closeEvent(event);
 }
 
 QAbstractButton* MessageBox::buttonFor(MessageAnswer answer) const {

@@ -15,6 +15,14 @@ public:
     QAbstractButton* buttonFor(MessageAnswer answer) const;
     /// What the person pressed, once the box has closed.
     MessageAnswer answer() const;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    /// Yes or No alone has to be answered: Escape and the close box mean neither.
+    bool m_mustBeAnswered;
 };
 
 }  // namespace orvanta::desktop

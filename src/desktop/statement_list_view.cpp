@@ -120,7 +120,7 @@ void StatementListView::passOver(QDragMoveEvent& event) {
     if (!drag) return event.ignore();
     draggedOver(m_program, m_list);
     const QPoint point = event.position().toPoint();
-    foresee(drag->from(), point);
+    showDropPreview(drag->from(), point);
     scrollAtEdge(point);
     event.setDropAction(Qt::MoveAction);
     // The whole list is asked again and again while the pointer moves within it; while it
@@ -130,7 +130,7 @@ void StatementListView::passOver(QDragMoveEvent& event) {
 }
 
 /// Shows what a drop at this point would do.
-void StatementListView::foresee(const StatementList& from, const QPoint& point) {
+void StatementListView::showDropPreview(const StatementList& from, const QPoint& point) {
     m_draggedFrom = &from;
     m_draggedTo = point;
     const int row = positionAt(point);
@@ -177,7 +177,7 @@ void StatementListView::timerEvent(QTimerEvent* event) {
     if (event->timerId() != m_edgeTimer.timerId()) return QListView::timerEvent(event);
     assert(m_draggedFrom);
     verticalScrollBar()->setValue(verticalScrollBar()->value() + m_edgeStep);
-    foresee(*m_draggedFrom, m_draggedTo);
+    showDropPreview(*m_draggedFrom, m_draggedTo);
 }
 
 void StatementListView::paintEvent(QPaintEvent* event) {

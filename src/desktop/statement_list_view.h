@@ -63,7 +63,7 @@ private:
     void showSelection();
     void reveal();
     void passOver(QDragMoveEvent& event);
-    void foresee(const StatementList& from, const QPoint& point);
+    void showDropPreview(const StatementList& from, const QPoint& point);
     void endOfDrag();
     void scrollAtEdge(const QPoint& point);
 

@@ -218,7 +218,7 @@ bool asksForContrast(const QPalette& desktop) {
     return contrast(desktop.color(QPalette::WindowText), desktop.color(QPalette::Window)) >= most;
 }
 
-void dressApplication(QApplication& application) {
+void applyTheme(QApplication& application) {
     const QPalette colours = lightPalette(QApplication::palette());
     // Else a widget under a style sheet takes its colours from the application, not its window.
     QApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles);

@@ -33,6 +33,6 @@ double contrast(const QColor& one, const QColor& other);
 bool asksForContrast(const QPalette& desktop);
 
 /// Gives the application its fonts, colours and pictures; called once, ahead of any window.
-void dressApplication(QApplication& application);
+void applyTheme(QApplication& application);
 
 }  // namespace orvanta::desktop

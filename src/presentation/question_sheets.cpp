@@ -9,8 +9,8 @@
 namespace orvanta {
 
 QuestionSheets questionSheetsOf(const Program& program, const Module& module) {
-    QuestionBanks banks;  // a copy of its own: the wizard's questions stay as they are
-    const BestEffort step;   // what can be read of a damaged bank is printed all the same
+    QuestionBanks banks;    // a copy of its own: the wizard's questions stay as they are
+    const BestEffort step;  // what can be read of a damaged bank is printed all the same
     step([&] {
         loadQuestionBank(program.platform.disk, bankPath(program.appPath, module.code), banks);
     });

@@ -28,6 +28,37 @@ TEST(ListMenu, OfMappedRowsOffersToRemoveAsTheDeleteKeyDoes) {
         EXPECT_EQ(menuOf(bench, list), Texts{"Remove (Delete)"}) << list;
 }
 
+class RemoveOnAMappingList : public testing::TestWithParam<MappingSide> {
+protected:
+    RemoveOnAMappingList() {
+        bench.goTo(GetParam());
+        bench.map(GetParam().strengths, 1, GetParam().list, 1);
+    }
+    bool isOfferedOn(int row) {
+        const StatementList& list = bench.list(GetParam().list);
+        bench.select(GetParam().list, row);
+        return isOffered(bench.form(), list, listCommandsOf(bench.form(), list).front());
+    }
+    AnalysisBench bench;
+};
+INSTANTIATE_TEST_SUITE_P(Of, RemoveOnAMappingList, testing::ValuesIn(mappingSides()),
+                         NameOfParameter());
+
+TEST_P(RemoveOnAMappingList, IsOfferedForAMappedRow) {
+    EXPECT_TRUE(isOfferedOn(2));
+    EXPECT_FALSE(isOfferedOn(0));
+}
+
+TEST_P(RemoveOnAMappingList, IsNotOfferedForARowThatTheListBeforeHolds) {
+    EXPECT_FALSE(isOfferedOn(1));
+    EXPECT_FALSE(isOfferedOn(3));
+}
+
+TEST_P(RemoveOnAMappingList, IsOfferedForWhatAnUndoneAdditionLeft) {
+    bench.list(GetParam().list).add({.key = GetParam().parent(9), .text = "Left", .image = 3});
+    EXPECT_TRUE(isOfferedOn(bench.list(GetParam().list).count()));
+}
+
 TEST(ListMenu, OfSourceFilesOffersToMergeAddAndRemove) {
     Bench bench;
     EXPECT_EQ(menuOf(bench, "lstFiles"), (Texts{"Merge...", "Add...", "Remove"}));
@@ -46,7 +77,7 @@ TEST(ListMenu, OffersWhatNeedsARowOnlyWhileOneIsSelected) {
     const auto offered = [&] {
         Texts captions;
         for (const ListCommand& command : listCommandsOf(bench.form(), files))
-            if (isOffered(files, command)) captions.emplace_back(command.caption);
+            if (isOffered(bench.form(), files, command)) captions.emplace_back(command.caption);
         return captions;
     };
     bench.form().lstFiles.setSelectedIndex(-1);

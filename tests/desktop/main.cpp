@@ -11,7 +11,7 @@ int main(int argc, char** argv) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
     const QTemporaryDir settings;  // a file dialog keeps its columns there from run to run
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
-    orvanta::desktop::dressApplication(application);
+    orvanta::desktop::applyTheme(application);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -26,8 +26,20 @@ MessageAnswer answerOnEscape(MessageButtons buttons) {
 
 TEST(MessageBox, GivesItsLastAnswerWhenItIsClosed) {
     EXPECT_EQ(answerOnEscape(MessageButtons::Ok), MessageAnswer::Ok);
-    EXPECT_EQ(answerOnEscape(MessageButtons::YesNo), MessageAnswer::No);
     EXPECT_EQ(answerOnEscape(MessageButtons::YesNoCancel), MessageAnswer::Cancel);
+}
+
+TEST(MessageBox, OfYesAndNoHeedsNeitherEscapeNorItsCloseBox) {
+    MessageBox box({.text = "Go on?", .buttons = MessageButtons::YesNo}, nullptr);
+    box.show();
+    QTest::keyClick(&box, Qt::Key_Escape);
+    QTest::keyClick(box.buttonFor(MessageAnswer::Yes), Qt::Key_Escape);
+    box.close();
+    EXPECT_TRUE(box.isVisible());
+    EXPECT_FALSE(box.windowFlags() & Qt::WindowCloseButtonHint);
+    box.buttonFor(MessageAnswer::No)->click();
+    EXPECT_FALSE(box.isVisible());
+    EXPECT_EQ(box.answer(), MessageAnswer::No);
 }
 
 TEST(MessageBox, HasAButtonForEachAnswer) {

@@ -115,13 +115,13 @@ std::vector<DesktopColours> desktopColours() { return {light, dark, highContrast
 class Edges : public Legibility {
 protected:
     Edges() {
-        dressApplication(*qApp);
+        applyTheme(*qApp);
         bench.start();
         bench.window().show();
     }
     ~Edges() override {
         QApplication::setPalette(light.palette);
-        dressApplication(*qApp);
+        applyTheme(*qApp);
     }
 
     /// The contrast of the left edge of a part of a control with the paper beside it.

@@ -12,7 +12,7 @@ namespace {
 /// send them.
 class ModelStage : public Stage {
 public:
-    void raiseCurtain(Program& program) override { m_program = &program; }
+    void attach(Program& program) override { m_program = &program; }
 
     void type(TextBox& box, const std::string& text) override {
         for (const char character : text)

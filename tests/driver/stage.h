@@ -31,13 +31,13 @@ struct ReportStep {
 
 /// Where the program is played: behind the toolkit-free view, or in the real window. What a
 /// line of the script means has been decided before; a stage only carries it out. All texts
-/// are Windows-1252. Positions of rows count from 1, 0 is none or beside all rows.
+/// are Windows-1252. Positions of rows count from 1, 0 is none or outside every row.
 class Stage {
 public:
     virtual ~Stage() = default;
 
     /// Puts the program on stage: called once, before it starts. It outlives the stage's use.
-    virtual void raiseCurtain(Program& program) = 0;
+    virtual void attach(Program& program) = 0;
     /// Lets everything that is still under way come to rest: called behind each line.
     virtual void settle() {}
 

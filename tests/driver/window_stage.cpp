@@ -73,7 +73,7 @@ void paste(QLineEdit& box, const std::string& text) {
 /// Where a radio button or a check box surely takes a click.
 QPoint onIndicator(const QWidget& widget) { return {8, widget.height() / 2}; }
 
-/// A point of the view that is beside all its rows, in or out of sight.
+/// A point of the view outside every row, in or out of sight.
 QPoint besideRows(const QAbstractItemView& view) {
     QPoint point = view.viewport()->rect().bottomLeft() + QPoint(view.viewport()->width() / 2, -2);
     while (view.indexAt(point).isValid()) point.ry() += view.viewport()->height();
@@ -123,10 +123,10 @@ public:
     WindowStage(int& argc, char** argv) : m_application(argc, argv) {
         QCoreApplication::setApplicationName(QStringLiteral("Orvanta"));
         QGuiApplication::setQuitOnLastWindowClosed(false);
-        dressApplication(m_application);
+        applyTheme(m_application);
     }
 
-    void raiseCurtain(Program& program) override {
+    void attach(Program& program) override {
         m_program = &program;
         m_window = std::make_unique<MainWindow>(program);
         m_systemEvents = std::make_unique<SystemEventsKeptOut>(*m_window);

@@ -62,8 +62,10 @@ TEST(QuestionSheets, HoldTheQuestionsOfTheBankAndLeaveTheWizardsAlone) {
     printQuestions(program);
     EXPECT_EQ(tray.sheets().code, "sbd");
     EXPECT_EQ(tray.sheets().title, "Sales & Business Development");
-    EXPECT_EQ(tray.sheets().questions[StatementKind::Strength], (Texts{"S question 1", "S question 2"}));
-    EXPECT_EQ(tray.sheets().questions[StatementKind::Threat], (Texts{"T question 1", "T question 2"}));
+    EXPECT_EQ(tray.sheets().questions[StatementKind::Strength],
+              (Texts{"S question 1", "S question 2"}));
+    EXPECT_EQ(tray.sheets().questions[StatementKind::Threat],
+              (Texts{"T question 1", "T question 2"}));
     EXPECT_EQ(program.questions.strengthCount, 0);
     EXPECT_EQ(bench.program().questions.strengthQuestions, before);
 }

@@ -275,7 +275,7 @@ int main(int argc, char** argv) {
               << QApplication::palette().window().color().name().toStdString();
     QCoreApplication::setApplicationName(QStringLiteral("Orvanta"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    orvanta::desktop::dressApplication(application);
+    orvanta::desktop::applyTheme(application);
     orvanta::test::Album album(folder);
     orvanta::test::Session(album).takeAll();
     std::cout << ", " << album.count() << " pictures in " << folder.toStdString() << '\n';

@@ -26,7 +26,7 @@ constexpr const char* usage =
 constexpr std::size_t mostShown = 12;
 
 struct Task {
-    Theatre theatre;
+    ScenarioSetup setup;
     fs::path scenarios;
     std::vector<std::string> names;
     bool accept = false;
@@ -38,7 +38,7 @@ std::optional<Task> taskFrom(const std::vector<std::string>& words) {
     for (auto word = words.begin(); word != words.end(); ++word) {
         const bool last = word + 1 == words.end();
         if (*word == "--window")
-            task.theatre.window = true;
+            task.setup.window = true;
         else if (*word == "--xvfb")
             task.xvfb = true;
         else if (*word == "--accept")
@@ -48,16 +48,16 @@ std::optional<Task> taskFrom(const std::vector<std::string>& words) {
         else if (last)
             return std::nullopt;
         else if (*word == "--driver")
-            task.theatre.driver = fs::absolute(*++word);
+            task.setup.driver = fs::absolute(*++word);
         else if (*word == "--scenarios")
             task.scenarios = *++word;
         else if (*word == "--time-out")
-            task.theatre.timeOut = std::chrono::seconds(std::stoi(*++word));
+            task.setup.timeOut = std::chrono::seconds(std::stoi(*++word));
         else
             return std::nullopt;
     }
-    if (task.theatre.driver.empty() || task.scenarios.empty()) return std::nullopt;
-    task.theatre.standard = task.scenarios / "standard";
+    if (task.setup.driver.empty() || task.scenarios.empty()) return std::nullopt;
+    task.setup.standard = task.scenarios / "standard";
     return task;
 }
 
@@ -109,7 +109,7 @@ bool equalsKept(const std::vector<Played>& played, const std::vector<Json>& kept
 bool passes(const Task& task, const std::string& name) {
     const fs::path scenario = task.scenarios / name;
     try {
-        const auto played = play(task.theatre, scenario);
+        const auto played = play(task.setup, scenario);
         if (!task.accept) return equalsKept(played, keptAnswers(scenario / "expected.jsonl"));
         keep(played, scenario / "expected.jsonl");
         return true;

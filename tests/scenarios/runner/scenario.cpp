@@ -77,10 +77,10 @@ bool holdsBanks(const fs::path& folder) {
 /// One scenario while it is played.
 class Play {
 public:
-    Play(const Theatre& theatre, const fs::path& scenario) : m_theatre(theatre) {
+    Play(const ScenarioSetup& setup, const fs::path& scenario) : m_setup(setup) {
         for (const char* folder : {"app", "docs"}) fs::create_directory(m_folder.path() / folder);
         const fs::path start = scenario / "start";
-        if (!holdsBanks(start / "app")) copy(theatre.standard);
+        if (!holdsBanks(start / "app")) copy(setup.standard);
         if (fs::exists(start)) copy(start);
         startDriver();
     }
@@ -110,10 +110,10 @@ private:
 
     void startDriver() {
         const fs::path& folder = m_folder.path();
-        std::vector<std::string> command{m_theatre.driver,        "--app",         folder / "app",
+        std::vector<std::string> command{m_setup.driver,          "--app",         folder / "app",
                                          "--documents",           folder / "docs", "--settings",
                                          folder / "settings.json"};
-        if (m_theatre.window) command.push_back("--window");
+        if (m_setup.window) command.push_back("--window");
         m_driver = std::make_unique<DriverProcess>(command, folder, m_deadline);
     }
 
@@ -172,9 +172,9 @@ private:
         return {{"restart", true}};
     }
 
-    const Theatre& m_theatre;
+    const ScenarioSetup& m_setup;
     TemporaryFolder m_folder;
-    Deadline m_deadline = std::chrono::steady_clock::now() + m_theatre.timeOut;
+    Deadline m_deadline = std::chrono::steady_clock::now() + m_setup.timeOut;
     std::unique_ptr<DriverProcess> m_driver;
 };
 
@@ -185,8 +185,8 @@ bool isComment(const std::string& line) {
 
 }  // namespace
 
-std::vector<Played> play(const Theatre& theatre, const fs::path& scenario) {
-    Play play(theatre, scenario);
+std::vector<Played> play(const ScenarioSetup& setup, const fs::path& scenario) {
+    Play play(setup, scenario);
     std::ifstream lines(scenario / "lines.jsonl");
     std::vector<Played> played;
     std::string line;

@@ -10,7 +10,7 @@
 namespace orvanta::scenarios {
 
 /// What a scenario is played with.
-struct Theatre {
+struct ScenarioSetup {
     std::string driver;                // the program file of the test driver
     std::filesystem::path standard;    // its app/ takes the place of missing question banks
     bool window = false;               // on the real window
@@ -25,6 +25,6 @@ struct Played {
 
 /// Plays the scenario of this folder, from its lines.jsonl, in a new folder of its own that is
 /// removed behind it. Its name reads $DIR in lines and answers.
-std::vector<Played> play(const Theatre& theatre, const std::filesystem::path& scenario);
+std::vector<Played> play(const ScenarioSetup& setup, const std::filesystem::path& scenario);
 
 }  // namespace orvanta::scenarios
