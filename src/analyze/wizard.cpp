@@ -1,7 +1,7 @@
 #include "analyze/wizard.h"
 
+#include <algorithm>
 #include <optional>
-#include <ranges>
 
 #include "analyze/source_files.h"
 #include "analyze/statements.h"
@@ -25,13 +25,16 @@ constexpr AnalyzeStep firstMapping = AnalyzeStep::OpportunityMapping,
 Panel& panelOf(FrmMain& form, AnalyzeStep step) { return form.*stepControls[step].panel; }
 
 /// The first of some steps whose panel is visible; the source files where none is.
-AnalyzeStep stepOnScreen(const FrmMain& form, std::ranges::range auto steps) {
-    for (const AnalyzeStep step : steps) {
+template <class Iterator>
+AnalyzeStep stepOnScreen(const FrmMain& form, Iterator first, Iterator last) {
+    const auto shown = std::find_if(first, last, [&](AnalyzeStep step) {
         const auto panel = stepControls[step].panel;
-        if (panel && (form.*panel).isVisible()) return step;
-    }
-    return AnalyzeStep::SourceFiles;
+        return panel && (form.*panel).isVisible();
+    });
+    return shown == last ? AnalyzeStep::SourceFiles : *shown;
 }
+
+constexpr auto& allSteps = allOf<AnalyzeStep>;
 
 void enter(Program& program, AnalyzeStep step) {
     panelOf(program.frmMain, step).show();
@@ -96,7 +99,7 @@ void goBackFrom(Program& program, AnalyzeStep step) {
 void analyzeNext(Program& program) {
     reportingFailures(program.platform.messages, [&] {
         stopNarration(program);
-        const AnalyzeStep step = stepOnScreen(program.frmMain, allOf<AnalyzeStep>);
+        const AnalyzeStep step = stepOnScreen(program.frmMain, allSteps.begin(), allSteps.end());
         const bool moved =
             step == AnalyzeStep::SourceFiles ? startReview(program) : goOnFrom(program, step);
         if (moved) program.frmMain.picABack.show();
@@ -107,8 +110,7 @@ void analyzeBack(Program& program) {
     reportingFailures(program.platform.messages, [&] {
         stopNarration(program);
         // With two panels visible Next takes the first one and Back the last.
-        const AnalyzeStep step =
-            stepOnScreen(program.frmMain, allOf<AnalyzeStep> | std::views::reverse);
+        const AnalyzeStep step = stepOnScreen(program.frmMain, allSteps.rbegin(), allSteps.rend());
         if (step == AnalyzeStep::SourceFiles) return;
         goBackFrom(program, step);
         clearJournal(program);
