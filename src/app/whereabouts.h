@@ -20,11 +20,6 @@ std::string countsInWords(const Whereabouts& whereabouts);
 /// All of it for those who do not see the pictures.
 std::string inWords(const Whereabouts& whereabouts);
 
-/// "Strengths 2, Weaknesses 0" and so on.
-std::string countsInWords(const Whereabouts& whereabouts);
-/// All of it for those who do not see the pictures.
-std::string inWords(const Whereabouts& whereabouts);
-
 /// Takes the same time however long the lists are.
 Whereabouts whereaboutsOf(const Program& program);
 
