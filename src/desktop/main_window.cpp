@@ -147,7 +147,7 @@ void MainWindow::makeLink(Label& label, LinkView::Ground ground, void (*clicked)
 void MainWindow::makeMergeLink() {
     const Label& above = m_program.frmMain.buttons[Button::AFRemove].label;
     const Label& likeness = m_program.frmMain.lblDistribute;
-    m_merge.setToolTip("Join the files of the list into one new Brainstorm file.");
+    m_merge.setToolTip("Join the files in the list into one new Brainstorm file.");
     m_merge.container = above.container;
     m_merge.coveredBy = above.coveredBy;
     m_merge.stretch = above.stretch;
