@@ -8,7 +8,7 @@ namespace orvanta {
 
 inline constexpr std::string_view mergeCaption = "Merge...";
 inline constexpr std::string_view mergeToolTip =
-    "Join the files of the list into one new Brainstorm file.";
+    "Join the files in the list into one new Brainstorm file.";
 
 /// Joins the listed brainstorm files into a new one that the person names. The lists on screen
 /// are not touched.
