@@ -102,10 +102,10 @@ void generateHtmlReport(Program& program, const std::string& analyzeFile) {
         readReportSource(program.platform.disk.read(analyzeFile), ReportScope::Correlation, lists);
     } catch (const Failure&) {
         // The former page must not be taken for that of this analysis.
-        program.platform.disk.replace(page, Page().takeBytes());
+        program.platform.disk.replaceOwn(page, Page().takeBytes());
         throw;
     }
-    program.platform.disk.replace(page, htmlReportBytes(lists));
+    program.platform.disk.replaceOwn(page, htmlReportBytes(lists));
     program.platform.shell.open(page);
 }
 

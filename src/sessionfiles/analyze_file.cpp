@@ -16,6 +16,7 @@
 #include "core/text.h"
 #include "core/workspace.h"
 #include "sessionfiles/section_writer.h"
+#include "sessionfiles/session_disk.h"
 #include "sessionfiles/step_codes.h"
 
 namespace orvanta {
@@ -169,12 +170,16 @@ std::string analyzeBytes(const FrmMain& form, bool withStep) {
 
 void saveAnalyzeData(Program& program, const std::string& fileName, bool TmpFlag) {
     const CarryOn step;
-    step([&] { program.platform.disk.replace(fileName, analyzeBytes(program.frmMain, TmpFlag)); });
+    step([&] {
+        writeSession(program.platform.disk, fileName, analyzeBytes(program.frmMain, TmpFlag),
+                     TmpFlag);
+    });
 }
 
 void loadAnalyzeData(Program& program, const std::string& fileName, bool restoreStep) {
     if (!fileExists(program, fileName)) return;
-    const std::string bytes = program.platform.disk.read(fileName);
+    // A step stands in the temporary file alone.
+    const std::string bytes = readSession(program.platform.disk, fileName, restoreStep);
     Reading reading(program.frmMain, restoreStep);
     LineSource lines(bytes);
     while (const auto line = lines.next()) reading.take(*line);

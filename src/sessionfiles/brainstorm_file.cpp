@@ -9,6 +9,7 @@
 #include "core/text.h"
 #include "core/workspace.h"
 #include "sessionfiles/section_writer.h"
+#include "sessionfiles/session_disk.h"
 #include "sessionfiles/step_codes.h"
 
 namespace orvanta {
@@ -111,14 +112,16 @@ std::string brainstormBytes(const FrmMain& form, bool withStep) {
 void saveBrainstormData(Program& program, const std::string& fileName, bool TmpFlag) {
     const CarryOn step;
     step([&] {
-        program.platform.disk.replace(fileName, brainstormBytes(program.frmMain, TmpFlag));
+        writeSession(program.platform.disk, fileName, brainstormBytes(program.frmMain, TmpFlag),
+                     TmpFlag);
     });
 }
 
 void loadBrainstormData(Program& program, const std::string& fileName, std::string_view target,
                         bool restoreStep) {
     if (!fileExists(program, fileName)) return;
-    const std::string bytes = program.platform.disk.read(fileName);
+    // A step stands in the temporary file alone.
+    const std::string bytes = readSession(program.platform.disk, fileName, restoreStep);
     Reading reading(program, target == "BS", restoreStep);
     LineSource lines(bytes);
     while (const auto line = lines.next()) reading.take(*line);
