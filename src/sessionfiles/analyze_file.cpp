@@ -18,6 +18,7 @@
 #include "sessionfiles/section_writer.h"
 #include "sessionfiles/session_disk.h"
 #include "sessionfiles/step_codes.h"
+#include "view/within_memory.h"
 
 namespace orvanta {
 
@@ -178,11 +179,13 @@ void saveAnalyzeData(Program& program, const std::string& fileName, bool TmpFlag
 
 void loadAnalyzeData(Program& program, const std::string& fileName, bool restoreStep) {
     if (!fileExists(program, fileName)) return;
-    // A step stands in the temporary file alone.
-    const std::string bytes = readSession(program.platform.disk, fileName, restoreStep);
-    Reading reading(program.frmMain, restoreStep);
-    LineSource lines(bytes);
-    while (const auto line = lines.next()) reading.take(*line);
+    withinMemory([&] {
+        // A step stands in the temporary file alone.
+        const std::string bytes = readSession(program.platform.disk, fileName, restoreStep);
+        Reading reading(program.frmMain, restoreStep);
+        LineSource lines(bytes);
+        while (const auto line = lines.next()) reading.take(*line);
+    });
 }
 
 }  // namespace orvanta

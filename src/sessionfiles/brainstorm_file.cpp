@@ -11,6 +11,7 @@
 #include "sessionfiles/section_writer.h"
 #include "sessionfiles/session_disk.h"
 #include "sessionfiles/step_codes.h"
+#include "view/within_memory.h"
 
 namespace orvanta {
 
@@ -120,11 +121,13 @@ void saveBrainstormData(Program& program, const std::string& fileName, bool TmpF
 void loadBrainstormData(Program& program, const std::string& fileName, std::string_view target,
                         bool restoreStep) {
     if (!fileExists(program, fileName)) return;
-    // A step stands in the temporary file alone.
-    const std::string bytes = readSession(program.platform.disk, fileName, restoreStep);
-    Reading reading(program, target == "BS", restoreStep);
-    LineSource lines(bytes);
-    while (const auto line = lines.next()) reading.take(*line);
+    withinMemory([&] {
+        // A step stands in the temporary file alone.
+        const std::string bytes = readSession(program.platform.disk, fileName, restoreStep);
+        Reading reading(program, target == "BS", restoreStep);
+        LineSource lines(bytes);
+        while (const auto line = lines.next()) reading.take(*line);
+    });
 }
 
 }  // namespace orvanta

@@ -11,6 +11,7 @@
 #include "core/text.h"
 #include "core/workspace.h"
 #include "sessionfiles/section_writer.h"
+#include "view/within_memory.h"
 
 namespace orvanta {
 
@@ -56,6 +57,15 @@ std::string bytesOf(const Merged& merged) {
     return writer.finish();
 }
 
+std::string mergedBytes(const Program& program) {
+    return withinMemory([&] {
+        Merged merged;
+        for (const std::string& source : program.frmMain.lstFiles.items())
+            if (fileExists(program, source)) readSource(program.platform.disk.read(source), merged);
+        return bytesOf(merged);
+    });
+}
+
 }  // namespace
 
 void mergeBrainstormFiles(Program& program) {
@@ -67,10 +77,7 @@ void mergeBrainstormFiles(Program& program) {
         if (fileExists(program, target) &&
             !mayOverwrite(program.platform.messages, std::string(appTitle)))
             return;
-        Merged merged;
-        for (const std::string& source : form.lstFiles.items())
-            if (fileExists(program, source)) readSource(program.platform.disk.read(source), merged);
-        program.platform.disk.replace(target, bytesOf(merged));
+        program.platform.disk.replace(target, mergedBytes(program));
         inform(program.platform.messages, "Brainstorm files merged.");
     });
 }
