@@ -68,5 +68,12 @@ TEST_F(OwnFile, IsNotWrittenThroughALinkThatItsFolderKeeps) {
     ::chmod((folder / "kept").c_str(), 0777);
 }
 
+// Somebody may put the link there at any moment.
+TEST_F(OwnFile, IsNotOpenedThroughALinkToBeWrittenOver) {
+    folder.write("precious", "of somebody");
+    fs::create_symlink("precious", folder / "own");
+    EXPECT_EQ(failureOf([&] { native::File::toChange(folder / "own"); }), pathFileAccess);
+}
+
 }  // namespace
 }  // namespace orvanta::test
