@@ -1,9 +1,9 @@
 #include "view/rescue_store.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <ctime>
+#include <iomanip>
+#include <sstream>
 #include <vector>
 
 #include "view/native_file.h"
@@ -19,18 +19,13 @@ constexpr std::string_view stampForm = "0000-00-00 00-00-00.000 ";
 constexpr std::size_t longestName = 255 - stampForm.size();
 
 std::string stampOf(RescueStore::Time time) {
-    using namespace std::chrono;
-    const auto day = floor<days>(time);
-    const year_month_day date(day);
-    const hh_mm_ss clock(floor<milliseconds>(time - day));
-    std::array<char, stampForm.size() + 1> stamp;
-    std::snprintf(stamp.data(), stamp.size(), "%04d-%02u-%02u %02d-%02d-%02d.%03d ",
-                  static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
-                  static_cast<unsigned>(date.day()), static_cast<int>(clock.hours().count()),
-                  static_cast<int>(clock.minutes().count()),
-                  static_cast<int>(clock.seconds().count()),
-                  static_cast<int>(clock.subseconds().count()));
-    return stamp.data();
+    const auto second = std::chrono::floor<std::chrono::seconds>(time);
+    const std::time_t whole = std::chrono::system_clock::to_time_t(second);
+    const auto rest = std::chrono::floor<std::chrono::milliseconds>(time - second);
+    std::ostringstream stamp;
+    stamp << std::put_time(std::gmtime(&whole), "%Y-%m-%d %H-%M-%S.") << std::setfill('0')
+          << std::setw(3) << rest.count() << ' ';
+    return stamp.str();
 }
 
 bool isCopy(std::string_view name) {
