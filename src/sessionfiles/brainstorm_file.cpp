@@ -7,11 +7,9 @@
 #include "core/modules.h"
 #include "core/section_tags.h"
 #include "core/text.h"
-#include "core/workspace.h"
 #include "sessionfiles/section_writer.h"
 #include "sessionfiles/session_disk.h"
 #include "sessionfiles/step_codes.h"
-#include "view/within_memory.h"
 
 namespace orvanta {
 
@@ -120,14 +118,8 @@ void saveBrainstormData(Program& program, const std::string& fileName, bool TmpF
 
 void loadBrainstormData(Program& program, const std::string& fileName, std::string_view target,
                         bool restoreStep) {
-    if (!fileExists(program, fileName)) return;
-    withinMemory([&] {
-        // A step stands in the temporary file alone.
-        const std::string bytes = readSession(program.platform.disk, fileName, restoreStep);
-        Reading reading(program, target == "BS", restoreStep);
-        LineSource lines(bytes);
-        while (const auto line = lines.next()) reading.take(*line);
-    });
+    // A step stands in the temporary file alone.
+    readSession(program, fileName, restoreStep, Reading(program, target == "BS", restoreStep));
 }
 
 }  // namespace orvanta

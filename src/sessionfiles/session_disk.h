@@ -2,19 +2,30 @@
 
 #include <string>
 
-#include "view/platform.h"
+#include "core/text.h"
+#include "core/workspace.h"
+#include "view/within_memory.h"
 
 namespace orvanta {
 
 // A session in a file that a person named, or in a temporary one, which is the program's own.
 
-inline std::string readSession(const Disk& disk, const std::string& fileName, bool temporary) {
-    return temporary ? disk.readOwn(fileName) : disk.read(fileName);
-}
-
 inline void writeSession(Disk& disk, const std::string& fileName, std::string_view bytes,
                          bool temporary) {
     temporary ? disk.replaceOwn(fileName, bytes) : disk.replace(fileName, bytes);
+}
+
+/// Hands each line of a file to `reading`. A missing file has none.
+template <class Reading>
+void readSession(const Program& program, const std::string& fileName, bool temporary,
+                 Reading reading) {
+    if (!fileExists(program, fileName)) return;
+    const Disk& disk = program.platform.disk;
+    withinMemory([&] {
+        const std::string bytes = temporary ? disk.readOwn(fileName) : disk.read(fileName);
+        LineSource lines(bytes);
+        while (const auto line = lines.next()) reading.take(*line);
+    });
 }
 
 }  // namespace orvanta
