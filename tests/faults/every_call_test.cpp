@@ -212,8 +212,8 @@ protected:
     ~AFaultAtEveryCall() override { ::chmod((folder / writer.folder).c_str(), 0777); }
 
     static void TearDownTestSuite() {
-        std::printf("faults: %d calls met %d errors and %d kills; every file was whole\n",
-                    counts.calls, counts.faults, counts.kills);
+        std::printf("faults: %d calls of %zu writers in %zu places met %d errors and %d kills\n",
+                    counts.calls, writers().size(), places.size(), counts.faults, counts.kills);
     }
 
     const Writer writer = std::get<0>(GetParam());
