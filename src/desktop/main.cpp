@@ -14,13 +14,17 @@
 
 namespace {
 
+/// The user's own folder for this program; it need not be there.
+QString dataPath() {
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+}
+
 /// The program's own folder where it can be written, else one of the user's.
 QString scratchPath() {
     QString beside = QCoreApplication::applicationDirPath();
     if (QFileInfo(beside).isWritable()) return beside;
-    QString own = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
-    QDir().mkpath(own);
-    return own;
+    QDir().mkpath(dataPath());
+    return dataPath();
 }
 
 }  // namespace
@@ -36,7 +40,7 @@ int main(int argc, char** argv) {
     QSettings::setDefaultFormat(QSettings::IniFormat);
     dressApplication(application);
 
-    FileDisk disk;
+    FileDisk disk{RescueStore(QDir(dataPath()).filePath("rescue").toStdString())};
     DesktopPlatform desktop(disk);
     Program program(desktop.platform(), toCp1252(QCoreApplication::applicationDirPath()),
                     toCp1252(scratchPath()));
