@@ -24,4 +24,5 @@ for preset in "${presets[@]}"; do
     cmake --build --preset "$preset"
     echo "== $preset: test"
     ctest --preset "$preset" --parallel "$(nproc)"
+    grep -h '^faults: ' "build/$preset/Testing/Temporary/LastTest.log"
 done

@@ -23,10 +23,12 @@ std::vector<std::string_view> splitAt(std::string_view text, std::string_view de
 
 std::string replaceAll(std::string_view text, std::string_view from, std::string_view to) {
     std::string result;
-    for (const std::string_view part : splitAt(text, from)) {
-        if (part.data() != text.data()) result += to;
-        result += part;
+    std::size_t start = 0;
+    for (std::size_t at; (at = text.find(from, start)) != std::string_view::npos;) {
+        result.append(text.substr(start, at - start)).append(to);
+        start = at + from.size();
     }
+    result.append(text.substr(start));
     return result;
 }
 

@@ -23,10 +23,14 @@ namespace {
 
 using namespace orvanta::desktop;
 
+/// The user's own folder for this program; it need not be there.
+QString dataPath() {
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+}
+
 QString ownFolder() {
-    QString own = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
-    QDir().mkpath(own);
-    return own;
+    QDir().mkpath(dataPath());
+    return dataPath();
 }
 
 /// The program's own folder where it can be written and nobody else uses it, else one of the
@@ -75,7 +79,7 @@ int main(int argc, char** argv) {
     const auto scratch = scratchFolder(lock);
     if (!scratch) return EXIT_SUCCESS;
 
-    FileDisk disk;
+    FileDisk disk{RescueStore(QDir(dataPath()).filePath("rescue").toStdString())};
     DesktopPlatform desktop(disk);
     Program program(desktop.platform(), toCp1252(QCoreApplication::applicationDirPath()),
                     toCp1252(*scratch));

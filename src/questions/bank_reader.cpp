@@ -6,6 +6,7 @@
 #include "core/kind_controls.h"
 #include "core/section_tags.h"
 #include "core/text.h"
+#include "view/within_memory.h"
 
 namespace orvanta {
 
@@ -78,6 +79,22 @@ private:
     int m_growthBound = boundStep;  // one for all sections
 };
 
+/// The index of the last heading that begins in a file, -1 for none.
+int takeHeadings(std::string_view bytes, std::array<std::string, 7>& headings) {
+    int index = -1;
+    LineSource lines(bytes);
+    while (index != 6) {
+        const auto line = lines.next();
+        if (!line) break;
+        const std::string_view trimmed = trimBlanks(*line);
+        if (trimmed == questionTag)
+            ++index;
+        else if (!trimmed.empty() && index != -1)
+            headings[static_cast<std::size_t>(index)].append(1, ' ').append(*line);
+    }
+    return index;
+}
+
 }  // namespace
 
 BankList bankListOf(StatementKind kind) { return bankLists[kind]; }
@@ -89,11 +106,13 @@ std::string bankPath(const std::string& appPath, std::string_view code) {
 bool loadQuestionBank(const Disk& disk, const std::string& path, QuestionBanks& into) {
     for (const BankList& list : bankLists) into.*list.count = 0;
     if (disk.kindOf(path) != PathKind::File) return false;
-    for (const BankList& list : bankLists) (into.*list.questions).assign(boundStep + 1, {});
-    const std::string bytes = disk.read(path);
-    BankReading reading(into);
-    LineSource lines(bytes);
-    while (const auto line = lines.next()) reading.take(*line);
+    withinMemory([&] {
+        for (const BankList& list : bankLists) (into.*list.questions).assign(boundStep + 1, {});
+        const std::string bytes = disk.read(path);
+        BankReading reading(into);
+        LineSource lines(bytes);
+        while (const auto line = lines.next()) reading.take(*line);
+    });
     bool everyList = true;
     for (const BankList& list : bankLists) everyList = everyList && into.*list.count > 0;
     return everyList;
@@ -102,23 +121,10 @@ bool loadQuestionBank(const Disk& disk, const std::string& path, QuestionBanks& 
 void readAnalyzeHeadings(const Disk& disk, const std::string& appPath,
                          std::array<std::string, 7>& headings) {
     headings.fill({});
-    int index = -1;
+    int index = 0;
     const std::string path = bankPath(appPath, "analyze");
-    if (disk.kindOf(path) == PathKind::File) {
-        const std::string bytes = disk.read(path);
-        LineSource lines(bytes);
-        while (index != 6) {
-            const auto line = lines.next();
-            if (!line) break;
-            const std::string_view trimmed = trimBlanks(*line);
-            if (trimmed == questionTag)
-                ++index;
-            else if (!trimmed.empty() && index != -1)
-                headings[static_cast<std::size_t>(index)].append(1, ' ').append(*line);
-        }
-    } else {
-        index = 0;
-    }
+    if (disk.kindOf(path) == PathKind::File)
+        index = withinMemory([&] { return takeHeadings(disk.read(path), headings); });
     // The heading at the index goes too: without a seventh tag the last one read is not kept.
     for (; index <= 5; ++index) {
         if (index < 0) throw Failure(ErrorNumber::SubscriptOutOfRange);

@@ -106,10 +106,10 @@ void generateHtmlReport(Program& program, const std::string& analyzeFile) {
         writeAnalysis(page, disk.read(analyzeFile));
     } catch (const Failure&) {
         // A page that breaks off can't be taken for the former one, which is of another analysis.
-        disk.replace(path, page.bytes());
+        disk.replaceOwn(path, page.bytes());
         throw;
     }
-    disk.replace(path, page.bytes());
+    disk.replaceOwn(path, page.bytes());
     program.platform.shell.open(path);
 }
 

@@ -8,6 +8,7 @@
 #include "core/mapping_keys.h"
 #include "core/section_tags.h"
 #include "core/text.h"
+#include "view/within_memory.h"
 
 namespace orvanta {
 
@@ -57,6 +58,17 @@ void takeRow(const ReportSection& section, std::string_view line, ReportLists& l
     (lists.*section.list).add(std::move(entry));
 }
 
+void takeLine(std::string_view line, ReportScope scope, OpenSection& open, ReportLists& lists) {
+    if (const auto tag = tagOf(trimBlanks(line), knownSections)) {
+        const ReportSection* named = sectionRead(tag->section, scope);
+        // Also where the tag stands inside another section and opens nothing.
+        if (tag->opens && named && named->startsAnew) (lists.*named->list).startAnew();
+        open.take(*tag);
+    } else if (const auto section = open.section()) {
+        if (const ReportSection* read = sectionRead(*section, scope)) takeRow(*read, line, lists);
+    }
+}
+
 }  // namespace
 
 void ReportList::add(std::string entry) {
@@ -69,19 +81,11 @@ void ReportList::add(std::string entry) {
 }
 
 void readReportSource(std::string_view bytes, ReportScope scope, ReportLists& lists) {
-    OpenSection open;
-    LineSource lines(bytes);
-    while (const auto line = lines.next()) {
-        if (const auto tag = tagOf(trimBlanks(*line), knownSections)) {
-            const ReportSection* named = sectionRead(tag->section, scope);
-            // Also where the tag stands inside another section and opens nothing.
-            if (tag->opens && named && named->startsAnew) (lists.*named->list).startAnew();
-            open.take(*tag);
-        } else if (const auto section = open.section()) {
-            if (const ReportSection* read = sectionRead(*section, scope))
-                takeRow(*read, *line, lists);
-        }
-    }
+    withinMemory([&] {
+        OpenSection open;
+        LineSource lines(bytes);
+        while (const auto line = lines.next()) takeLine(*line, scope, open, lists);
+    });
 }
 
 bool classifyEntry(std::string_view entry, ReportRow& row) {

@@ -9,14 +9,13 @@
 #include "core/analyze_steps.h"
 #include "core/constants.h"
 #include "core/failures.h"
-#include "core/files.h"
 #include "core/kind_controls.h"
 #include "core/mapping_keys.h"
 #include "core/modules.h"
 #include "core/row_marks.h"
 #include "core/text.h"
-#include "sessionfiles/section_reader.h"
 #include "sessionfiles/section_writer.h"
+#include "sessionfiles/session_disk.h"
 #include "sessionfiles/step_codes.h"
 
 namespace orvanta {
@@ -144,13 +143,16 @@ std::string analyzeBytes(const FrmMain& form, bool withStep) {
 
 void saveAnalyzeData(Program& program, const std::string& fileName, bool TmpFlag) {
     const BestEffort step;
-    step([&] { program.platform.disk.replace(fileName, analyzeBytes(program.frmMain, TmpFlag)); });
+    step([&] {
+        writeSession(program.platform.disk, fileName, analyzeBytes(program.frmMain, TmpFlag),
+                     TmpFlag);
+    });
 }
 
 void loadAnalyzeData(Program& program, const std::string& fileName, bool restoreStep) {
-    if (!fileExists(program, fileName)) return;
-    const std::string bytes = program.platform.disk.read(fileName);
-    readSections(bytes, knownSections, Reading(program.frmMain, restoreStep));
+    // A step stands in the temporary file alone.
+    readSession(program, fileName, restoreStep, knownSections,
+                Reading(program.frmMain, restoreStep));
 }
 
 }  // namespace orvanta

@@ -3,12 +3,11 @@
 #include <array>
 
 #include "core/failures.h"
-#include "core/files.h"
 #include "core/kind_controls.h"
 #include "core/modules.h"
 #include "core/text.h"
-#include "sessionfiles/section_reader.h"
 #include "sessionfiles/section_writer.h"
+#include "sessionfiles/session_disk.h"
 #include "sessionfiles/step_codes.h"
 
 namespace orvanta {
@@ -103,16 +102,17 @@ std::string brainstormBytes(const FrmMain& form, bool withStep) {
 void saveBrainstormData(Program& program, const std::string& fileName, bool TmpFlag) {
     const BestEffort step;
     step([&] {
-        program.platform.disk.replace(fileName, brainstormBytes(program.frmMain, TmpFlag));
+        writeSession(program.platform.disk, fileName, brainstormBytes(program.frmMain, TmpFlag),
+                     TmpFlag);
     });
 }
 
 void loadBrainstormData(Program& program, const std::string& fileName, std::string_view target,
                         bool restoreStep) {
-    if (!fileExists(program, fileName)) return;
-    const std::string bytes = program.platform.disk.read(fileName);
     const Session into = target == "BS" ? Session::Brainstorm : Session::Analyze;
-    readSections(bytes, knownSections, Reading(program, into, restoreStep));
+    // A step stands in the temporary file alone.
+    readSession(program, fileName, restoreStep, knownSections,
+                Reading(program, into, restoreStep));
 }
 
 }  // namespace orvanta

@@ -10,6 +10,7 @@
 #include "core/messages.h"
 #include "sessionfiles/section_reader.h"
 #include "sessionfiles/section_writer.h"
+#include "view/within_memory.h"
 
 namespace orvanta {
 
@@ -45,6 +46,15 @@ std::string bytesOf(const Merged& merged) {
     return writer.finish();
 }
 
+std::string mergedBytes(const Program& program) {
+    return withinMemory([&] {
+        Merged merged;
+        for (const std::string& source : program.frmMain.lstFiles.items())
+            if (fileExists(program, source)) readSource(program.platform.disk.read(source), merged);
+        return bytesOf(merged);
+    });
+}
+
 }  // namespace
 
 void mergeBrainstormFiles(Program& program) {
@@ -54,10 +64,7 @@ void mergeBrainstormFiles(Program& program) {
         if (fileExists(program, target) &&
             !mayOverwrite(program.platform.messages, std::string(appTitle)))
             return;
-        Merged merged;
-        for (const std::string& source : form.lstFiles.items())
-            if (fileExists(program, source)) readSource(program.platform.disk.read(source), merged);
-        program.platform.disk.replace(target, bytesOf(merged));
+        program.platform.disk.replace(target, mergedBytes(program));
         inform(program.platform.messages, "Brainstorm files merged.");
     });
 }

@@ -37,6 +37,12 @@ public:
     /// Puts these bytes in the place of a file, as a whole or not at all. Fails as read does,
     /// or with DiskFull; the former file is then as it was.
     virtual void replace(const std::string& path, std::string_view bytes) = 0;
+    /// The same two for a file that the program keeps for itself. A link in its place is somebody
+    /// else's doing: nothing is read or written through it, and the new file takes its place.
+    virtual std::string readOwn(const std::string& path) const { return read(path); }
+    virtual void replaceOwn(const std::string& path, std::string_view bytes) {
+        replace(path, bytes);
+    }
     /// Fails where the folder can't be made.
     virtual void makeFolder(const std::string& path) = 0;
     /// Deletes a file. Fails with FileNotFound, PermissionDenied or PathFileAccess.

@@ -10,19 +10,15 @@
 
 #include "core/constants.h"
 #include "lookup.h"
+#include "temporary_folder.h"
 
 namespace orvanta::test {
 
 namespace {
 
-/// A settings file that no other test sees, in memory where the system has a folder for that: on
-/// a disk each rewriting may wait for the device.
+/// A settings file that no other test sees.
 std::string newSettingsFile() {
-    const std::filesystem::path memory = "/dev/shm";
-    const bool hasMemory = ::access(memory.c_str(), W_OK) == 0;
-    std::string path =
-        ((hasMemory ? memory : std::filesystem::temp_directory_path()) / "orvanta-settings-XXXXXX")
-            .string();
+    std::string path = (memoryFolder() / "orvanta-settings-XXXXXX").string();
     const int descriptor = ::mkstemp(path.data());
     EXPECT_GE(descriptor, 0);
     ::close(descriptor);

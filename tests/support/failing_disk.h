@@ -34,6 +34,10 @@ public:
         const FileSizeLimit limit(room);
         FileDisk::replace(path, bytes);
     }
+    void replaceOwn(const std::string& path, std::string_view bytes) override {
+        const FileSizeLimit limit(room);
+        FileDisk::replaceOwn(path, bytes);
+    }
 };
 
 }  // namespace orvanta::test

@@ -1,46 +1,10 @@
-#include "view/file_disk.h"
-
-#include <gtest/gtest.h>
-#include <unistd.h>
-
 #include "failing_disk.h"
-#include "failure_of.h"
-#include "ordinary_user.h"
-#include "temporary_folder.h"
+#include "real_disk.h"
 
 namespace orvanta::test {
 namespace {
 
 namespace fs = std::filesystem;
-using Names = std::vector<std::string>;
-
-constexpr int fileNotFound = 53, diskFull = 61, permissionDenied = 70, pathFileAccess = 75,
-              pathNotFound = 76, noError = 0;
-
-class RealDisk : public testing::Test {
-protected:
-    int errorOfReading(const std::string& path) {
-        return failureOf([&] { disk.read(path); });
-    }
-    int errorOfReplacing(const std::string& path, const std::string& bytes = "new") {
-        return failureOf([&] { disk.replace(path, bytes); });
-    }
-
-    /// The same, done by somebody whom permissions bind.
-    template <class Act>
-    static int errorAsOrdinaryUser(Act act) {
-        return asOrdinaryUser([&] { return failureOf(act); });
-    }
-
-    mode_t modeOf(const std::string& name) const {
-        struct stat status {};
-        ::stat((folder / name).c_str(), &status);
-        return status.st_mode & 07777;
-    }
-
-    TemporaryFolder folder;
-    FileDisk disk;
-};
 
 TEST_F(RealDisk, TellsFilesFoldersAndMissingPathsApart) {
     folder.write("file", "");
@@ -149,22 +113,6 @@ TEST_F(RealDisk, ReplacesAFileInTheWorkingFolder) {
     EXPECT_EQ(folder.names(), Names{"file"});
 }
 
-TEST_F(RealDisk, KeepsTheModeOfAFile) {
-    for (const mode_t mode : {0600, 0640, 0666, 0755}) {
-        folder.write("file", "former");
-        ::chmod((folder / "file").c_str(), mode);
-        disk.replace(folder / "file", "new");
-        EXPECT_EQ(modeOf("file"), mode);
-    }
-}
-
-TEST_F(RealDisk, GivesANewFileTheModeThatTheUserWants) {
-    const mode_t former = ::umask(027);
-    disk.replace(folder / "file", "new");
-    ::umask(former);
-    EXPECT_EQ(modeOf("file"), 0640u);
-}
-
 class LinkOnDisk : public RealDisk {
 protected:
     LinkOnDisk() { fs::create_directory(folder / "inner"); }
@@ -262,47 +210,46 @@ TEST_F(RealDisk, SaysWhatPermissionsForbid) {
     EXPECT_EQ(folder.names(), (Names{"fixed", "secret"}));
 }
 
-class LockedFolder : public RealDisk {
+TEST_F(RealDisk, DoesNotTakeAFolderThatItMayNotLookIntoForAMissingOne) {
+    fs::create_directory(folder / "closed");
+    folder.write("closed/file", "former");
+    ::chmod((folder / "closed").c_str(), ::geteuid() == 0 ? 0700 : 0);
+    const auto replaceIn = [&](const std::string& name) {
+        return errorAsOrdinaryUser([&] { disk.replace(folder / ("closed/" + name), "new"); });
+    };
+    EXPECT_EQ(replaceIn("file"), permissionDenied);
+    EXPECT_EQ(replaceIn("new"), permissionDenied);
+    EXPECT_EQ(replaceIn("below/new"), permissionDenied);
+    ::chmod((folder / "closed").c_str(), 0700);
+}
+
+class HugeFile : public RealDisk {
 protected:
-    LockedFolder() {
-        fs::create_directory(folder / "locked");
-        folder.write("locked/file", "former");
-        ::chmod((folder / "locked/file").c_str(), 0666);
-        ::chmod((folder / "locked").c_str(), 0555);
+    void makeOf(off_t bytes) const {
+        folder.write("file", "former");
+        EXPECT_EQ(::truncate((folder / "file").c_str(), bytes), 0);
     }
-    ~LockedFolder() override { ::chmod((folder / "locked").c_str(), 0777); }
+    static constexpr off_t most = off_t{256} << 20;
 };
 
-TEST_F(LockedFolder, TakesNoNewFileAndNoFolderAndKeepsItsFiles) {
-    EXPECT_EQ(errorAsOrdinaryUser([&] { disk.replace(folder / "locked/new", "new"); }),
-              permissionDenied);
-    EXPECT_EQ(errorAsOrdinaryUser([&] { disk.makeFolder(folder / "locked/new"); }),
-              permissionDenied);
-    EXPECT_EQ(errorAsOrdinaryUser([&] { disk.remove(folder / "locked/file"); }), permissionDenied);
-    EXPECT_EQ(folder.read("locked/file"), "former");
+TEST_F(HugeFile, CanNotBeRead) {
+    for (const off_t bytes : {most + 1, off_t{200'000'000'000}}) {
+        makeOf(bytes);
+        EXPECT_EQ(errorOfReading(folder / "file"), pathFileAccess) << bytes;
+    }
 }
 
-TEST_F(LockedFolder, LetsAFileThatMayBeWrittenBeReplaced) {
-    EXPECT_EQ(errorAsOrdinaryUser([&] { disk.replace(folder / "locked/file", "new"); }), noError);
-    EXPECT_EQ(folder.read("locked/file"), "new");
+TEST_F(HugeFile, IsReadUpToTheLimit) {
+    makeOf(most);
+    const std::string bytes = disk.read(folder / "file");
+    EXPECT_EQ(bytes.size(), static_cast<std::size_t>(most));
+    EXPECT_TRUE(bytes.starts_with("former"));
 }
 
-TEST_F(LockedFolder, KeepsAFileWholeWhereverTheWriteBreaksOff) {
-    for (const std::string bytes : {"new and longer", "new"})
-        for (rlim_t room = 0; room < bytes.size(); ++room) {
-            ASSERT_EQ(errorAsOrdinaryUser([&] {
-                          const FileSizeLimit limit(room);
-                          disk.replace(folder / "locked/file", bytes);
-                      }),
-                      pathFileAccess)
-                << room;
-            ASSERT_EQ(folder.read("locked/file"), "former") << room;
-        }
-}
-
-TEST_F(LockedFolder, LeavesNoRestOfALongerFile) {
-    EXPECT_EQ(errorAsOrdinaryUser([&] { disk.replace(folder / "locked/file", "n"); }), noError);
-    EXPECT_EQ(folder.read("locked/file"), "n");
+TEST_F(HugeFile, CanBeReplaced) {
+    makeOf(most + 1);
+    disk.replace(folder / "file", "new");
+    EXPECT_EQ(folder.read("file"), "new");
 }
 
 TEST_F(RealDisk, TellsWhyAFolderCanNotBeMade) {

@@ -1,0 +1,59 @@
+#include "view/native_file.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "view/platform.h"
+
+namespace orvanta::native {
+
+namespace {
+
+bool isPassing(std::string_view name) {
+    if (!name.starts_with(passingPrefix)) return false;
+    name.remove_prefix(passingPrefix.size());
+    constexpr std::string_view signs =
+        "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
+    return name.size() == passingSuffixSize && name.find_first_not_of(signs) == name.npos;
+}
+
+}  // namespace
+
+std::string folderOf(const std::string& name) {
+    const auto cut = name.rfind(pathSeparator);
+    if (cut == std::string::npos) return ".";
+    return name.substr(0, std::max<std::size_t>(cut, 1));
+}
+
+std::string_view withoutFolder(std::string_view name) {
+    return name.substr(name.rfind(pathSeparator) + 1);
+}
+
+std::vector<std::string> namesIn(const std::string& folder) {
+    std::vector<std::string> names;
+    std::error_code failed;
+    const auto* const utf8 = reinterpret_cast<const char8_t*>(folder.c_str());
+    std::filesystem::directory_iterator entry(std::filesystem::path(utf8), failed);
+    for (; !failed && entry != std::filesystem::directory_iterator(); entry.increment(failed)) {
+        const std::u8string name = entry->path().filename().u8string();
+        names.emplace_back(name.begin(), name.end());
+    }
+    return names;
+}
+
+void tryToRemove(const std::string& name) {
+    try {
+        remove(name);
+    } catch (const Failure&) {
+        // It stays, which harms nobody.
+    }
+}
+
+void removeLeftovers(const std::string& folder) {
+    for (const std::string& name : namesIn(folder)) {
+        const std::string path = folder + pathSeparator + name;
+        if (isPassing(name) && isOwnPlainFile(path, std::chrono::hours(24))) tryToRemove(path);
+    }
+}
+
+}  // namespace orvanta::native
