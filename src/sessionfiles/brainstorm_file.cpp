@@ -111,8 +111,7 @@ void loadBrainstormData(Program& program, const std::string& fileName, std::stri
                         bool restoreStep) {
     const Session into = target == "BS" ? Session::Brainstorm : Session::Analyze;
     // A step stands in the temporary file alone.
-    readSession(program, fileName, restoreStep, knownSections,
-                Reading(program, into, restoreStep));
+    readSession(program, fileName, restoreStep, knownSections, Reading(program, into, restoreStep));
 }
 
 }  // namespace orvanta
