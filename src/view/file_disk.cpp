@@ -42,7 +42,9 @@ void putBack(const std::string& name, std::string_view former) {
 }
 
 void writeBeside(const std::string& target, std::string_view bytes, bool there) {
-    native::NewFile file(native::folderOf(target));
+    const std::string folder = native::folderOf(target);
+    native::removeLeftovers(folder);
+    native::NewFile file(folder);
     file.write(bytes);
     there ? file.takeRightsOf(target) : file.takeUsualRights();
     file.takePlace(target);

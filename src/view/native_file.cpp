@@ -1,9 +1,6 @@
 #include "view/native_file.h"
 
-#include <algorithm>
 #include <filesystem>
-
-#include "view/platform.h"
 
 namespace orvanta::native {
 
@@ -18,16 +15,6 @@ bool isPassing(std::string_view name) {
 }
 
 }  // namespace
-
-std::string folderOf(const std::string& name) {
-    const auto cut = name.rfind(pathSeparator);
-    if (cut == std::string::npos) return ".";
-    return name.substr(0, std::max<std::size_t>(cut, 1));
-}
-
-std::string_view withoutFolder(std::string_view name) {
-    return name.substr(name.rfind(pathSeparator) + 1);
-}
 
 std::vector<std::string> namesIn(const std::string& folder) {
     std::vector<std::string> names;

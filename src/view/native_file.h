@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "view/failure.h"
+#include "view/platform.h"
 
 /// The calls of the system on which the disk builds its rules; those of POSIX are in
 /// posix_file.cpp. Names are UTF-8. What fails, fails with the Failure that FileDisk tells.
@@ -32,8 +33,14 @@ struct FolderRefusal : Failure {
 FileKind kindOf(const std::string& name, Links links);
 /// The name behind any links; there need be nothing. Links in a circle fail with PathFileAccess.
 std::string targetOf(std::string name);
-std::string folderOf(const std::string& name);
-std::string_view withoutFolder(std::string_view name);
+inline std::string folderOf(const std::string& name) {
+    const auto cut = name.rfind(pathSeparator);
+    if (cut == std::string::npos) return ".";
+    return name.substr(0, cut == 0 ? 1 : cut);
+}
+inline std::string_view withoutFolder(std::string_view name) {
+    return name.substr(name.rfind(pathSeparator) + 1);
+}
 /// The names in a folder, without their folder; none where it can't be looked into.
 std::vector<std::string> namesIn(const std::string& folder);
 /// A plain file of this user that was last written longer ago than this; no link.

@@ -226,7 +226,6 @@ File File::toChange(const std::string& name) {
 }
 
 File File::passing(const std::string& folder) {
-    removeLeftovers(folder);
     std::string name;
     const int descriptor = uninterrupted([&] {
         name = folder + '/' + std::string(passingPrefix) + std::string(passingSuffixSize, 'X');

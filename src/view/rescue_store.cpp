@@ -52,6 +52,7 @@ RescueStore::RescueStore(std::string folder, Clock clock)
 
 std::string RescueStore::keep(std::string_view name, std::string_view bytes) const {
     native::makePrivateFolder(m_folder);
+    native::removeLeftovers(m_folder);
     native::NewFile copy(m_folder);
     copy.write(bytes);
     std::string path = freePath(native::withoutFolder(name));
