@@ -10,7 +10,7 @@ declare -A packages=(
            $sound $voice"
     [test]="g++ cmake ninja-build qt6-base-dev libqt6svg6 fonts-dejavu-core libgtest-dev
             libbenchmark-dev nlohmann-json3-dev xvfb xauth dbus ccache
-            libreoffice-writer-nogui poppler-utils pandoc unrtf fonts-liberation
+            libreoffice-writer-nogui poppler-utils abiword pandoc unrtf fonts-liberation
             $sound $voice pulseaudio pulseaudio-utils
             python3 python3-gi gir1.2-atspi-2.0 at-spi2-core
             chromium php-cli tidy abiword"

@@ -24,5 +24,6 @@ for preset in "${presets[@]}"; do
     cmake --build --preset "$preset"
     echo "== $preset: test"
     ctest --preset "$preset" --parallel "$(nproc)"
-    grep -h '^faults: ' "build/$preset/Testing/Temporary/LastTest.log"
+    # The faults are told in figures; they don't run under the sanitizers.
+    grep -h '^faults: ' "build/$preset/Testing/Temporary/LastTest.log" || true
 done

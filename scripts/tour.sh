@@ -129,11 +129,15 @@ analyze() {
     drag lvStrengthOp 4 lvOpportunity 4
     drag lvWeaknessOp 1 lvOpportunity 4
     shot mapped-opportunities
+    # Onto each: on the web page one without leaves a gap.
     step "Strengths and weaknesses are mapped onto the threats"
     click ANext
-    drag lvStrengthTh 2 lvThreat 1
-    drag lvWeaknessTh 3 lvThreat 1
-    drag lvStrengthTh 5 lvThreat 4
+    drag lvStrengthTh 5 lvThreat 1
+    drag lvWeaknessTh 2 lvThreat 1
+    drag lvStrengthTh 1 lvThreat 4
+    drag lvStrengthTh 4 lvThreat 6
+    drag lvStrengthTh 6 lvThreat 8
+    drag lvWeaknessTh 5 lvThreat 8
     shot mapped-threats
     step "The analysis is saved"
     answer_file "$tour/team.aze"

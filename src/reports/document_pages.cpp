@@ -9,7 +9,7 @@ namespace {
 
 // How high a text will be only the reader's fonts tell. These bounds, in parts of the type size,
 // hold for texts of usual letters: the mean width of a letter with its blanks is about a half.
-constexpr double narrowLetter = 0.4, wideLetter = 0.7;
+constexpr double narrowLetter = 0.45, wideLetter = 0.7;
 constexpr double lineHeight = 1.15;
 
 constexpr double cellPadding = 11;  // points, both sides
@@ -117,7 +117,7 @@ private:
         std::vector<DocumentRow>& rows = table.rows;
         if (rows.size() > 1) keepWithNext(rows.front(), true);
         const bool isList = rows.front().repeatsAsHeader;
-        if (isList && heightOf(table, narrowLetter) > m_textHeight)
+        if (isList && m_keptHeight + heightOf(table, narrowLetter) > m_textHeight)
             for (std::size_t i = 1; i + 2 < rows.size(); ++i) keepWithNext(rows[i], false);
         m_atStart = true;
         for (std::size_t i = 0; i < rows.size(); ++i) {

@@ -44,7 +44,7 @@ LINES
 convert() {
     local format=$1 into=$2
     shift 2
-    timeout 240 soffice -env:UserInstallation="file://$dir/profile" --headless \
+    timeout -k 10 240 soffice -env:UserInstallation="file://$dir/profile" --headless \
         --convert-to "$format" --outdir "$into" "$@" >"$dir/soffice.log" 2>&1 ||
         { cat "$dir/soffice.log" >&2; exit 1; }
 }

@@ -123,6 +123,10 @@ TEST(PageCare, LetsAListPartThatFitsOnNoPage) {
     EXPECT_EQ(keeping(listOf(40)), "k" + std::string(38, '.') + "kk");
 }
 
+TEST(PageCare, LetsAListPartThatFitsOnNoPageWithItsTitle) {
+    EXPECT_EQ(keeping(listOf(30), std::string(1000, 'x')), "k" + std::string(28, '.') + "kk");
+}
+
 TEST(PageCare, KeepsStatementsWithoutGroupsTogetherOnlyWhileThereIsRoom) {
     const TablePtr table = tableOf(std::vector(60, rowOf("statement", true)));
     const auto untilLoose = [&](const std::string& above) {
@@ -151,6 +155,12 @@ TEST(PageCare, MayTearTheRowsThatNoPageEndsInFrontOf) {
     EXPECT_EQ(wholeness(tableOf({rowOf("one", false), rowOf("two", false)})), "..w");
     EXPECT_EQ(wholeness(tableOf({rowOf("one", true), rowOf("two", true), groupOf(1)})), "....");
     EXPECT_EQ(wholeness(listOf(5)), "......");
+}
+
+TEST(PageCare, CountsNoLinesOfUpwardText) {
+    DocumentRow upward = rowOf(std::string(2000, 'x'), false);
+    upward.cells.front()->direction = TextDirection::Upward;
+    EXPECT_EQ(wholeness(tableOf({rowOf("one", false), upward})), "..w");
 }
 
 TEST(PageCare, LeavesTheDocumentItselfAsItWas) {
