@@ -84,12 +84,18 @@ public:
         writeCorrelationBody(threatTable);
         writeListOpening();
         for (const ListTable& table : listTables) writeListTable(table);
-        m_step([&] { m_wordDoc.call("SaveAs", {targetFile}); });
+        save(targetFile);
         m_step([&] { m_wordDoc.call("Close"); });
         m_step([&] { m_wordApp.call("Quit"); });
     }
 
 private:
+    void save(const std::string& targetFile) {
+        const bool saved = m_step([&] { m_wordDoc.call("SaveAs", {targetFile}); });
+        FailedSaves* const failedSaves = m_program.platform.failedSaves;
+        if (!saved && failedSaves) failedSaves->documentNotWritten(targetFile);
+    }
+
     template <class Expression>
     void assign(WordRef& variable, Expression expression) {
         m_step([&] { variable = expression(); });

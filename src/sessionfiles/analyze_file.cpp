@@ -144,8 +144,7 @@ std::string analyzeBytes(const FrmMain& form, bool withStep) {
 void saveAnalyzeData(Program& program, const std::string& fileName, bool TmpFlag) {
     const BestEffort step;
     step([&] {
-        writeSession(program.platform.disk, fileName, analyzeBytes(program.frmMain, TmpFlag),
-                     TmpFlag);
+        writeSession(program.platform, fileName, analyzeBytes(program.frmMain, TmpFlag), TmpFlag);
     });
 }
 

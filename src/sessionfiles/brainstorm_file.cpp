@@ -102,7 +102,7 @@ std::string brainstormBytes(const FrmMain& form, bool withStep) {
 void saveBrainstormData(Program& program, const std::string& fileName, bool TmpFlag) {
     const BestEffort step;
     step([&] {
-        writeSession(program.platform.disk, fileName, brainstormBytes(program.frmMain, TmpFlag),
+        writeSession(program.platform, fileName, brainstormBytes(program.frmMain, TmpFlag),
                      TmpFlag);
     });
 }

@@ -10,6 +10,7 @@
 #include "core/messages.h"
 #include "sessionfiles/section_reader.h"
 #include "sessionfiles/section_writer.h"
+#include "sessionfiles/session_disk.h"
 #include "view/within_memory.h"
 
 namespace orvanta {
@@ -64,7 +65,7 @@ void mergeBrainstormFiles(Program& program) {
         if (fileExists(program, target) &&
             !mayOverwrite(program.platform.messages, std::string(appTitle)))
             return;
-        program.platform.disk.replace(target, mergedBytes(program));
+        writeNamedSession(program.platform, target, mergedBytes(program));
         inform(program.platform.messages, "Brainstorm files merged.");
     });
 }

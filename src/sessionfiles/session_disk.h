@@ -12,9 +12,21 @@ namespace orvanta {
 
 // A session in a file that a person named, or in a temporary one, which is the program's own.
 
-inline void writeSession(Disk& disk, const std::string& fileName, std::string_view bytes,
-                         bool temporary) {
-    temporary ? disk.replaceOwn(fileName, bytes) : disk.replace(fileName, bytes);
+/// Tells Platform::failedSaves of a failure, and passes it on.
+inline void writeNamedSession(const Platform& platform, const std::string& fileName,
+                              std::string_view bytes) {
+    try {
+        platform.disk.replace(fileName, bytes);
+    } catch (const Failure&) {
+        if (platform.failedSaves) platform.failedSaves->sessionNotWritten(fileName, bytes);
+        throw;
+    }
+}
+
+inline void writeSession(const Platform& platform, const std::string& fileName,
+                         std::string_view bytes, bool temporary) {
+    if (temporary) return platform.disk.replaceOwn(fileName, bytes);
+    writeNamedSession(platform, fileName, bytes);
 }
 
 /// Hands each data line of a file to `reading`, as readSections does. A missing file has none.

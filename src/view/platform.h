@@ -174,6 +174,16 @@ public:
     virtual std::string documents() const = 0;
 };
 
+/// Hears of what a person saved under a name and the disk did not take.
+class FailedSaves {
+public:
+    virtual ~FailedSaves() = default;
+    /// The bytes of a session that were meant for this path and are in no file.
+    virtual void sessionNotWritten(const std::string& path, std::string_view bytes) = 0;
+    /// A report; what it was made from still stands in its own file.
+    virtual void documentNotWritten(const std::string& path) = 0;
+};
+
 struct Platform {
     Disk& disk;
     MessageBoxes& messages;
@@ -187,6 +197,7 @@ struct Platform {
     WordProcessors& wordProcessors;
     Lifetime& lifetime;
     Folders& folders;
+    FailedSaves* failedSaves = nullptr;  // null: nobody is told
 };
 
 }  // namespace orvanta

@@ -19,10 +19,22 @@ class SaveOnAFullDisk;
 struct Save {
     std::string name;
     std::string target;  // in the folder of the test
+    enum { NamedSession, NamedDocument, ProgramsOwn } sort;
     void (*perform)(SaveOnAFullDisk& test);
 };
 
 std::ostream& operator<<(std::ostream& out, const Save& save) { return out << save.name; }
+
+/// What the program told of saves that failed.
+struct ToldFailures : FailedSaves {
+    std::vector<std::string> paths, bytes;  // no bytes come with a document
+
+    void sessionNotWritten(const std::string& path, std::string_view session) override {
+        paths.push_back(path);
+        bytes.emplace_back(session);
+    }
+    void documentNotWritten(const std::string& path) override { paths.push_back(path); }
+};
 
 /// A program with two sessions on the real disk, which refuses files beyond a size.
 class SaveOnAFullDisk : public testing::TestWithParam<Save> {
@@ -64,11 +76,13 @@ protected:
     TemporaryFolder folder;
     FailingDisk disk;
     DocumentWriter wordProcessors{disk};
+    ToldFailures told;
     Platform& rest = bench.program().platform;
     Platform platform{disk,           rest.messages,   rest.fileDialogs,
                       rest.settings,  rest.shell,      rest.player,
                       rest.screen,    rest.modalForms, rest.questionPrinter,
-                      wordProcessors, rest.lifetime,   rest.folders};
+                      wordProcessors, rest.lifetime,   rest.folders,
+                      &told};
     Program program{platform, folder.path(), folder.path()};
     std::vector<std::string> others;  // what lies there before any save
 };
@@ -88,22 +102,23 @@ void copyAtTick(SaveOnAFullDisk& test, bool FrmMain::*changed, Panel FrmMain::*p
 }
 
 const std::vector<Save> saves{
-    {"BrainstormSession", "saved.bsm",
+    {"BrainstormSession", "saved.bsm", Save::NamedSession,
      [](SaveOnAFullDisk& test) { saveByName(test, saveBrainstormDialog, "saved.bsm"); }},
-    {"Analysis", "saved.aze",
+    {"Analysis", "saved.aze", Save::NamedSession,
      [](SaveOnAFullDisk& test) { saveByName(test, saveAnalyzeDialog, "saved.aze"); }},
-    {"CopyOfTheBrainstormSession", "brainstorm.tmp",
+    {"CopyOfTheBrainstormSession", "brainstorm.tmp", Save::ProgramsOwn,
      [](SaveOnAFullDisk& test) { copyAtTick(test, &FrmMain::editFlag, &FrmMain::fraBrainstorm); }},
-    {"CopyOfTheAnalysis", "analyze.tmp",
+    {"CopyOfTheAnalysis", "analyze.tmp", Save::ProgramsOwn,
      [](SaveOnAFullDisk& test) { copyAtTick(test, &FrmMain::editAFlag, &FrmMain::fraAnalyze); }},
-    {"MergedFile", "merged.bsm",
+    {"MergedFile", "merged.bsm", Save::NamedSession,
      [](SaveOnAFullDisk& test) {
          test.answerFile("merged.bsm");
          test.confirm();
          mergeBrainstormFiles(test.onDisk());
      }},
-    {"WebPage", "System/report.htm", [](SaveOnAFullDisk& test) { test.makeReport(0); }},
-    {"Document", "team.rtf",
+    {"WebPage", "System/report.htm", Save::ProgramsOwn,
+     [](SaveOnAFullDisk& test) { test.makeReport(0); }},
+    {"Document", "team.rtf", Save::NamedDocument,
      [](SaveOnAFullDisk& test) {
          test.answerFile("team.rtf");
          test.confirm();
@@ -131,6 +146,16 @@ TEST_P(SaveOnAFullDisk, LeavesNoPieceOfAFileWhereThereWasNone) {
     performWithRoomFor(10);
     EXPECT_EQ(folder.names(), others);
     EXPECT_FALSE(std::filesystem::exists(path(GetParam().target)));
+}
+
+TEST_P(SaveOnAFullDisk, TellsOfANamedFileThatWasNotWrittenAndHandsOverItsSession) {
+    performWithRoomFor(std::numeric_limits<rlim_t>::max());
+    EXPECT_TRUE(told.paths.empty());
+    const std::string whole = saved();
+    performWithRoomFor(10);
+    const auto sort = GetParam().sort;
+    EXPECT_EQ(told.paths, sort == Save::ProgramsOwn ? Texts{} : Texts{path(GetParam().target)});
+    EXPECT_EQ(told.bytes, sort == Save::NamedSession ? Texts{whole} : Texts{});
 }
 
 }  // namespace
