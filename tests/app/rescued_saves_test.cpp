@@ -1,0 +1,71 @@
+#include "app/rescued_saves.h"
+
+#include <chrono>
+
+#include "real_disk.h"
+
+namespace orvanta::test {
+namespace {
+
+using namespace std::chrono_literals;
+
+class FailedSave : public RealDisk {
+protected:
+    FailedSave() {
+        saves.changed.subscribe([this] { ++changes; });
+    }
+
+    static RescueStore::Time noon() { return std::chrono::sys_days{2026y / 11 / 21} + 12h; }
+
+    const std::string copies = folder / "rescue";
+    RescuedSaves saves{RescueStore(copies, noon)};
+    int changes = 0;
+};
+
+TEST_F(FailedSave, LeavesACopyOfTheSessionForThisUserAlone) {
+    saves.sessionNotWritten("/media/stick/team.bsm", "a session");
+    EXPECT_EQ(folder.read("rescue/2026-11-21 12-00-00.000 team.bsm"), "a session");
+    EXPECT_EQ(modeOf("rescue/2026-11-21 12-00-00.000 team.bsm"), 0600u);
+}
+
+TEST_F(FailedSave, SaysThatTheFileWasNotWrittenAndWhereTheCopyLies) {
+    saves.sessionNotWritten("/media/stick/team.bsm", "a session");
+    EXPECT_EQ(saves.line(), "team.bsm was not written. A copy is in " + copies);
+    EXPECT_EQ(saves.details(), "/media/stick/team.bsm was not written. A copy is in " + copies +
+                                   "/2026-11-21 12-00-00.000 team.bsm");
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(FailedSave, ReadsNamesInTheCodePageOfTheProgram) {
+    saves.sessionNotWritten("/media/stick/B\xfcro.bsm", "a session");
+    EXPECT_TRUE(saves.line().starts_with("Büro.bsm was not written.")) << saves.line();
+    EXPECT_EQ(folder.read("rescue/2026-11-21 12-00-00.000 Büro.bsm"), "a session");
+}
+
+TEST_F(FailedSave, SaysThatNoCopyCouldBeKept) {
+    folder.write("rescue", "a file in the folder's place");
+    saves.sessionNotWritten("/media/stick/team.bsm", "a session");
+    EXPECT_EQ(saves.line(), "team.bsm was not written, and no copy could be kept.");
+    EXPECT_EQ(saves.details(), "/media/stick/team.bsm was not written, and no copy could be kept.");
+}
+
+TEST_F(FailedSave, NeedsNoCopyOfADocument) {
+    saves.documentNotWritten("/media/stick/team.rtf");
+    EXPECT_EQ(saves.line(), "team.rtf was not written.");
+    EXPECT_EQ(saves.details(), "/media/stick/team.rtf was not written.");
+    EXPECT_FALSE(std::filesystem::exists(copies));
+}
+
+TEST_F(FailedSave, IsToldUntilThePersonGoesOn) {
+    saves.forget();
+    EXPECT_EQ(changes, 0);
+    saves.documentNotWritten("/media/stick/team.rtf");
+    saves.sessionNotWritten("/media/stick/team.bsm", "a session");
+    EXPECT_TRUE(saves.line().starts_with("team.bsm"));
+    saves.forget();
+    EXPECT_EQ(saves.line() + saves.details(), "");
+    EXPECT_EQ(changes, 3);
+}
+
+}  // namespace
+}  // namespace orvanta::test
