@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 
+#include "app/rescued_saves.h"
 #include "app/startup.h"
 #include "core/constants.h"
 #include "desktop/auto_save_timer.h"
@@ -27,6 +28,8 @@ using namespace orvanta::desktop;
 QString dataPath() {
     return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
 }
+
+QString rescuePath() { return QDir(dataPath()).filePath("rescue"); }
 
 QString ownFolder() {
     QDir().mkpath(dataPath());
@@ -79,11 +82,15 @@ int main(int argc, char** argv) {
     const auto scratch = scratchFolder(lock);
     if (!scratch) return EXIT_SUCCESS;
 
-    FileDisk disk{RescueStore(QDir(dataPath()).filePath("rescue").toStdString())};
+    const RescueStore rescue(rescuePath().toStdString());
+    FileDisk disk(rescue);
+    RescuedSaves rescuedSaves(rescue);
     DesktopPlatform desktop(disk);
+    desktop.platform().failedSaves = &rescuedSaves;
     Program program(desktop.platform(), toCp1252(QCoreApplication::applicationDirPath()),
                     toCp1252(*scratch));
     MainWindow window(program);
+    window.tellOf(rescuedSaves);
     const AutoSaveTimer autoSave(program);
     bool ended = false;
     end = [&] {

@@ -2,11 +2,14 @@
 
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QTimer>
 #include <algorithm>
+#include <array>
 #include <cassert>
 #include <utility>
 #include <variant>
@@ -75,6 +78,16 @@ void drawHome(QPainter& painter, const QRect& place) {
     drawPicture(painter, {shown.topLeft() - emblem.topLeft(), splash}, QStringLiteral("splash"));
 }
 
+/// A button of the mouse or a key, but none that only goes with another: who turns to another
+/// window by Alt and Tab is still to find what is told here.
+bool isPress(const QEvent& event) {
+    if (event.type() == QEvent::MouseButtonPress) return true;
+    if (event.type() != QEvent::KeyPress) return false;
+    constexpr std::array companions{Qt::Key_Shift, Qt::Key_Control, Qt::Key_Meta, Qt::Key_Alt};
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    return std::ranges::find(companions, key) == companions.end();
+}
+
 bool isFocusable(const QWidget* widget) { return widget->focusPolicy() & Qt::TabFocus; }
 
 }  // namespace
@@ -97,6 +110,12 @@ MainWindow::MainWindow(Program& program)
     form.shownChanged.subscribe([this] { showShown(); });
     showCaption();
     showSize();
+}
+
+void MainWindow::tellOf(RescuedSaves& saves) {
+    m_saves = &saves;
+    m_whereaboutsView->tellOf(saves);
+    QCoreApplication::instance()->installEventFilter(this);
 }
 
 ControlArea& MainWindow::areaOf(const Control& control) {
@@ -277,6 +296,13 @@ void MainWindow::focusScreen() {
 bool MainWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate) windowActivated(m_program);
     return ControlArea::event(event);
+}
+
+/// A press in a dialog is none: it may close the very box behind which the words have come up.
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    if (m_saves && widget && widget->window() == this && isPress(*event)) m_saves->forget();
+    return ControlArea::eventFilter(watched, event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(windowClosing(m_program)); }

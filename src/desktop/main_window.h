@@ -17,8 +17,13 @@ public:
     /// The program must outlive the window's use.
     explicit MainWindow(Program& program);
 
+    /// Tells of a save that failed in the line at the foot, until the next press in this window.
+    /// The saves must outlive the window's use.
+    void tellOf(RescuedSaves& saves);
+
 protected:
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -46,6 +51,7 @@ private:
     Label m_merge{m_ownControls, "lblMerge", std::string(mergeCaption)};
     Label m_whereabouts{m_ownControls, "lblWhereabouts"};
     WhereaboutsView* m_whereaboutsView = nullptr;
+    RescuedSaves* m_saves = nullptr;
     std::unordered_map<const Panel*, ControlArea*> m_panels;
     const Panel* m_focusedScreen = nullptr;
     bool m_focusPending = false;

@@ -6,6 +6,7 @@
 
 #include "core/statement_lists.h"
 #include "desktop/art.h"
+#include "view/windows1252.h"
 
 namespace orvanta::desktop {
 
@@ -30,6 +31,11 @@ WhereaboutsView::WhereaboutsView(Program& program, Label& model, const PixelGrid
     look();
 }
 
+void WhereaboutsView::tellOf(RescuedSaves& saves) {
+    m_saves = &saves;
+    saves.changed.subscribe([this] { mayDiffer(); });
+}
+
 void WhereaboutsView::mayDiffer() {
     if (std::exchange(m_lookPending, true)) return;
     QTimer::singleShot(0, this, [this] { look(); });
@@ -38,14 +44,22 @@ void WhereaboutsView::mayDiffer() {
 void WhereaboutsView::look() {
     m_lookPending = false;
     m_shown = whereaboutsOf(m_program);
-    m_model.setToolTip(countsInWords(m_shown));
-    m_model.setVisible(!m_shown.place.empty());
-    setText(fromCp1252(inWords(m_shown)));
+    m_failure = m_saves ? QString::fromStdString(m_saves->line()) : QString();
+    const bool failed = !m_failure.isEmpty();
+    m_model.setToolTip(failed ? windows1252From(m_saves->details()) : countsInWords(m_shown));
+    m_model.setVisible(failed || !m_shown.place.empty());
+    setText(failed ? m_failure : fromCp1252(inWords(m_shown)));
     update();
 }
 
 void WhereaboutsView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    if (m_failure.isEmpty()) return drawWhereabouts(painter);
+    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                     fontMetrics().elidedText(m_failure, Qt::ElideMiddle, width()));
+}
+
+void WhereaboutsView::drawWhereabouts(QPainter& painter) const {
     painter.setPen(palette().color(QPalette::PlaceholderText));
     int right = width();
     for (auto kind = statementKinds.rbegin(); kind != statementKinds.rend(); ++kind)

@@ -2,17 +2,21 @@
 
 #include <QLabel>
 
+#include "app/rescued_saves.h"
 #include "app/whereabouts.h"
 #include "desktop/conversions.h"
 
 namespace orvanta::desktop {
 
 /// A quiet line at the foot of a module: the step of the wizard, and how many statements stand
-/// in each of its lists.
+/// in each of its lists. In their place it says, of a save that failed, what is to be known.
 class WhereaboutsView : public QLabel, private StatementListObserver {
 public:
     /// `model`: tells the place; the view switches it on and off.
     WhereaboutsView(Program& program, Label& model, const PixelGrid& pixelGrid, QWidget* parent);
+
+    /// The saves must outlive the view's use.
+    void tellOf(RescuedSaves& saves);
 
     /// Looks again once what is going on is over, however often it is called until then.
     void mayDiffer();
@@ -25,11 +29,14 @@ private:
     void rowRemoved(int) override { mayDiffer(); }
     void cleared() override { mayDiffer(); }
     void look();
+    void drawWhereabouts(QPainter& painter) const;
     int drawCount(QPainter& painter, int right, StatementKind kind) const;
 
     const Program& m_program;
     Label& m_model;
+    const RescuedSaves* m_saves = nullptr;
     Whereabouts m_shown;
+    QString m_failure;  // shown instead, unless it is empty
     bool m_lookPending = false;
 };
 
