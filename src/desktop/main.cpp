@@ -49,6 +49,12 @@ std::optional<QString> scratchFolder(InstanceLock& lock) {
     return std::nullopt;
 }
 
+/// Programs that were killed while they wrote have left these, in folders of the program's own.
+void removeLeftovers(const QString& scratch) {
+    for (const QString& folder : {scratch, scratch + "/System", dataPath(), rescuePath()})
+        orvanta::FileDisk::removeLeftovers(toCp1252(folder));
+}
+
 void bringToFront(QWidget& window) {
     QWidget* modal = QApplication::activeModalWidget();
     QWidget& front = modal ? *modal : window;
@@ -81,6 +87,7 @@ int main(int argc, char** argv) {
     InstanceLock lock;
     const auto scratch = scratchFolder(lock);
     if (!scratch) return EXIT_SUCCESS;
+    removeLeftovers(*scratch);
 
     const RescueStore rescue(rescuePath().toStdString());
     FileDisk disk(rescue);

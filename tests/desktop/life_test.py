@@ -91,6 +91,32 @@ def signals_keep_the_session(binary, data):
         expect(place.copy.read_bytes().decode() == COPIED, f"{number.name} copies the session")
 
 
+def a_start_removes_old_leftovers(binary, data):
+    place = Place(binary, data)
+    home = place.root / "home"
+    home.mkdir(mode=0o700)
+    (home / "Documents").mkdir()
+    own = home / "Orvanta" / "Orvanta"
+    folders = [place.folder, place.folder / "System", own, own / "rescue"]
+    for folder in folders:
+        folder.mkdir(parents=True, exist_ok=True)
+        for name in (".orvanta-Old123", ".orvanta-New123"):
+            (folder / name).touch()
+    two_days_ago = time.time() - 2 * 24 * 60 * 60
+    not_its_own = place.root / ".orvanta-Old123"
+    not_its_own.touch()
+    for file in [folder / ".orvanta-Old123" for folder in folders] + [not_its_own]:
+        os.utime(file, (two_days_ago, two_days_ago))
+    process = place.start()
+    wait_for(lambda: (home / "Documents" / "My SWOT").is_dir(), "the start")
+    for folder in folders:
+        expect(not (folder / ".orvanta-Old123").exists(), f"{folder} has no old leftover")
+        expect((folder / ".orvanta-New123").exists(), f"{folder} keeps a new file")
+    expect(not_its_own.exists(), "no other folder is looked into")
+    process.kill()
+    process.wait()
+
+
 def a_second_start_leaves_the_first_alone(binary, data):
     place = Place(binary, data)
     first = place.start()
@@ -126,6 +152,6 @@ def another_user_has_a_folder_of_their_own(binary, data):
 
 if __name__ == "__main__":
     for claim in (signals_keep_the_session, a_second_start_leaves_the_first_alone,
-                  another_user_has_a_folder_of_their_own):
+                  another_user_has_a_folder_of_their_own, a_start_removes_old_leftovers):
         claim(*sys.argv[1:3])
     sys.exit(1 if failures else 0)
