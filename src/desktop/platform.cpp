@@ -118,8 +118,11 @@ void DesktopLifetime::reportUnhandled(const Failure& failure) {
     reportFailure(m_messages, failure);
 }
 
+// A fresh account has none yet, and the program makes one folder of its own in it, not two.
 std::string DesktopFolders::documents() const {
-    return toCp1252(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (!folder.isEmpty()) QDir().mkpath(folder);
+    return toCp1252(folder);
 }
 
 DesktopPlatform::DesktopPlatform(Disk& disk)

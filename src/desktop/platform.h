@@ -77,6 +77,7 @@ private:
     MessageBoxes& m_messages;
 };
 
+/// Makes the documents folder, with its parents, where it is not there yet.
 class DesktopFolders : public orvanta::Folders {
 public:
     std::string documents() const override;

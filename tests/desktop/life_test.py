@@ -117,6 +117,17 @@ def a_start_removes_old_leftovers(binary, data):
     process.wait()
 
 
+def a_fresh_account_gets_its_folders(binary, data):
+    place = Place(binary, data)
+    home = place.root / "home"
+    home.mkdir(mode=0o700)
+    (home / "user-dirs.dirs").write_text('XDG_DOCUMENTS_DIR="$HOME/files/of mine"\n')
+    process = place.start()
+    wait_for(lambda: (home / "files" / "of mine" / "My SWOT").is_dir(), "the user's folder")
+    process.kill()
+    process.wait()
+
+
 def a_second_start_leaves_the_first_alone(binary, data):
     place = Place(binary, data)
     first = place.start()
@@ -152,6 +163,7 @@ def another_user_has_a_folder_of_their_own(binary, data):
 
 if __name__ == "__main__":
     for claim in (signals_keep_the_session, a_second_start_leaves_the_first_alone,
-                  another_user_has_a_folder_of_their_own, a_start_removes_old_leftovers):
+                  another_user_has_a_folder_of_their_own, a_start_removes_old_leftovers,
+                  a_fresh_account_gets_its_folders):
         claim(*sys.argv[1:3])
     sys.exit(1 if failures else 0)
