@@ -40,6 +40,9 @@ struct DocumentParagraph {
     std::size_t length() const;
 };
 
+/// Points. A blank line of this size is no more than what has to stand behind a table.
+inline constexpr int lowestLine = 1;
+
 struct DocumentTable;
 
 using Block = std::variant<DocumentParagraph, std::shared_ptr<DocumentTable>>;

@@ -74,6 +74,14 @@ bool isKeptWithNext(const DocumentRow& row) {
     return first && first->format.keepWithNext;
 }
 
+/// As much room as before, but hardly any of it the line's own: a gap below may hang over the end
+/// of a page, while a line that has no room there is all that the next one holds.
+void makeLow(DocumentParagraph& blank) {
+    blank.format.spaceAfter +=
+        static_cast<int>(std::lround((blank.mark.size - lowestLine) * lineHeight));
+    blank.mark.size = lowestLine;
+}
+
 void keepWithNext(DocumentRow& row, bool kept) {
     for (const auto& cell : row.cells)
         for (Block& block : cell->story.blocks)
@@ -96,8 +104,9 @@ public:
             if (auto* table = std::get_if<std::shared_ptr<DocumentTable>>(&*block))
                 careFor(*(*table = copyOf(**table)));
             else
-                careFor(std::get<DocumentParagraph>(*block),
-                        block != blocks.begin() && isTable(*std::prev(block)));
+                careFor(std::get<DocumentParagraph>(*block), isBlankBehindATable(block));
+        if (isBlankBehindATable(std::prev(blocks.end())))
+            m_document.body.lastParagraph().mark.size = lowestLine;  // a gap would need room here
         return std::move(m_document);
     }
 
@@ -106,10 +115,16 @@ private:
         return std::holds_alternative<std::shared_ptr<DocumentTable>>(block);
     }
 
+    bool isBlankBehindATable(std::vector<Block>::const_iterator block) const {
+        return block != m_document.body.blocks.begin() && isTable(*std::prev(block)) &&
+               std::get<DocumentParagraph>(*block).length() == 0;
+    }
+
     /// A blank line between two tables may end a page. Were it kept, lists that are held together
     /// would hold one another, up to where no page has room for them all.
-    void careFor(DocumentParagraph& paragraph, bool behindATable) {
-        paragraph.format.keepWithNext = !behindATable || paragraph.length() > 0;
+    void careFor(DocumentParagraph& paragraph, bool mayEndAPage) {
+        paragraph.format.keepWithNext = !mayEndAPage;
+        if (mayEndAPage) makeLow(paragraph);
         count(paragraph.format.keepWithNext, heightOf(paragraph, m_textWidth, wideLetter));
     }
 

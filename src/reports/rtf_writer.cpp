@@ -52,6 +52,16 @@ bool isTitle(const DocumentParagraph& paragraph) {
     return !paragraph.runs.empty() && paragraph.runs.front().format.size >= titleSize;
 }
 
+bool isLowestLine(const DocumentParagraph& paragraph) {
+    return paragraph.length() == 0 && paragraph.mark.size == lowestLine;
+}
+
+/// Of a paragraph outside the tables.
+std::string styleOf(const DocumentParagraph& paragraph) {
+    if (isTitle(paragraph)) return "\\s1\\outlinelevel0";
+    return isLowestLine(paragraph) ? "\\s2" : "";
+}
+
 class Writer {
 public:
     explicit Writer(const Document& document) : m_document(document) { collect(document.body); }
@@ -110,9 +120,11 @@ private:
     }
 
     /// The style of the titles looks as they do. The language is told here, since Writer takes no
-    /// notice of the one at the head of the file.
+    /// notice of the one at the head of the file; nor does it of the size of the last line's end.
     void writeStyles(const DocumentParagraph* title) {
-        m_out += "{\\stylesheet{\\ql\\widctlpar\\f0\\fs24\\lang1033 Normal;}";
+        m_out +=
+            "{\\stylesheet{\\ql\\widctlpar\\f0\\fs24\\lang1033 Normal;}{\\s2\\ql\\widctlpar\\f0" +
+            word("fs", lowestLine * 2) + "\\lang1033\\sbasedon0 behind a table;}";
         if (title) {
             m_out += "{\\s1\\ql\\keepn\\widctlpar\\outlinelevel0\\lang1033";
             appendLook(title->runs.front().format);
@@ -150,7 +162,7 @@ private:
     void writeParagraph(const DocumentParagraph& paragraph, int depth, std::string_view end) {
         m_out += "\\pard\\plain";
         if (depth > 0) m_out += "\\intbl" + word("itap", depth);
-        if (depth == 0 && isTitle(paragraph)) m_out += "\\s1\\outlinelevel0";
+        if (depth == 0) m_out += styleOf(paragraph);
         m_out += paragraph.format.alignment == Alignment::Centred ? "\\qc" : "\\ql";
         m_out += "\\widctlpar";
         m_out += word("sb", twips(paragraph.format.spaceBefore)) +

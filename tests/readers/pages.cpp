@@ -36,6 +36,8 @@ std::vector<Word> wordsOf(const Node& document) {
         if (std::lround(std::stod(page->attribute("width"))) != 800 ||
             std::lround(std::stod(page->attribute("height"))) != 612)
             throw Mismatch{"page " + std::to_string(number) + " has another size"};
+        if (page->all("word").empty())
+            throw Mismatch{"page " + std::to_string(number) + " is blank"};
         for (const Node* word : page->all("word")) {
             const auto place = [&](const char* name) { return std::stod(word->attribute(name)); };
             words.push_back({number, place("xMin"), place("yMin"), place("xMax"), place("yMax"),

@@ -49,8 +49,7 @@ convert() {
         { cat "$dir/soffice.log" >&2; exit 1; }
 }
 
-# Holds each document, printed by Writer, against its analysis. Its pages without a word are blank
-# lines between tables.
+# Holds each document, printed by Writer, against its analysis.
 check_paper() {
     local analysis document failed=0
     convert pdf "$dir" "$dir"/docs/*.rtf

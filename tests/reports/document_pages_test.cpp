@@ -103,9 +103,23 @@ TEST(PageCare, LetsAPageEndBetweenTwoTables) {
     EXPECT_TRUE(isKept(document.body.blocks[3]));
 }
 
-TEST(PageCare, LeavesADocumentWithoutTablesAsItIs) {
+TEST(PageCare, MakesABlankLineBehindATableLowAndLeavesAGapBetweenTables) {
+    DocumentParagraph blank = paragraphOf("");
+    blank.mark.size = 20;
     const Document document =
-        withCareForPages(documentOf({paragraphOf("one"), paragraphOf("two")}));
+        withCareForPages(documentOf({blank, tableOf({}), blank, blank, tableOf({}), blank}));
+    const auto look = [&](std::size_t block) {
+        const auto& paragraph = std::get<DocumentParagraph>(document.body.blocks[block]);
+        return std::pair(paragraph.mark.size, paragraph.format.spaceAfter);
+    };
+    EXPECT_EQ(look(0), std::pair(20, 0));
+    EXPECT_EQ(look(2), std::pair(1, 22));
+    EXPECT_EQ(look(3), std::pair(20, 0));
+    EXPECT_EQ(look(5), std::pair(1, 0));
+}
+
+TEST(PageCare, LeavesADocumentWithoutTablesAsItIs) {
+    const Document document = withCareForPages(documentOf({paragraphOf("one"), paragraphOf("")}));
     for (const Block& block : document.body.blocks) EXPECT_FALSE(isKept(block));
 }
 

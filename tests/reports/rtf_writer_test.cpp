@@ -293,6 +293,20 @@ TEST(RtfWriter, TakesNoLineOfATableAndNoEmptyOneForATitle) {
     EXPECT_FALSE(hasWord(read.tables()[0][0].cells[0].paragraphs[0].words, "s"));
 }
 
+TEST(RtfWriter, HasAStyleForABlankLineOfTheLowestSizeAlone) {
+    const auto styleOf = [](const DocumentParagraph& paragraph) {
+        Document document;
+        document.body.blocks.assign(1, paragraph);
+        const RtfDocument read = readRtf(rtfBytes(document));
+        EXPECT_EQ(read.styles.at(2).words.at("fs"), 2);
+        const RtfWords& words = std::get<RtfParagraph>(read.body.front()).words;
+        return hasWord(words, "s") ? words.at("s") : 0;
+    };
+    EXPECT_EQ(styleOf(paragraphOf("", {.size = lowestLine})), 2);
+    EXPECT_EQ(styleOf(paragraphOf("small", {.size = lowestLine})), 0);
+    EXPECT_EQ(styleOf(DocumentParagraph{}), 0);
+}
+
 TEST(RtfWriter, IsInAmericanEnglishAndLeavesNoLineOfAParagraphAlone) {
     const RtfDocument read = readRtf(rtfBytes(documentOf("x", {.font = "Arial", .size = 20})));
     EXPECT_EQ(read.words.at("deflang"), 1033);
