@@ -83,6 +83,7 @@ MainWindow::MainWindow(Program& program)
     : ControlArea(PixelGrid(program.platform.screen), nullptr), m_program(program) {
     FrmMain& form = program.frmMain;
     setObjectName(QStringLiteral("frmMain"));
+    setAcceptDrops(true);  // to show what is dragged wherever it passes
     makePanels();
     makeButtons();
     makeOthers();
@@ -280,6 +281,16 @@ bool MainWindow::event(QEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(windowClosing(m_program)); }
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    event->setAccepted(statementDragIn(*event));
+}
+
+void MainWindow::dragMoveEvent(QDragMoveEvent* event) {
+    if (const StatementDrag* drag = statementDragIn(*event))
+        drag->show(*this, event->position().toPoint(), {});
+    event->ignore();
+}
 
 void MainWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);

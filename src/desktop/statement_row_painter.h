@@ -32,9 +32,6 @@ void drawDropGround(QPainter& painter, const QRect& place);
 /// A statement on one line.
 QString lineOf(std::string_view text);
 
-/// Where the pointer is in what hangs at it during a drag: above, so that the row below it stays
-/// in sight.
-inline constexpr QPoint dragHotSpot{-14, -6};
 /// The small card that hangs at the pointer while a row is dragged.
 QPixmap dragCard(const Row& row, const QFont& font, qreal pixelRatio);
 
