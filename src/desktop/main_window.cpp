@@ -268,6 +268,8 @@ void MainWindow::focusScreen() {
     m_focusPending = false;
     const Panel* shown = screen();
     if (std::exchange(m_focusedScreen, shown) == shown || !shown) return;
+    for (QWidget* widget : m_panels.at(shown)->findChildren<QWidget*>())
+        if (auto* list = dynamic_cast<StatementListView*>(widget)) list->openAtFirstRow();
     const Control* first = firstStop(*shown);
     if (!first) return;
     auto* widget = findChild<QWidget*>(fromCp1252(first->name()));

@@ -15,20 +15,34 @@
 
 #include "analyze/mapping.h"
 #include "analyze/row_description.h"
+#include "app/list_hints.h"
+#include "desktop/conversions.h"
 #include "desktop/statement_row_painter.h"
 
 namespace orvanta::desktop {
 
 namespace {
 
+constexpr int wholeMargin = 8;
 constexpr int edge = 24;  // pixels from the upper or lower end in which a drag scrolls
 
 }  // namespace
 
 StatementListView::StatementListView(Program& program, StatementList& list, QWidget* parent)
-    : QListView(parent), m_program(program), m_list(list), m_model(list) {
+    : QListView(parent),
+      m_program(program),
+      m_list(list),
+      m_model(list),
+      m_whole(new QLabel(this)) {
     if (isMappingList(program.frmMain, list))
         m_mappingCounts = std::make_unique<MappingCounts>(list);
+    m_fit = std::make_unique<RowFit>(list, m_mappingCounts.get());
+    m_whole->hide();
+    m_whole->setTextFormat(Qt::PlainText);
+    m_whole->setWordWrap(true);
+    m_whole->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_whole->setMargin(wholeMargin);
+    m_whole->setAutoFillBackground(true);
     m_model.describe = [this](int position) {
         return describeRow(m_list, position, m_mappingCounts.get());
     };
@@ -45,7 +59,12 @@ StatementListView::StatementListView(Program& program, StatementList& list, QWid
         if (m_mappingCounts) viewport()->update();
         showSelection();
     };
+    m_model.rowsDiffer = [this] {
+        if (!std::exchange(m_measuring, true))
+            QTimer::singleShot(0, this, [this] { measureRows(); });
+    };
     m_model.rowCameIn = [this](int position) {
+        if (m_fit->include(position)) layOutRows();
         if (m_mappingCounts) viewport()->update();  // the row that it is mapped under tells of it
         m_lastCameIn = position;
         if (m_rowsCameIn++ == 0) QTimer::singleShot(0, this, [this] { reveal(); });
@@ -62,11 +81,12 @@ void StatementListView::showSelection() {
     else
         selectionModel()->clear();
     m_showing = false;
+    showWholeStatement();
 }
 
 /// Brings a row that a person has just added into view. A list that was filled stays at its top.
 void StatementListView::reveal() {
-    if (m_rowsCameIn == 1) scrollTo(indexAtPosition(m_lastCameIn));
+    if (m_rowsCameIn == 1 && isVisible()) scrollTo(indexAtPosition(m_lastCameIn));
     m_rowsCameIn = 0;
 }
 
@@ -76,6 +96,56 @@ void StatementListView::selectionChanged(const QItemSelection& selected,
     if (m_showing || m_model.isChanging()) return;
     const QModelIndexList chosen = selectionModel()->selectedIndexes();
     m_list.select(chosen.isEmpty() ? 0 : chosen.front().row() + 1);
+}
+
+void StatementListView::openAtFirstRow() { scrollToTop(); }
+
+/// The first key in a list where nothing is chosen chooses its first row, which Qt would pass over.
+void StatementListView::keyPressEvent(QKeyEvent* event) {
+    const bool moves = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+    if (!moves || m_list.hasSelection() || m_list.count() == 0)
+        return QListView::keyPressEvent(event);
+    m_list.select(1);
+    scrollTo(currentIndex());
+}
+
+void StatementListView::resizeEvent(QResizeEvent* event) {
+    QListView::resizeEvent(event);
+    measureRows();
+}
+
+void StatementListView::changeEvent(QEvent* event) {
+    QListView::changeEvent(event);
+    if (event->type() == QEvent::FontChange) measureRows();
+}
+
+void StatementListView::measureRows() {
+    m_measuring = false;
+    m_fit->measure(fontMetrics(), viewport()->width());
+    layOutRows();
+}
+
+/// Gives the rows their height, and the whole statement below them room for any of theirs.
+void StatementListView::layOutRows() {
+    constexpr double mostOfTheList = 0.4;
+    const QFontMetrics metrics = fontMetrics();
+    const int lines = m_fit->linesToRead(contentsRect().width() - 2 * wholeMargin);
+    const int height = lines == 0
+                           ? 0
+                           : std::min(lines * metrics.lineSpacing() + 2 * wholeMargin,
+                                      static_cast<int>(contentsRect().height() * mostOfTheList));
+    if (viewportMargins().bottom() != height) setViewportMargins(0, 0, 0, height);
+    m_whole->setVisible(height > 0);
+    m_whole->setGeometry(contentsRect().adjusted(0, contentsRect().height() - height, 0, 0));
+    showWholeStatement();
+    const int rows = rowHeight(metrics, linesPerRow());
+    if (std::exchange(m_rowHeight, rows) != rows) scheduleDelayedItemsLayout();
+}
+
+void StatementListView::showWholeStatement() {
+    if (m_whole->isHidden()) return;
+    const Row* row = m_list.selectedRow();
+    m_whole->setText(row ? lineOf(row->text) : QString());
 }
 
 void StatementListView::mouseMoveEvent(QMouseEvent* event) {
@@ -187,12 +257,12 @@ void StatementListView::timerEvent(QTimerEvent* event) {
     if (event->timerId() != m_edgeTimer.timerId()) return QListView::timerEvent(event);
     const double rows = rowsASecondAtEdge(std::abs(m_edgeCloseness), m_atEdge.elapsed() / 1000.0) *
                         m_sinceScroll.restart() / 1000.0;
-    scrollBy(std::copysign(rows * rowHeight(fontMetrics()), m_edgeCloseness));
+    scrollBy(std::copysign(rows * m_rowHeight, m_edgeCloseness));
 }
 
 void StatementListView::scrollInDrag(int angle) {
     constexpr double notch = 120, rows = 3;
-    scrollBy(-angle / notch * rows * rowHeight(fontMetrics()));
+    scrollBy(-angle / notch * rows * m_rowHeight);
 }
 
 void StatementListView::scrollBy(double pixels) {
@@ -209,6 +279,16 @@ void StatementListView::paintEvent(QPaintEvent* event) {
         drawDropGround(painter, viewport()->rect());
     }
     QListView::paintEvent(event);
+    QPainter painter(viewport());
+    paintHint(painter);
+}
+
+/// Tells below the rows what comes there, as long as nothing has come.
+void StatementListView::paintHint(QPainter& painter) {
+    const int below = visualRect(indexAtPosition(m_list.count())).bottom();
+    if (below > viewport()->height()) return;
+    drawHint(painter, *viewport(), std::max(0, below),
+             fromCp1252(hintIn(m_program.frmMain, m_list)));
 }
 
 double rowsASecondAtEdge(double closeness, double seconds) {

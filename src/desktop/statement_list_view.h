@@ -2,12 +2,14 @@
 
 #include <QBasicTimer>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QListView>
 #include <QPointer>
 #include <memory>
 
 #include "analyze/mapping_counts.h"
 #include "app/window_events.h"
+#include "desktop/row_fit.h"
 #include "desktop/statement_drag.h"
 #include "desktop/statement_list_model.h"
 
@@ -26,9 +28,12 @@ public:
     int litRow() const { return m_preview.target == DropTarget::Row ? m_previewRow : 0; }
     /// What is mapped under each row; null for a list to which nothing is mapped.
     const MappingCounts* mappingCounts() const { return m_mappingCounts.get(); }
+    int linesPerRow() const { return m_fit->linesPerRow(); }
     /// True if the list lights up as a whole.
     bool isLit() const { return m_preview.target == DropTarget::WholeList; }
 
+    /// As a person finds the list who comes to its screen: at its first row.
+    void openAtFirstRow();
     /// The wheel, turned while a drag is under way. `angle`: 120 for a notch, above 0 away from the
     /// person.
     void scrollInDrag(int angle);
@@ -40,6 +45,9 @@ protected:
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -52,6 +60,10 @@ protected:
 private:
     void showSelection();
     void reveal();
+    void measureRows();
+    void layOutRows();
+    void showWholeStatement();
+    void paintHint(QPainter& painter);
     void passOver(QDragMoveEvent& event);
     void showDropPreview(const StatementDrag& drag, const QPoint& point);
     void endOfDrag();
@@ -62,6 +74,10 @@ private:
     StatementList& m_list;
     StatementListModel m_model;
     std::unique_ptr<MappingCounts> m_mappingCounts;
+    std::unique_ptr<RowFit> m_fit;
+    bool m_measuring = false;  // soon: what changes at once is measured once
+    int m_rowHeight = 0;
+    QLabel* m_whole;  // below the rows: the chosen statement whole, where rows cut some
     bool m_showing = false;
     int m_rowsCameIn = 0, m_lastCameIn = 0;  // since the last look at the event queue
     DropPreview m_preview;                   // of the drag that is over the list
