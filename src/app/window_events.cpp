@@ -98,15 +98,19 @@ DropPreview previewOfDrop(const Program& program, const StatementList& from,
     const FrmMain& form = program.frmMain;
     if (isMappingList(form, list)) {
         if (!takesMapping(form, list, position)) return {};
-        if (!statementToMap(form, list)) return {DropTarget::Unseen};
-        return {DropTarget::Row, list.row(position).text};
+        const Row* statement = statementToMap(form, list);
+        if (!statement) return {DropTarget::Unseen};
+        return {DropTarget::Row,
+                statement,
+                {"map: " + statement->text, "onto: " + list.row(position).text}};
     }
     if (isPickingList(form, list)) {
         const Row* row = rowToTakeBack(form, list);
-        return row ? DropPreview{DropTarget::WholeList, "take back: " + row->text} : DropPreview{};
+        return row ? DropPreview{DropTarget::WholeList, row, {"take back: " + row->text}}
+                   : DropPreview{};
     }
     if (isRanked(form, list) && &from == &list && position != 0)
-        return {DropTarget::Row, "below: " + list.row(position).text};
+        return {DropTarget::Row, from.selectedRow(), {"below: " + list.row(position).text}};
     return {};
 }
 

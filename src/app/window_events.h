@@ -33,7 +33,8 @@ enum class DropTarget { Nothing, Unseen, Row, WholeList };
 /// What a person is to know of a drop ahead of it.
 struct DropPreview {
     DropTarget target = DropTarget::Nothing;
-    std::string caption{};  // Windows-1252; empty where nothing lights up
+    const Row* statement = nullptr;    // what the drop would move, map or take back; null for none
+    std::vector<std::string> lines{};  // Windows-1252; none where nothing lights up
 
     friend bool operator==(const DropPreview&, const DropPreview&) = default;
 };

@@ -185,9 +185,11 @@ void placeMappingScreen(FrmMain& form, Panel& panel, Label& heading, const SideC
     const auto placeList = [&](const HeadedList& headed, Bounds area, Stretch stretch) {
         placeHeadedList(form.*headed.heading, form.*headed.list, panel, area, stretch);
     };
-    placeList(side.mapping, grid(24, 88, 396, 420), {0, 0, 0.5, 1});
-    placeList(side.strengths, grid(436, 88, 300, 204), {0.5, 0, 1, 0.5});
-    placeList(side.weaknesses, grid(436, 304, 300, 204), {0.5, 0.5, 1, 1});
+    // Each over the whole height and the mapping list in the middle: no straight way from one
+    // list to it leads over another, whose statement would be mapped then.
+    placeList(side.strengths, grid(24, 88, 216, 420), {0, 0, 0.31, 1});
+    placeList(side.mapping, grid(252, 88, 256, 420), {0.31, 0, 0.69, 1});
+    placeList(side.weaknesses, grid(520, 88, 216, 420), {0.69, 0, 1, 1});
 }
 
 /// What the Analyze screens say until their texts have been loaded.

@@ -96,6 +96,7 @@ MainWindow::MainWindow(Program& program)
     : ControlArea(PixelGrid(program.platform.screen), nullptr), m_program(program) {
     FrmMain& form = program.frmMain;
     setObjectName(QStringLiteral("frmMain"));
+    setAcceptDrops(true);  // to show what is dragged wherever it passes
     makePanels();
     makeButtons();
     makeOthers();
@@ -286,6 +287,8 @@ void MainWindow::focusScreen() {
     m_focusPending = false;
     const Panel* shown = screen();
     if (std::exchange(m_focusedScreen, shown) == shown || !shown) return;
+    for (QWidget* widget : m_panels.at(shown)->findChildren<QWidget*>())
+        if (auto* list = dynamic_cast<StatementListView*>(widget)) list->openAtFirstRow();
     const Control* first = firstStop(*shown);
     if (!first) return;
     auto* widget = findChild<QWidget*>(fromCp1252(first->name()));
@@ -306,6 +309,16 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(windowClosing(m_program)); }
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    event->setAccepted(statementDragIn(*event));
+}
+
+void MainWindow::dragMoveEvent(QDragMoveEvent* event) {
+    if (const StatementDrag* drag = statementDragIn(*event))
+        drag->show(*this, event->position().toPoint(), {});
+    event->ignore();
+}
 
 void MainWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);

@@ -4,12 +4,15 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QListWidget>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <utility>
 
+#include "app/list_hints.h"
 #include "desktop/clicks.h"
+#include "desktop/statement_row_painter.h"
 
 namespace orvanta::desktop {
 
@@ -31,6 +34,22 @@ void showCaption(const CaptionedControl& model, QAbstractButton& widget, const C
     widget.setText(fromCp1252(model.caption()));
     widget.setAccessibleName(shownCaption(model.caption()));
 }
+
+/// The list of files, which tells what comes there as long as it is empty.
+class FileListView : public QListWidget {
+public:
+    FileListView(const ListBox& model, QWidget* parent) : QListWidget(parent), m_model(model) {}
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QListWidget::paintEvent(event);
+        QPainter painter(viewport());
+        drawHint(painter, *viewport(), 0, fromCp1252(hintIn(m_model)));
+    }
+
+private:
+    const ListBox& m_model;
+};
 
 void showFiles(const ListBox& model, QListWidget& widget) {
     const QSignalBlocker silence(widget);
@@ -125,7 +144,7 @@ QComboBox* makeComboBox(ComboBox& model, ControlArea& area) {
 }
 
 QListWidget* makeListBox(ListBox& model, ControlArea& area) {
-    auto* widget = new QListWidget(&area);
+    auto* widget = new FileListView(model, &area);
     widget->setTextElideMode(Qt::ElideMiddle);
     widget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     follow(model, [&model, widget, &area] {

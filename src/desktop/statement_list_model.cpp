@@ -62,12 +62,14 @@ void StatementListModel::rowRemoved(int) {
     assert(m_changing);
     endRemoveRows();
     m_changing = false;
+    rowsDiffer();
     selectionMayDiffer();
 }
 
 void StatementListModel::rowChanged(int position) {
     const QModelIndex changed = index(position - 1);
     emit dataChanged(changed, changed);
+    rowsDiffer();
 }
 
 void StatementListModel::aboutToBeCleared() {
@@ -79,6 +81,7 @@ void StatementListModel::cleared() {
     assert(m_changing);
     endResetModel();
     m_changing = false;
+    rowsDiffer();
     selectionMayDiffer();
 }
 

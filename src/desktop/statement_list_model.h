@@ -22,6 +22,7 @@ public:
     std::function<std::string(int position)> describe;  // for those who do not see the row
     std::function<void()> selectionMayDiffer;           // the view's is to follow the list's
     std::function<void(int position)> rowCameIn;
+    std::function<void()> rowsDiffer;  // one was changed or taken out, or all were
 
 private:
     void rowAboutToBeInserted(int position) override;

@@ -1,5 +1,6 @@
 #include "desktop/statement_list_view.h"
 
+#include <QApplication>
 #include <QDrag>
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -7,38 +8,41 @@
 #include <QScrollBar>
 #include <QTimer>
 #include <QToolTip>
+#include <algorithm>
 #include <cassert>
+#include <cmath>
 #include <utility>
 
 #include "analyze/mapping.h"
 #include "analyze/row_description.h"
+#include "app/list_hints.h"
+#include "desktop/conversions.h"
 #include "desktop/statement_row_painter.h"
 
 namespace orvanta::desktop {
 
 namespace {
 
-/// The drag of a statement; null for whatever else may be dragged here.
-const StatementDrag* statementDragIn(const QDropEvent& event) {
-    return dynamic_cast<const StatementDrag*>(event.mimeData());
-}
+constexpr int wholeMargin = 8;
+constexpr int edge = 24;  // pixels from the upper or lower end in which a drag scrolls
 
 }  // namespace
 
-void StatementDrag::dropOn(StatementList& list, int position) const {
-    assert(position >= 0 && position <= list.count());
-    m_target = &list;
-    m_position = position;
-}
-
-void StatementDrag::finish(Program& program) const {
-    if (m_target) droppedOn(program, *m_target, m_position);
-}
-
 StatementListView::StatementListView(Program& program, StatementList& list, QWidget* parent)
-    : QListView(parent), m_program(program), m_list(list), m_model(list) {
+    : QListView(parent),
+      m_program(program),
+      m_list(list),
+      m_model(list),
+      m_whole(new QLabel(this)) {
     if (isMappingList(program.frmMain, list))
         m_mappingCounts = std::make_unique<MappingCounts>(list);
+    m_fit = std::make_unique<RowFit>(list, m_mappingCounts.get());
+    m_whole->hide();
+    m_whole->setTextFormat(Qt::PlainText);
+    m_whole->setWordWrap(true);
+    m_whole->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_whole->setMargin(wholeMargin);
+    m_whole->setAutoFillBackground(true);
     m_model.describe = [this](int position) {
         return describeRow(m_list, position, m_mappingCounts.get());
     };
@@ -55,7 +59,12 @@ StatementListView::StatementListView(Program& program, StatementList& list, QWid
         if (m_mappingCounts) viewport()->update();
         showSelection();
     };
+    m_model.rowsDiffer = [this] {
+        if (!std::exchange(m_measuring, true))
+            QTimer::singleShot(0, this, [this] { measureRows(); });
+    };
     m_model.rowCameIn = [this](int position) {
+        if (m_fit->include(position)) layOutRows();
         if (m_mappingCounts) viewport()->update();  // the row that it is mapped under tells of it
         m_lastCameIn = position;
         if (m_rowsCameIn++ == 0) QTimer::singleShot(0, this, [this] { reveal(); });
@@ -72,11 +81,12 @@ void StatementListView::showSelection() {
     else
         selectionModel()->clear();
     m_showing = false;
+    showWholeStatement();
 }
 
 /// Brings a row that a person has just added into view. A list that was filled stays at its top.
 void StatementListView::reveal() {
-    if (m_rowsCameIn == 1) scrollTo(indexAtPosition(m_lastCameIn));
+    if (m_rowsCameIn == 1 && isVisible()) scrollTo(indexAtPosition(m_lastCameIn));
     m_rowsCameIn = 0;
 }
 
@@ -88,9 +98,62 @@ void StatementListView::selectionChanged(const QItemSelection& selected,
     m_list.select(chosen.isEmpty() ? 0 : chosen.front().row() + 1);
 }
 
+void StatementListView::openAtFirstRow() { scrollToTop(); }
+
+/// The first key in a list where nothing is chosen chooses its first row, which Qt would pass over.
+void StatementListView::keyPressEvent(QKeyEvent* event) {
+    const bool moves = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+    if (!moves || m_list.hasSelection() || m_list.count() == 0)
+        return QListView::keyPressEvent(event);
+    m_list.select(1);
+    scrollTo(currentIndex());
+}
+
+void StatementListView::resizeEvent(QResizeEvent* event) {
+    QListView::resizeEvent(event);
+    measureRows();
+}
+
+void StatementListView::changeEvent(QEvent* event) {
+    QListView::changeEvent(event);
+    if (event->type() == QEvent::FontChange) measureRows();
+}
+
+void StatementListView::measureRows() {
+    m_measuring = false;
+    m_fit->measure(fontMetrics(), viewport()->width());
+    layOutRows();
+}
+
+/// Gives the rows their height, and the whole statement below them room for any of theirs.
+void StatementListView::layOutRows() {
+    constexpr double mostOfTheList = 0.4;
+    const QFontMetrics metrics = fontMetrics();
+    const int lines = m_fit->linesToRead(contentsRect().width() - 2 * wholeMargin);
+    const int height = lines == 0
+                           ? 0
+                           : std::min(lines * metrics.lineSpacing() + 2 * wholeMargin,
+                                      static_cast<int>(contentsRect().height() * mostOfTheList));
+    if (viewportMargins().bottom() != height) setViewportMargins(0, 0, 0, height);
+    m_whole->setVisible(height > 0);
+    m_whole->setGeometry(contentsRect().adjusted(0, contentsRect().height() - height, 0, 0));
+    showWholeStatement();
+    const int rows = rowHeight(metrics, linesPerRow());
+    if (std::exchange(m_rowHeight, rows) != rows) scheduleDelayedItemsLayout();
+}
+
+void StatementListView::showWholeStatement() {
+    if (m_whole->isHidden()) return;
+    const Row* row = m_list.selectedRow();
+    m_whole->setText(row ? lineOf(row->text) : QString());
+}
+
 void StatementListView::mouseMoveEvent(QMouseEvent* event) {
     hoveredOver(m_program, m_list, positionAt(event->position().toPoint()));
+    const bool wasDragging = state() == DraggingState;
     QListView::mouseMoveEvent(event);
+    // Qt begins a drag with the second motion; of a quick hand it may see but one.
+    if (!wasDragging && state() == DraggingState) QListView::mouseMoveEvent(event);
 }
 
 bool StatementListView::viewportEvent(QEvent* event) {
@@ -100,16 +163,28 @@ bool StatementListView::viewportEvent(QEvent* event) {
 }
 
 void StatementListView::startDrag(Qt::DropActions) {
-    const Row* row = m_list.selectedRow();
-    if (!row) return;
+    if (!m_list.hasSelection()) return;
+    // Ahead of all else: the pointer may be gone from the list before the drag's first motion.
+    draggedOver(m_program, m_list);
     auto* load = new StatementDrag(m_list);
+    const std::shared_ptr<Drop> drop = load->drop();
     auto* drag = new QDrag(this);
     drag->setMimeData(load);
-    const QPixmap card = dragCard(*row, font(), devicePixelRatioF());
-    drag->setPixmap(card);
-    drag->setHotSpot(dragHotSpot);
+    QPixmap nothing(1, 1);  // the load has a picture of its own
+    nothing.fill(Qt::transparent);
+    drag->setPixmap(nothing);
+    const QPointer<StatementDrag> carried = load;
+    DragWatch watch;
     drag->exec(Qt::MoveAction);
-    load->finish(m_program);
+    if (carried) carried->hide();
+    if (!drop->list) {
+        // Let go before Qt saw where, or after the wheel had moved the rows under the pointer.
+        const auto place = watch.letGoAt();
+        if (StatementListView* list = place ? statementListAt(*place) : nullptr)
+            *drop = list->dropAt(m_list, list->viewport()->mapFromGlobal(*place));
+    }
+    // Only now, since what follows may open a box.
+    if (drop->list) droppedOn(m_program, *drop->list, drop->position);
 }
 
 void StatementListView::dragEnterEvent(QDragEnterEvent* event) { passOver(*event); }
@@ -120,7 +195,7 @@ void StatementListView::passOver(QDragMoveEvent& event) {
     if (!drag) return event.ignore();
     draggedOver(m_program, m_list);
     const QPoint point = event.position().toPoint();
-    showDropPreview(drag->from(), point);
+    showDropPreview(*drag, point);
     scrollAtEdge(point);
     event.setDropAction(Qt::MoveAction);
     // The whole list is asked again and again while the pointer moves within it; while it
@@ -130,23 +205,20 @@ void StatementListView::passOver(QDragMoveEvent& event) {
 }
 
 /// Shows what a drop at this point would do.
-void StatementListView::showDropPreview(const StatementList& from, const QPoint& point) {
-    m_draggedFrom = &from;
+void StatementListView::showDropPreview(const StatementDrag& drag, const QPoint& point) {
+    m_drag = &drag;
     m_draggedTo = point;
     const int row = positionAt(point);
-    const DropPreview preview = previewOfDrop(m_program, from, m_list, row);
-    if (std::exchange(m_preview, preview) != preview || row != m_previewRow) viewport()->update();
-    m_previewRow = row;
-    if (preview.caption.empty()) return delete m_hint;
-    if (!m_hint) m_hint = new DropHint(*window());
-    m_hint->showAt(viewport()->mapTo(window(), point), rowHeight(fontMetrics()),
-                   lineOf(preview.caption));
+    DropPreview preview = previewOfDrop(m_program, drag.from(), m_list, row);
+    drag.show(*window(), viewport()->mapTo(window(), point), preview);
+    if (std::exchange(m_previewRow, row) != row || preview != m_preview) viewport()->update();
+    m_preview = std::move(preview);
 }
 
 void StatementListView::endOfDrag() {
     m_edgeTimer.stop();
     m_preview = {};
-    delete m_hint;
+    m_drag = nullptr;
     viewport()->update();
 }
 
@@ -161,23 +233,44 @@ void StatementListView::dropEvent(QDropEvent* event) {
     event->accept();
 }
 
-/// Scrolls on while a drag rests at the upper or lower edge.
+Drop StatementListView::dropAt(const StatementList& from, const QPoint& point) {
+    draggedOver(m_program, m_list);
+    const int row = positionAt(point);
+    if (previewOfDrop(m_program, from, m_list, row).target == DropTarget::Nothing) return {};
+    return {&m_list, row};
+}
+
+/// Scrolls on while a drag rests at the upper or lower edge: the longer and the nearer, the faster.
 void StatementListView::scrollAtEdge(const QPoint& point) {
-    constexpr int edge = 20, step = 8, milliseconds = 30;
-    m_edgeStep = 0;
-    if (point.y() < edge) m_edgeStep = -step;
-    if (point.y() > viewport()->height() - edge) m_edgeStep = step;
-    if (m_edgeStep == 0)
-        m_edgeTimer.stop();
-    else if (!m_edgeTimer.isActive())
-        m_edgeTimer.start(milliseconds, this);
+    constexpr int milliseconds = 10;
+    const int above = edge - point.y(), below = point.y() - (viewport()->height() - edge);
+    m_edgeCloseness = std::min(std::max(above, below), edge) / static_cast<double>(edge);
+    if (m_edgeCloseness <= 0) return m_edgeTimer.stop();
+    if (above > below) m_edgeCloseness = -m_edgeCloseness;
+    if (m_edgeTimer.isActive()) return;
+    m_atEdge.start();
+    m_sinceScroll.start();
+    m_edgeTimer.start(milliseconds, this);
 }
 
 void StatementListView::timerEvent(QTimerEvent* event) {
     if (event->timerId() != m_edgeTimer.timerId()) return QListView::timerEvent(event);
-    assert(m_draggedFrom);
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + m_edgeStep);
-    showDropPreview(*m_draggedFrom, m_draggedTo);
+    const double rows = rowsASecondAtEdge(std::abs(m_edgeCloseness), m_atEdge.elapsed() / 1000.0) *
+                        m_sinceScroll.restart() / 1000.0;
+    scrollBy(std::copysign(rows * m_rowHeight, m_edgeCloseness));
+}
+
+void StatementListView::scrollInDrag(int angle) {
+    constexpr double notch = 120, rows = 3;
+    scrollBy(-angle / notch * rows * m_rowHeight);
+}
+
+void StatementListView::scrollBy(double pixels) {
+    m_unscrolled += pixels;
+    const double whole = std::trunc(m_unscrolled);
+    m_unscrolled -= whole;
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + static_cast<int>(whole));
+    if (m_drag) showDropPreview(*m_drag, m_draggedTo);
 }
 
 void StatementListView::paintEvent(QPaintEvent* event) {
@@ -186,6 +279,28 @@ void StatementListView::paintEvent(QPaintEvent* event) {
         drawDropGround(painter, viewport()->rect());
     }
     QListView::paintEvent(event);
+    QPainter painter(viewport());
+    paintHint(painter);
+}
+
+/// Tells below the rows what comes there, as long as nothing has come.
+void StatementListView::paintHint(QPainter& painter) {
+    const int below = visualRect(indexAtPosition(m_list.count())).bottom();
+    if (below > viewport()->height()) return;
+    drawHint(painter, *viewport(), std::max(0, below),
+             fromCp1252(hintIn(m_program.frmMain, m_list)));
+}
+
+double rowsASecondAtEdge(double closeness, double seconds) {
+    constexpr double first = 8, last = 120, untilLast = 1.5;
+    return (first + (last - first) * std::min(1.0, seconds / untilLast)) * (1 + closeness) / 2;
+}
+
+StatementListView* statementListAt(const QPoint& globalPoint) {
+    for (QWidget* widget = QApplication::widgetAt(globalPoint); widget;
+         widget = widget->parentWidget())
+        if (auto* view = dynamic_cast<StatementListView*>(widget)) return view;
+    return nullptr;
 }
 
 }  // namespace orvanta::desktop

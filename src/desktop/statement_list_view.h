@@ -1,34 +1,19 @@
 #pragma once
 
 #include <QBasicTimer>
+#include <QElapsedTimer>
+#include <QLabel>
 #include <QListView>
-#include <QMimeData>
 #include <QPointer>
 #include <memory>
 
 #include "analyze/mapping_counts.h"
 #include "app/window_events.h"
-#include "desktop/drop_hint.h"
+#include "desktop/row_fit.h"
+#include "desktop/statement_drag.h"
 #include "desktop/statement_list_model.h"
 
 namespace orvanta::desktop {
-
-/// What a dragged row carries: the list that it comes from and, once dropped, where that was.
-class StatementDrag : public QMimeData {
-public:
-    explicit StatementDrag(StatementList& from) : m_from(from) {}
-
-    StatementList& from() const { return m_from; }
-    void dropOn(StatementList& list, int position) const;
-    /// Tells the program of the drop, if there was one. Called when the drag is over, since
-    /// what follows may open a box.
-    void finish(Program& program) const;
-
-private:
-    StatementList& m_from;
-    mutable StatementList* m_target = nullptr;
-    mutable int m_position = 0;
-};
 
 /// The window's side of a statement list. There is no object for a row, so that lists may be
 /// long.
@@ -43,13 +28,26 @@ public:
     int litRow() const { return m_preview.target == DropTarget::Row ? m_previewRow : 0; }
     /// What is mapped under each row; null for a list to which nothing is mapped.
     const MappingCounts* mappingCounts() const { return m_mappingCounts.get(); }
+    int linesPerRow() const { return m_fit->linesPerRow(); }
     /// True if the list lights up as a whole.
     bool isLit() const { return m_preview.target == DropTarget::WholeList; }
+
+    /// As a person finds the list who comes to its screen: at its first row.
+    void openAtFirstRow();
+    /// The wheel, turned while a drag is under way. `angle`: 120 for a notch, above 0 away from the
+    /// person.
+    void scrollInDrag(int angle);
+    /// What a drop from another or the same list does at a point of the viewport; nothing if no
+    /// drop is taken there.
+    Drop dropAt(const StatementList& from, const QPoint& point);
 
 protected:
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -62,24 +60,41 @@ protected:
 private:
     void showSelection();
     void reveal();
+    void measureRows();
+    void layOutRows();
+    void showWholeStatement();
+    void paintHint(QPainter& painter);
     void passOver(QDragMoveEvent& event);
-    void showDropPreview(const StatementList& from, const QPoint& point);
+    void showDropPreview(const StatementDrag& drag, const QPoint& point);
     void endOfDrag();
     void scrollAtEdge(const QPoint& point);
+    void scrollBy(double pixels);
 
     Program& m_program;
     StatementList& m_list;
     StatementListModel m_model;
     std::unique_ptr<MappingCounts> m_mappingCounts;
+    std::unique_ptr<RowFit> m_fit;
+    bool m_measuring = false;  // soon: what changes at once is measured once
+    int m_rowHeight = 0;
+    QLabel* m_whole;  // below the rows: the chosen statement whole, where rows cut some
     bool m_showing = false;
     int m_rowsCameIn = 0, m_lastCameIn = 0;  // since the last look at the event queue
     DropPreview m_preview;                   // of the drag that is over the list
     int m_previewRow = 0;
-    QPointer<DropHint> m_hint;  // there while a drop would do something
-    const StatementList* m_draggedFrom = nullptr;
+    QPointer<const StatementDrag> m_drag;
     QPoint m_draggedTo;
     QBasicTimer m_edgeTimer;
-    int m_edgeStep = 0;
+    QElapsedTimer m_atEdge, m_sinceScroll;
+    double m_edgeCloseness = 0;  // 1 at an edge, 0 away from both; below 0 at the upper one
+    double m_unscrolled = 0;     // the part of a pixel that scrolling still owes
 };
+
+/// How fast a drag scrolls that rests near the edge of a list. `closeness`: 0 to 1, at the very
+/// edge. `seconds`: since it came there.
+double rowsASecondAtEdge(double closeness, double seconds);
+
+/// The statement list at a point of the screen; null for none.
+StatementListView* statementListAt(const QPoint& globalPoint);
 
 }  // namespace orvanta::desktop

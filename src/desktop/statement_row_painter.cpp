@@ -1,6 +1,7 @@
 #include "desktop/statement_row_painter.h"
 
 #include <QPainter>
+#include <QTextLayout>
 #include <algorithm>
 
 #include "core/statement_kind.h"
@@ -32,23 +33,57 @@ void drawGround(QPainter& painter, const QStyleOptionViewItem& option) {
                      option.palette.color(QPalette::Midlight));
 }
 
-void drawContent(QPainter& painter, const QRect& place, const Row& row, const QFont& font) {
-    const int left = place.left() + leftMargin + row.indent * indentStep;
-    const QRect picture(left, place.top() + (place.height() - pictureSize) / 2, pictureSize,
-                        pictureSize);
-    rowIcon(row.image).paint(&painter, picture);
-    const QRect room = place.adjusted(picture.right() + 1 + gap - place.left(), 0, -gap, 0);
+int textLeft(const Row& row) { return leftMargin + row.indent * indentStep + pictureSize + gap; }
+
+/// The text in as many lines as it needs; the last one that there may be is cut.
+QStringList brokenAt(const QString& text, const QFont& font, int width, int mostLines) {
+    QStringList lines;
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    int begin = 0;
+    for (QTextLine line; lines.size() + 1 < mostLines && (line = layout.createLine()).isValid();) {
+        line.setLineWidth(width);
+        if (begin + line.textLength() >= text.length()) break;
+        lines << text.mid(begin, line.textLength()).trimmed();
+        begin += line.textLength();
+    }
+    layout.endLayout();
+    return lines << QFontMetrics(font).elidedText(text.mid(begin), Qt::ElideRight, width);
+}
+
+void drawContent(QPainter& painter, const QRect& place, const Row& row, const QFont& font,
+                 int mostLines) {
+    const QRect room = place.adjusted(textLeft(row), 0, -gap, 0);
+    rowIcon(row.image).paint(&painter, QRect(room.left() - gap - pictureSize,
+                                             place.top() + (place.height() - pictureSize) / 2,
+                                             pictureSize, pictureSize));
     painter.setFont(font);
     painter.setPen(inkOf(row));
-    const QString shown =
-        painter.fontMetrics().elidedText(lineOf(row.text), Qt::ElideRight, room.width());
-    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
+    const QStringList lines = brokenAt(lineOf(row.text), font, room.width(), mostLines);
+    const int height = painter.fontMetrics().height();
+    QRect line(room.left(), room.center().y() - static_cast<int>(lines.size()) * height / 2 + 1,
+               room.width(), height);
+    for (const QString& text : lines) {
+        painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
+        line.translate(0, height);
+    }
+}
+
+constexpr int smallPicture = 12, numberGap = 4;
+
+/// Wide enough for two digits, so that the numbers of all rows stand below each other.
+int numberWidth(int number, const QFontMetrics& metrics) {
+    return std::max(metrics.horizontalAdvance(QString::number(number)),
+                    metrics.horizontalAdvance(QStringLiteral("00")));
+}
+
+bool hasCounts(const Row& row, const MappingCounts* counts) {
+    return counts && row.image > imageOf(StatementKind::Weakness);
 }
 
 /// Draws at the right of a row what is mapped under it; returns where that begins.
 int drawCounts(QPainter& painter, const QStyleOptionViewItem& option,
                const MappingCounts::Count& count) {
-    constexpr int smallPicture = 12, numberGap = 4;
     const QRect& place = option.rect;
     const QFontMetrics metrics(option.font);
     painter.setFont(option.font);
@@ -56,12 +91,9 @@ int drawCounts(QPainter& painter, const QStyleOptionViewItem& option,
     int right = place.right() - gap;
     for (const auto& [kind, number] : {std::pair(StatementKind::Weakness, count.weaknesses),
                                        std::pair(StatementKind::Strength, count.strengths)}) {
-        // Wide enough for two digits, so that the numbers of all rows stand below each other.
-        const QString text = QString::number(number);
-        const int width = std::max(metrics.horizontalAdvance(text),
-                                   metrics.horizontalAdvance(QStringLiteral("00")));
+        const int width = numberWidth(number, metrics);
         painter.drawText(QRect(right - width, place.top(), width, place.height()),
-                         Qt::AlignLeft | Qt::AlignVCenter, text);
+                         Qt::AlignLeft | Qt::AlignVCenter, QString::number(number));
         right -= width + numberGap + smallPicture;
         rowIcon(imageOf(kind))
             .paint(&painter, QRect(right, place.top() + (place.height() - smallPicture) / 2,
@@ -73,7 +105,26 @@ int drawCounts(QPainter& painter, const QStyleOptionViewItem& option,
 
 }  // namespace
 
-int rowHeight(const QFontMetrics& metrics) { return std::max(pictureSize, metrics.height()) + 12; }
+int rowHeight(const QFontMetrics& metrics, int lines) {
+    return std::max(pictureSize, metrics.height() * lines) + 12;
+}
+
+int textRoom(const Row& row, int rowWidth, const MappingCounts* counts,
+             const QFontMetrics& metrics) {
+    int room = rowWidth - textLeft(row) - gap;
+    if (!hasCounts(row, counts)) return room;
+    const MappingCounts::Count count = counts->of(row.key);
+    for (const int number : {count.strengths, count.weaknesses})
+        room -= numberWidth(number, metrics) + numberGap + smallPicture + gap;
+    return room - gap;
+}
+
+void drawHint(QPainter& painter, const QWidget& viewport, int top, const QString& hint) {
+    constexpr int margin = 16;
+    painter.setPen(viewport.palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport.rect().adjusted(margin, top + margin, -margin, 0),
+                     static_cast<int>(Qt::AlignLeft | Qt::AlignTop) | Qt::TextWordWrap, hint);
+}
 
 void drawDropGround(QPainter& painter, const QRect& place) {
     painter.setRenderHint(QPainter::Antialiasing);
@@ -93,7 +144,7 @@ StatementRowPainter::StatementRowPainter(const StatementList& list, StatementLis
     : QStyledItemDelegate(&view), m_list(list), m_view(view) {}
 
 QSize StatementRowPainter::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
-    return {leftMargin + pictureSize + gap, rowHeight(option.fontMetrics)};
+    return {leftMargin + pictureSize + gap, rowHeight(option.fontMetrics, m_view.linesPerRow())};
 }
 
 void StatementRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -106,9 +157,8 @@ void StatementRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& o
     const Row& row = m_list.row(index.row() + 1);
     QRect room = option.rect;
     const MappingCounts* counts = m_view.mappingCounts();
-    if (counts && row.image > imageOf(StatementKind::Weakness))
-        room.setRight(drawCounts(*painter, option, counts->of(row.key)));
-    drawContent(*painter, room, row, option.font);
+    if (hasCounts(row, counts)) room.setRight(drawCounts(*painter, option, counts->of(row.key)));
+    drawContent(*painter, room, row, option.font, m_view.linesPerRow());
     painter->restore();
 }
 
@@ -129,7 +179,7 @@ QPixmap dragCard(const Row& row, const QFont& font, qreal pixelRatio) {
     painter.drawRoundedRect(QRectF(QPointF(), QSizeF(size)).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
     Row level = row;
     level.indent = 0;
-    drawContent(painter, QRect(QPoint(), size), level, font);
+    drawContent(painter, QRect(QPoint(), size), level, font, 1);
     return card;
 }
 

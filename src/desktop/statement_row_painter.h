@@ -4,6 +4,7 @@
 #include <QPoint>
 #include <QStyledItemDelegate>
 
+#include "analyze/mapping_counts.h"
 #include "view/statement_list.h"
 
 namespace orvanta::desktop {
@@ -24,7 +25,14 @@ private:
     const StatementListView& m_view;
 };
 
-int rowHeight(const QFontMetrics& metrics);
+/// Of a row whose text has so many lines.
+int rowHeight(const QFontMetrics& metrics, int lines = 1);
+/// The width that a row of a list has for its text. `counts`: as in the list's view.
+int textRoom(const Row& row, int rowWidth, const MappingCounts* counts,
+             const QFontMetrics& metrics);
+
+/// What a list says below its rows, from `top` of its viewport down.
+void drawHint(QPainter& painter, const QWidget& viewport, int top, const QString& hint);
 
 /// The ground of what would take a drop.
 void drawDropGround(QPainter& painter, const QRect& place);
@@ -32,9 +40,6 @@ void drawDropGround(QPainter& painter, const QRect& place);
 /// A statement on one line.
 QString lineOf(std::string_view text);
 
-/// Where the pointer is in what hangs at it during a drag: above, so that the row below it stays
-/// in sight.
-inline constexpr QPoint dragHotSpot{-14, -6};
 /// The small card that hangs at the pointer while a row is dragged.
 QPixmap dragCard(const Row& row, const QFont& font, qreal pixelRatio);
 

@@ -124,26 +124,44 @@ TEST(SoundSwitch, TurnsOnWithoutASound) {
     EXPECT_EQ(bench.events(), Json::array());
 }
 
+std::string statementOf(const DropPreview& preview) {
+    return preview.statement ? preview.statement->text : std::string();
+}
+
 /// A drag from one list over another, and what lights up there.
 struct Hovering {
     std::string name, from, over;
     int row;
-    DropPreview preview;
+    DropTarget target = DropTarget::Nothing;
+    std::string statement{};  // that the drop would act on
+    std::vector<std::string> lines{};
 };
 std::ostream& operator<<(std::ostream& out, const Hovering& hovering) {
     return out << hovering.name;
 }
 
 const std::vector<Hovering> hoverings{
-    {"RankedRow", "lvAOpportunity", "lvAOpportunity", 2, {DropTarget::Row, "below: Ann O2"}},
-    {"RankedRowOfAnswers", "lvBThreat", "lvBThreat", 1, {DropTarget::Row, "below: rival"}},
-    {"BesideRankedRows", "lvAOpportunity", "lvAOpportunity", 0, {}},
-    {"RankedListOfAnother", "lvAThreat", "lvAOpportunity", 1, {}},
-    {"UnrankedStrengths", "lvAStrength", "lvAStrength", 1, {}},
-    {"UnrankedAnswers", "lvBWeakness", "lvBWeakness", 1, {}},
-    {"Opportunity", "lvStrengthOp", "lvOpportunity", 1, {DropTarget::Row, "Ann O1"}},
-    {"MappedRow", "lvStrengthOp", "lvOpportunity", 2, {}},
-    {"BesideOpportunities", "lvStrengthOp", "lvOpportunity", 0, {}},
+    {"RankedRow",
+     "lvAOpportunity",
+     "lvAOpportunity",
+     2,
+     DropTarget::Row,
+     "Ann O1",
+     {"below: Ann O2"}},
+    {"RankedRowOfAnswers", "lvBThreat", "lvBThreat", 1, DropTarget::Row, "rival", {"below: rival"}},
+    {"BesideRankedRows", "lvAOpportunity", "lvAOpportunity", 0},
+    {"RankedListOfAnother", "lvAThreat", "lvAOpportunity", 1},
+    {"UnrankedStrengths", "lvAStrength", "lvAStrength", 1},
+    {"UnrankedAnswers", "lvBWeakness", "lvBWeakness", 1},
+    {"Opportunity",
+     "lvStrengthOp",
+     "lvOpportunity",
+     1,
+     DropTarget::Row,
+     "Ann S1",
+     {"map: Ann S1", "onto: Ann O1"}},
+    {"MappedRow", "lvStrengthOp", "lvOpportunity", 2},
+    {"BesideOpportunities", "lvStrengthOp", "lvOpportunity", 0},
 };
 
 class DropUnderAMovingDrag : public testing::TestWithParam<Hovering> {
@@ -153,6 +171,7 @@ protected:
         bench.map("lvStrengthOp", 1, "lvOpportunity", 1);
         bench.list("lvBThreat").add({.key = "T1", .text = "rival"});
         bench.list("lvBWeakness").add({.key = "W1", .text = "slow"});
+        bench.list(GetParam().from).select(1);
         draggedOver(bench.program(), bench.list(GetParam().from));
     }
     AnalysisBench bench;
@@ -162,9 +181,11 @@ INSTANTIATE_TEST_SUITE_P(Over, DropUnderAMovingDrag, testing::ValuesIn(hoverings
 
 TEST_P(DropUnderAMovingDrag, LightsUpJustWhatWouldTakeIt) {
     const Hovering& hovering = GetParam();
-    EXPECT_EQ(previewOfDrop(bench.program(), bench.list(hovering.from), bench.list(hovering.over),
-                            hovering.row),
-              hovering.preview);
+    const DropPreview preview = previewOfDrop(bench.program(), bench.list(hovering.from),
+                                              bench.list(hovering.over), hovering.row);
+    EXPECT_EQ(preview.target, hovering.target);
+    EXPECT_EQ(statementOf(preview), hovering.statement);
+    EXPECT_EQ(preview.lines, hovering.lines);
 }
 
 TEST(MappedRowUnderAMovingDrag, LightsUpThePickingListThatTakesAMappedRowBack) {
@@ -174,7 +195,7 @@ TEST(MappedRowUnderAMovingDrag, LightsUpThePickingListThatTakesAMappedRowBack) {
     bench.select("lvOpportunity", 2);
     const StatementList& from = bench.list("lvOpportunity");
     EXPECT_EQ(previewOfDrop(bench.program(), from, bench.list("lvStrengthOp"), 0),
-              (DropPreview{DropTarget::WholeList, "take back: Ann S1"}));
+              (DropPreview{DropTarget::WholeList, from.selectedRow(), {"take back: Ann S1"}}));
     EXPECT_EQ(previewOfDrop(bench.program(), from, bench.list("lvWeaknessOp"), 0), DropPreview());
 }
 

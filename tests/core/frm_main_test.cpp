@@ -106,6 +106,22 @@ TEST(ScreenLists, EndAtOneLineOnAllScreensAndAreOfOneWidth) {
     }
 }
 
+TEST(MappingScreen, HasItsMappingListBetweenTheListsThatAreDraggedFrom) {
+    Bench bench;
+    const auto right = [](const Bounds& bounds) { return bounds.left + bounds.width; };
+    for (const MappingSide& side : mappingSides()) {
+        const Bounds strengths = bench.list(side.strengths).bounds(),
+                     weaknesses = bench.list(side.weaknesses).bounds(),
+                     mapping = bench.list(side.list).bounds();
+        EXPECT_LT(right(strengths).value, mapping.left.value) << side;
+        EXPECT_LT(right(mapping).value, weaknesses.left.value) << side;
+        for (const Bounds& beside : {strengths, weaknesses}) {
+            EXPECT_EQ(beside.top.value, mapping.top.value) << side;
+            EXPECT_EQ(beside.height.value, mapping.height.value) << side;
+        }
+    }
+}
+
 TEST(ScreenTexts, OfTheAnalyzeStepsAreBuiltInUntilTheirFileIsRead) {
     Bench bench;
     const Json state = bench.answerTo({{"do", "state"}})["state"];

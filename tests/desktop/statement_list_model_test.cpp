@@ -15,6 +15,7 @@ protected:
     StatementRows() {
         list.add({.key = "S1", .text = "caf\xE9", .image = 1, .largeImage = 1});
         list.add({.key = "S2", .text = "fleet", .image = 7});
+        model.rowsDiffer = [] {};
     }
     QVariant of(int row, int role = Qt::DisplayRole) { return model.data(model.index(row), role); }
 

@@ -3,7 +3,7 @@
 #include <QScrollBar>
 #include <QtTest>
 
-#include "desktop/drop_hint.h"
+#include "desktop/drag_picture.h"
 #include "desktop/statement_list_view.h"
 #include "painted_contrast.h"
 #include "window_bench.h"
@@ -50,10 +50,20 @@ protected:
 
     bool dragRow(const std::string& from, int row, const std::string& to, int at) {
         bench.select(from, row);
-        StatementDrag load(bench.list(from));
-        dragOver(load, from, placeOf(from, row));
+        drag = std::make_unique<StatementDrag>(bench.list(from));
+        dragOver(*drag, from, placeOf(from, row));
         leave(from);
-        return dragOver(load, to, placeOf(to, at));
+        return dragOver(*drag, to, placeOf(to, at));
+    }
+
+    /// Beside all lists.
+    void dragOverWindow() {
+        QDragEnterEvent enter({300, 20}, Qt::MoveAction, drag.get(), Qt::LeftButton,
+                              Qt::NoModifier);
+        QApplication::sendEvent(&bench.window(), &enter);
+        QDragMoveEvent move({300, 20}, Qt::MoveAction, drag.get(), Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&bench.window(), &move);
+        EXPECT_FALSE(move.isAccepted());
     }
 
     void leave(const std::string& list) {
@@ -61,15 +71,18 @@ protected:
         QApplication::sendEvent(view(list).viewport(), &event);
     }
 
-    DropHint* hint() {
+    DragPicture* picture() {
         for (QWidget* widget : bench.window().findChildren<QWidget*>())
-            if (auto* found = dynamic_cast<DropHint*>(widget)) return found;
+            if (auto* found = dynamic_cast<DragPicture*>(widget)) return found;
         return nullptr;
     }
 
-    std::string hinted() { return hint() ? toCp1252(hint()->caption()) : std::string(); }
+    std::string hinted() {
+        return picture() ? toCp1252(picture()->promised().join(u'|')) : std::string();
+    }
 
     WindowBench<AnalysisBench> bench;
+    std::unique_ptr<StatementDrag> drag;
 };
 
 class DragFeedbackOfRanking : public DragFeedback {
@@ -103,9 +116,27 @@ TEST_F(DragFeedback, LightsTheWholeOpportunityThatTakesAStatement) {
     EXPECT_NE(ground, QColor(Qt::white));
 }
 
-TEST_F(DragFeedback, NamesTheOpportunityThatTakesAStatement) {
+TEST_F(DragFeedback, NamesTheStatementAndTheOpportunityThatTakesIt) {
     dragRow("lvWeaknessOp", 1, "lvOpportunity", 3);
-    EXPECT_EQ(hinted(), "Ann O2");
+    EXPECT_EQ(hinted(), "map: Ann W1|onto: Ann O2");
+    EXPECT_EQ(picture()->carried(), "Ann W1");
+}
+
+TEST_F(DragFeedback, ShowsTheStatementOfThePickingListCrossedLast) {
+    bench.select("lvStrengthOp", 2);
+    dragRow("lvWeaknessOp", 1, "lvStrengthOp", 1);
+    leave("lvStrengthOp");
+    dragOver(*drag, "lvOpportunity", placeOf("lvOpportunity", 1));
+    EXPECT_EQ(hinted(), "map: Ann S2|onto: Ann O1");
+    EXPECT_EQ(picture()->carried(), "Ann S2");
+}
+
+TEST_F(DragFeedback, KeepsThePictureBesideTheLists) {
+    dragRow("lvWeaknessOp", 1, "lvOpportunity", 3);
+    leave("lvOpportunity");
+    dragOverWindow();
+    EXPECT_TRUE(picture()->isVisible());
+    EXPECT_EQ(hinted(), "");
 }
 
 TEST_F(DragFeedback, SaysNoOverAMappedRow) {
@@ -153,7 +184,8 @@ TEST_F(DragFeedback, EndsWhenTheDragLeavesTheList) {
     dragRow("lvWeaknessOp", 1, "lvOpportunity", 1);
     leave("lvOpportunity");
     EXPECT_EQ(view("lvOpportunity").litRow(), 0);
-    EXPECT_EQ(hint(), nullptr);
+    drag.reset();
+    EXPECT_EQ(picture(), nullptr);
 }
 
 TEST_F(DragFeedback, EndsWithTheDrop) {
@@ -165,7 +197,6 @@ TEST_F(DragFeedback, EndsWithTheDrop) {
                     Qt::NoModifier);
     QApplication::sendEvent(view("lvOpportunity").viewport(), &drop);
     EXPECT_EQ(view("lvOpportunity").litRow(), 0);
-    EXPECT_EQ(hint(), nullptr);
 }
 
 TEST_F(DragFeedbackOfRanking, LightsTheRowBeneathWhichARowWouldLand) {
@@ -189,15 +220,16 @@ TEST_F(DragFeedbackOfRanking, SaysNoBesideTheRows) {
 TEST_F(DragFeedbackOfRanking, KeepsItsWordsWithinTheWindow) {
     StatementList& list = bench.list("lvAOpportunity");
     list.setText(1, std::string(200, 'M'));
+    list.select(1);
     for (int i = 0; i < 20; ++i) list.add({.key = {}, .text = std::string(200, 'W'), .image = 3});
     QCoreApplication::processEvents();
     const QRect viewport = view("lvAOpportunity").viewport()->rect();
     const StatementDrag load(list);
     for (const QPoint& corner : {viewport.topLeft(), viewport.topRight(), viewport.bottomRight()}) {
         dragOver(load, "lvAOpportunity", corner);
-        ASSERT_TRUE(hint());
-        EXPECT_TRUE(bench.window().rect().contains(hint()->geometry()));
-        EXPECT_FALSE(hint()->geometry().contains(
+        ASSERT_TRUE(picture());
+        EXPECT_TRUE(bench.window().rect().contains(picture()->geometry()));
+        EXPECT_FALSE(picture()->geometry().contains(
             view("lvAOpportunity").viewport()->mapTo(&bench.window(), corner)));
     }
 }
@@ -225,6 +257,25 @@ TEST_F(DragFeedbackOfALongList, LightsTheRowThatScrollsUnderAPointerAtRest) {
     const int lit = view("lvOpportunity").litRow();
     EXPECT_TRUE(QTest::qWaitFor([&] { return view("lvOpportunity").litRow() > lit + 2; }));
     leave("lvOpportunity");
+}
+
+TEST_F(DragFeedbackOfALongList, ScrollsWithTheWheel) {
+    QScrollBar& bar = *view("lvOpportunity").verticalScrollBar();
+    dragRow("lvStrengthOp", 1, "lvOpportunity", 1);
+    view("lvOpportunity").scrollInDrag(-120);
+    EXPECT_GT(bar.value(), 0);
+    EXPECT_GT(view("lvOpportunity").litRow(), 2) << "what is under the pointer now";
+    view("lvOpportunity").scrollInDrag(120);
+    EXPECT_EQ(bar.value(), 0);
+}
+
+TEST(ScrollingAtTheEdge, IsFasterNearerToTheEdgeAndWithTime) {
+    EXPECT_GT(rowsASecondAtEdge(1, 0), rowsASecondAtEdge(0.1, 0));
+    EXPECT_GT(rowsASecondAtEdge(0.1, 1), rowsASecondAtEdge(0.1, 0));
+    double rows = 0;
+    for (int hundredth = 0; hundredth < 500; ++hundredth)
+        rows += rowsASecondAtEdge(0.5, hundredth / 100.0) / 100;
+    EXPECT_GT(rows, 300) << "in five seconds";
 }
 
 }  // namespace orvanta::test

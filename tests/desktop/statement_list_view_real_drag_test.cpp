@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <QDrag>
 #include <QGuiApplication>
-#include <QTimer>
-#include <QWindow>
+#include <QProcess>
 #include <QtTest>
 
 #include "desktop/statement_list_view.h"
@@ -15,60 +13,149 @@ namespace {
 
 using namespace orvanta::desktop;
 
-/// Moves the real pointer of the window from one place to another and lets go there. Each step
-/// is started by a timer of its own, since a drag runs an event loop in the middle of one.
-class Hand : public QObject {
+/// Moves the pointer of the screen, as a hand does: press, so many motions, release, in one breath.
+class Hand {
 public:
-    Hand(QWindow& window, QPoint from, QPoint to) : m_window(window), m_from(from), m_to(to) {}
+    void press(const QPoint& place) {
+        *this << "mousemove" << place << "mousedown"
+              << "1";
+    }
+    void move(const QPoint& from, const QPoint& to, int motions) {
+        for (int i = 1; i <= motions; ++i) *this << "mousemove" << from + (to - from) * i / motions;
+    }
+    void rest(const char* seconds) { *this << "sleep" << seconds; }
+    void release() {
+        *this << "mouseup"
+              << "1";
+    }
+    void turnWheel(int notches) {
+        for (int i = 0; i < notches; ++i)
+            *this << "click"
+                  << "5";
+    }
+    void pressEscape() {
+        *this << "key"
+              << "Escape";
+    }
 
-    void drag() {
-        QTimer::singleShot(10'000, this, [] { QDrag::cancel(); });  // nothing hangs
-        QTest::mousePress(&m_window, Qt::LeftButton, {}, m_from);
-        step(1);
-        while (!m_done) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    /// Does it all while the window runs.
+    void act() {
+        QProcess process;
+        process.start(QStringLiteral("xdotool"), m_acts);
+        ASSERT_TRUE(
+            QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 20'000));
+        ASSERT_EQ(process.exitCode(), 0);
+        QTest::qWait(50);
     }
 
 private:
-    static constexpr int steps = 10, milliseconds = 20;
-
-    void step(int number) {
-        QTimer::singleShot(milliseconds, this, [this, number] {
-            if (number > steps + 1) {
-                m_done = true;
-                QTest::mouseRelease(&m_window, Qt::LeftButton, {}, m_to);
-                return;
-            }
-            step(number + 1);
-            const QPoint point = m_from + (m_to - m_from) * std::min(number, steps) / steps;
-            QTest::mouseMove(&m_window, point);
-        });
+    Hand& operator<<(const char* word) {
+        m_acts << QString::fromLatin1(word);
+        return *this;
+    }
+    Hand& operator<<(const QPoint& place) {
+        m_acts << QString::number(place.x()) << QString::number(place.y());
+        return *this;
     }
 
-    QWindow& m_window;
-    QPoint m_from, m_to;
-    bool m_done = false;
+    QStringList m_acts;
 };
+
+/// Drags in the window on a real screen.
+class RealDrag : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_EQ(QGuiApplication::platformName(), "xcb") << "only an X server drags";
+        bench.goTo(mappingSides()[0]);
+        bench.window().show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&bench.window()));
+    }
+
+    /// Of the screen.
+    QRect rowOf(const std::string& list, int row) {
+        auto& view = bench.widget<StatementListView>(list);
+        const QRect rect = view.visualRect(view.indexAtPosition(row));
+        return {view.viewport()->mapToGlobal(rect.topLeft()), rect.size()};
+    }
+
+    void drag(const QPoint& from, const QPoint& to, int motions) {
+        Hand hand;
+        hand.press(from);
+        hand.move(from, to, motions);
+        hand.release();
+        hand.act();
+    }
+
+    WindowBench<AnalysisBench> bench{SystemEvents::LetIn};
+};
+
+/// A drag in so many motions.
+class QuickDrag : public RealDrag, public testing::WithParamInterface<int> {};
+INSTANTIATE_TEST_SUITE_P(Of, QuickDrag, testing::Values(1, 2, 3, 5, 12),
+                         [](const auto& motions) { return std::to_string(motions.param); });
 
 }  // namespace
 
-TEST(RealDrag, MapsAStrengthOntoTheOpportunityItIsDroppedOn) {
-    ASSERT_EQ(QGuiApplication::platformName(), "xcb") << "only an X server drags";
-    WindowBench<AnalysisBench> bench(SystemEvents::LetIn);
-    bench.goTo(mappingSides()[0]);
-    bench.window().show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&bench.window()));
-    const auto placeOf = [&](const std::string& list, int row) {
-        auto& view = bench.widget<StatementListView>(list);
-        return view.viewport()->mapTo(&bench.window(),
-                                      view.visualRect(view.indexAtPosition(row)).center());
-    };
-    Hand hand(*bench.window().windowHandle(), placeOf("lvStrengthOp", 2),
-              placeOf("lvOpportunity", 1));
-    hand.drag();
-    QCoreApplication::processEvents();
+TEST_F(RealDrag, MapsAStrengthOntoTheOpportunityItIsDroppedOn) {
+    drag(rowOf("lvStrengthOp", 2).center(), rowOf("lvOpportunity", 1).center(), 12);
     EXPECT_EQ(bench.keys("lvOpportunity")[1], "O1-S2");
     EXPECT_EQ(bench.list("lvOpportunity").selected(), 2);
     EXPECT_EQ(bench.list("lvStrengthOp").selected(), 2);
+}
+
+TEST_P(QuickDrag, MapsTheStatementThatItTookFromAnyPlaceOfItsRow) {
+    const QRect row = rowOf("lvStrengthOp", 2);
+    for (const QPoint& from :
+         {row.center(), row.topLeft() + QPoint(2, 1), row.bottomRight() - QPoint(2, 1)}) {
+        drag(from, rowOf("lvOpportunity", 1).center(), GetParam());
+        ASSERT_EQ(bench.keys("lvOpportunity")[1], "O1-S2");
+        bench.list("lvOpportunity").remove(2);
+    }
+}
+
+TEST_P(QuickDrag, MapsWhatItTookEvenBehindADragThatCameToNothing) {
+    const QRect weakness = rowOf("lvWeaknessOp", 1);
+    drag(weakness.center(), QPoint(5, 5), GetParam());
+    drag(rowOf("lvStrengthOp", 2).center(), rowOf("lvOpportunity", 1).center(), GetParam());
+    EXPECT_EQ(bench.keys("lvOpportunity")[1], "O1-S2");
+}
+
+TEST_P(QuickDrag, TakesAMappedRowBack) {
+    drag(rowOf("lvStrengthOp", 2).center(), rowOf("lvOpportunity", 1).center(), GetParam());
+    const int mapped = bench.list("lvOpportunity").count();
+    drag(rowOf("lvOpportunity", 2).center(), rowOf("lvStrengthOp", 1).center(), GetParam());
+    EXPECT_EQ(bench.list("lvOpportunity").count(), mapped - 1);
+}
+
+TEST_F(RealDrag, IsCalledOffWithEscape) {
+    Hand hand;
+    const QPoint from = rowOf("lvStrengthOp", 2).center(), to = rowOf("lvOpportunity", 1).center();
+    const int rows = bench.list("lvOpportunity").count();
+    hand.press(from);
+    hand.move(from, to, 5);
+    hand.rest("0.1");
+    hand.pressEscape();
+    hand.rest("0.1");
+    hand.release();
+    hand.act();
+    EXPECT_EQ(bench.list("lvOpportunity").count(), rows);
+}
+
+TEST_F(RealDrag, LandsOnTheRowThatTheWheelBroughtUnderThePointer) {
+    for (int i = 0; i < 100; ++i)
+        bench.list("lvOpportunity")
+            .add({.key = "O" + std::to_string(100 + i), .text = "Row", .image = 3});
+    QCoreApplication::processEvents();
+    Hand hand;
+    const QPoint from = rowOf("lvStrengthOp", 2).center(), to = rowOf("lvOpportunity", 2).center();
+    hand.press(from);
+    hand.move(from, to, 5);
+    hand.rest("0.1");
+    hand.turnWheel(2);
+    hand.rest("0.1");
+    hand.release();
+    hand.act();
+    EXPECT_GT(bench.list("lvOpportunity").selected(), 4);
 }
 
 }  // namespace orvanta::test

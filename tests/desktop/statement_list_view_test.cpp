@@ -124,4 +124,47 @@ TEST_F(StatementListViewTest, BringsAnAddedRowIntoView) {
         view().visualRect(view().indexAtPosition(105)).center()));
 }
 
+TEST_F(StatementListViewTest, ShowsTheChosenStatementWholeWhereRowsCutOne) {
+    auto& whole = *view().findChild<QLabel*>({}, Qt::FindDirectChildrenOnly);
+    EXPECT_TRUE(whole.isHidden());
+    std::string words;
+    for (int i = 0; i < 60; ++i) words += "word ";
+    bench.enter("txtStrength", {words});
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(whole.isVisible());
+    view().setFocus();
+    list().select(list().count());
+    EXPECT_EQ(toCp1252(whole.text()), list().selectedRow()->text);
+    EXPECT_LE(whole.heightForWidth(whole.width()), whole.height());
+    EXPECT_TRUE(view().viewport()->geometry().intersected(whole.geometry()).isEmpty());
+    list().remove(list().count());
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(whole.isHidden()) << "once no row is cut any longer";
+}
+
+TEST_F(StatementListViewTest, ChoosesItsFirstRowWithTheFirstKey) {
+    list().select(0);
+    view().setFocus();
+    QTest::keyClick(&view(), Qt::Key_Down);
+    EXPECT_EQ(list().selected(), 1);
+    QTest::keyClick(&view(), Qt::Key_Down);
+    EXPECT_EQ(list().selected(), 2);
+}
+
+TEST(MappingScreenLists, OpenAtTheirFirstRowWhateverCameBefore) {
+    WindowBench<AnalysisBench> bench;
+    bench.window().show();
+    bench.next(5);
+    for (int i = 0; i < 100; ++i)
+        bench.list("lvStrengthOp").add({.key = {}, .text = "Row", .image = 1});
+    QCoreApplication::processEvents();
+    QScrollBar& bar = *bench.widget<StatementListView>("lvStrengthOp").verticalScrollBar();
+    bar.setValue(500);
+    bench.click("ABack");
+    QCoreApplication::processEvents();
+    bench.click("ANext");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bar.value(), 0);
+}
+
 }  // namespace orvanta::test
