@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -8,20 +9,15 @@
 
 namespace orvanta {
 
-/// A command in the menu of a list.
+/// A command in the menu of a list, as it is at the moment.
 struct ListCommand {
-    enum class Needs { Nothing, ChosenRow, RemovableRow };
-
-    std::string_view caption;
-    Needs needs = Needs::Nothing;
-    bool onDeleteKey = false;              // too, while the list has the keyboard
-    std::function<void(Program&)> choose;  // an event of the main window
+    std::string caption;     // Windows-1252
+    std::string_view key{};  // that gives it while the list has the keyboard, as "Ctrl+M"
+    bool isOffered = true;   // a person can choose it
+    std::function<void(Program&)> choose;  // events of the main window
 };
 
 /// The commands of the menu of a list, in their order; empty for a list that has none.
 std::vector<ListCommand> listCommandsOf(const FrmMain& form, const Control& list);
-
-/// True if a person can choose the command now.
-bool isOffered(const FrmMain& form, const Control& list, const ListCommand& command);
 
 }  // namespace orvanta

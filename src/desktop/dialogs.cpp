@@ -137,13 +137,15 @@ ReportDialog::ReportDialog(Program& program, FrmReportType& form, QWidget* owner
     LabelView* file = putLabel(form.Label2, *m_area, QPalette::HighlightedText);
     putLabel(form.lblGenerating, *m_area, QPalette::HighlightedText);
     format->setBuddy(makeComboBox(form.cboFormat, *m_area));
-    TextBoxView* box = makeTextBox(form.txtEdit, *m_area, [](char) { return true; });
+    const auto accept = [this] { handle(m_program, [&] { acceptReport(m_program, m_form); }); };
+    TextBoxView* box = makeTextBox(form.txtEdit, *m_area, [accept](char character) {
+        if (character == enterKey) accept();
+        return true;
+    });
     file->setBuddy(box);
     makePushButton(form.cmdBrowse, *m_area,
                    [this] { handle(m_program, [&] { browseForAnalyzeFile(m_program, m_form); }); });
-    makePushButton(form.OKButton, *m_area, [this] {
-        handle(m_program, [&] { acceptReport(m_program, m_form); });
-    })->setDefault(true);
+    makePushButton(form.OKButton, *m_area, accept)->setDefault(true);
     makePushButton(form.CancelButton, *m_area, [this] { m_form.close(); });
     const auto showEnabled = [this] { m_area->setEnabled(m_form.enabled); };  // the close box stays
     form.enabledChanged.subscribe(showEnabled);

@@ -1,14 +1,16 @@
 #include "desktop/list_commands.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QMenu>
-#include <algorithm>
 #include <cassert>
 #include <vector>
 
 #include "app/list_commands.h"
 #include "desktop/conversions.h"
+#include "desktop/statement_row_painter.h"
 
 namespace orvanta::desktop {
 
@@ -18,15 +20,14 @@ namespace {
 class ListMenu : public QObject {
 public:
     ListMenu(Program& program, const Control& list, QAbstractItemView& view)
-        : QObject(&view),
-          m_program(program),
-          m_list(list),
-          m_view(view),
-          m_commands(listCommandsOf(program.frmMain, list)) {
+        : QObject(&view), m_program(program), m_list(list), m_view(view) {
         view.setContextMenuPolicy(Qt::CustomContextMenu);
         connect(&view, &QWidget::customContextMenuRequested, this,
                 [this](const QPoint& place) { show(m_view.viewport()->mapToGlobal(place)); });
         view.installEventFilter(this);
+        // Whoever double-clicks wants to reword the row.
+        connect(&view, &QAbstractItemView::doubleClicked, this,
+                [this] { chooseByKey(QKeySequence(Qt::Key_F2)); });
     }
 
 protected:
@@ -43,39 +44,53 @@ private:
             show(m_view.viewport()->mapToGlobal(row));
             return true;
         }
-        if (pressed.key() != Qt::Key_Delete || pressed.modifiers() & ~Qt::KeypadModifier)
-            return false;
-        const auto command = std::ranges::find(m_commands, true, &ListCommand::onDeleteKey);
-        if (command == m_commands.end()) return false;
-        choose(*command);
-        return true;
+        const QKeyCombination keys(pressed.modifiers() & ~Qt::KeypadModifier,
+                                   static_cast<Qt::Key>(pressed.key()));
+        return chooseByKey(QKeySequence(keys));
     }
 
-    void choose(const ListCommand& command) {
-        if (isOffered(m_program.frmMain, m_list, command)) command.choose(m_program);
+    /// True if one of the commands has this key, offered or not.
+    bool chooseByKey(const QKeySequence& key) {
+        for (const ListCommand& command : commands()) {
+            if (command.key.empty() || keyOf(command) != key) continue;
+            if (command.isOffered) command.choose(m_program);
+            return true;
+        }
+        return false;
+    }
+
+    std::vector<ListCommand> commands() const { return listCommandsOf(m_program.frmMain, m_list); }
+
+    static QKeySequence keyOf(const ListCommand& command) {
+        return QKeySequence::fromString(fromCp1252(command.key), QKeySequence::PortableText);
     }
 
     void show(const QPoint& globalPlace) {
         auto* menu = new QMenu(&m_view);
         menu->setAttribute(Qt::WA_DeleteOnClose);
-        for (const ListCommand& command : m_commands) {
-            QString line = fromCp1252(command.caption);
-            if (command.onDeleteKey)
-                line += u'\t' + QKeySequence(Qt::Key_Delete).toString(QKeySequence::NativeText);
-            QAction* action = menu->addAction(line);
+        for (const ListCommand& command : commands()) {
+            QAction* action = menu->addAction(lineOfMenu(command));
             // Queued: what a command brings up finds the menu gone.
             connect(
-                action, &QAction::triggered, this, [this, &command] { choose(command); },
+                action, &QAction::triggered, this, [this, command] { command.choose(m_program); },
                 Qt::QueuedConnection);
-            action->setEnabled(isOffered(m_program.frmMain, m_list, command));
+            action->setEnabled(command.isOffered);
         }
         menu->popup(globalPlace);
+    }
+
+    static QString lineOfMenu(const ListCommand& command) {
+        constexpr int widest = 300;
+        const QString caption = QFontMetrics(QApplication::font())
+                                    .elidedText(lineOf(command.caption), Qt::ElideRight, widest)
+                                    .replace(u'&', QLatin1String("&&"));
+        if (command.key.empty()) return caption;
+        return caption + u'\t' + keyOf(command).toString(QKeySequence::NativeText);
     }
 
     Program& m_program;
     const Control& m_list;
     QAbstractItemView& m_view;
-    const std::vector<ListCommand> m_commands;
 };
 
 }  // namespace

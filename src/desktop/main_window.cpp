@@ -1,10 +1,12 @@
 #include "desktop/main_window.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QPainter>
 #include <QPushButton>
 #include <QTimer>
@@ -14,6 +16,7 @@
 #include <utility>
 #include <variant>
 
+#include "app/shortcuts.h"
 #include "core/design_grid.h"
 #include "desktop/art.h"
 #include "desktop/clicks.h"
@@ -88,6 +91,10 @@ bool isPress(const QEvent& event) {
     return std::ranges::find(companions, key) == companions.end();
 }
 
+QKeySequence keysOf(const Shortcut& shortcut) {
+    return QKeySequence::fromString(fromCp1252(shortcut.keys), QKeySequence::PortableText);
+}
+
 bool isFocusable(const QWidget* widget) { return widget->focusPolicy() & Qt::TabFocus; }
 
 }  // namespace
@@ -101,6 +108,7 @@ MainWindow::MainWindow(Program& program)
     makeButtons();
     makeOthers();
     makeWhereabouts();
+    tellShortcuts();
     offerListCommands(program, *this);
     raiseUncovered();
     orderTabs();
@@ -142,6 +150,20 @@ void MainWindow::makeButtons() {
                                buttonReleased(m_program, button);
                                m_whereaboutsView->mayDiffer();
                            }});
+    }
+}
+
+/// Tells assistive programs the keys of each button, and goes on to the answer box when Next or
+/// Back is pressed from the keyboard.
+void MainWindow::tellShortcuts() {
+    for (const Shortcut& shortcut : shortcutsOf(m_program.frmMain)) {
+        auto* button = findChild<QAbstractButton*>(fromCp1252(shortcut.control->name()));
+        assert(button);
+        const QString keys = keysOf(shortcut).toString(QKeySequence::NativeText);
+        const QString told = button->property("keys").toString();
+        button->setProperty("keys", told.isEmpty() ? keys : told + QLatin1String(", ") + keys);
+        describe(*shortcut.control, *button);
+        if (shortcut.goesOn && told.isEmpty()) whenClicked(*button, [this] { goOnByKey(); });
     }
 }
 
@@ -286,14 +308,39 @@ const Control* MainWindow::firstStop(const Panel& screen) const {
 void MainWindow::focusScreen() {
     m_focusPending = false;
     const Panel* shown = screen();
-    if (std::exchange(m_focusedScreen, shown) == shown || !shown) return;
-    for (QWidget* widget : m_panels.at(shown)->findChildren<QWidget*>())
-        if (auto* list = dynamic_cast<StatementListView*>(widget)) list->openAtFirstRow();
+    const bool isNew = std::exchange(m_focusedScreen, shown) != shown;
+    if (!shown || !(std::exchange(m_wentOnByKey, false) || isNew)) return;
+    if (isNew)
+        for (QWidget* widget : m_panels.at(shown)->findChildren<QWidget*>())
+            if (auto* list = dynamic_cast<StatementListView*>(widget)) list->openAtFirstRow();
     const Control* first = firstStop(*shown);
     if (!first) return;
     auto* widget = findChild<QWidget*>(fromCp1252(first->name()));
     assert(widget);
     widget->setFocus();
+}
+
+void MainWindow::goOnByKey() {
+    m_wentOnByKey = true;
+    screenMayDiffer();
+}
+
+/// Keys that what has the keyboard has no use for. A list keeps the keys that turn its pages, also
+/// at its ends.
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    const QKeyCombination pressed(
+        event->modifiers() & ~Qt::KeypadModifier,
+        event->key() == Qt::Key_Enter ? Qt::Key_Return : static_cast<Qt::Key>(event->key()));
+    const bool turnsPages = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
+    if (turnsPages && qobject_cast<QAbstractItemView*>(focusWidget())) return;
+    for (const Shortcut& shortcut : shortcutsOf(m_program.frmMain)) {
+        if (!shortcut.control->isReachable() || keysOf(shortcut) != pressed) continue;
+        shortcut.choose(m_program);
+        m_whereaboutsView->mayDiffer();
+        if (shortcut.goesOn) goOnByKey();
+        return;
+    }
+    ControlArea::keyPressEvent(event);
 }
 
 bool MainWindow::event(QEvent* event) {

@@ -25,6 +25,7 @@ protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
@@ -34,6 +35,7 @@ private:
     void makePanel(Panel& panel);
     void makeButtons();
     void makeOthers();
+    void tellShortcuts();
     void makeLink(Label& label, LinkView::Ground ground, void (*clicked)(Program&));
     void makeMergeLink();
     void makeWhereabouts();
@@ -45,6 +47,7 @@ private:
     void showShown();
     void screenMayDiffer();
     void focusScreen();
+    void goOnByKey();
     const Panel* screen() const;
     const Control* firstStop(const Panel& screen) const;
 
@@ -57,6 +60,7 @@ private:
     std::unordered_map<const Panel*, ControlArea*> m_panels;
     const Panel* m_focusedScreen = nullptr;
     bool m_focusPending = false;
+    bool m_wentOnByKey = false;  // the next text is typed without a look at the mouse
 };
 
 }  // namespace orvanta::desktop

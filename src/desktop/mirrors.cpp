@@ -63,6 +63,12 @@ void showFiles(const ListBox& model, QListWidget& widget) {
 
 }  // namespace
 
+void describe(const Control& model, QWidget& widget) {
+    const QString toolTip = fromCp1252(model.toolTip()), keys = widget.property("keys").toString();
+    const QString gap = toolTip.isEmpty() || keys.isEmpty() ? QString() : QStringLiteral(" ");
+    widget.setAccessibleDescription(toolTip + gap + keys);
+}
+
 void mirrorControl(Control& model, QWidget& widget, ControlArea& area) {
     widget.setObjectName(fromCp1252(model.name()));
     area.hold(model, widget);
@@ -70,7 +76,7 @@ void mirrorControl(Control& model, QWidget& widget, ControlArea& area) {
         widget.setVisible(model.isUncovered());
         widget.setEnabled(model.isEnabled());
         widget.setToolTip(shownToolTip(model.toolTip()));
-        widget.setAccessibleDescription(fromCp1252(model.toolTip()));
+        describe(model, widget);
         if (!model.accessibleName().empty())
             widget.setAccessibleName(fromCp1252(model.accessibleName()));
     });

@@ -20,6 +20,10 @@ namespace orvanta::desktop {
 /// the widget.
 void mirrorControl(Control& model, QWidget& widget, ControlArea& area);
 
+/// Tells assistive programs the control's tool tip and, from the widget's property "keys", its
+/// keys.
+void describe(const Control& model, QWidget& widget);
+
 TextBoxView* makeTextBox(TextBox& model, ControlArea& area, TextBoxView::Typed typed);
 QRadioButton* makeOption(Option& model, ControlArea& area);
 /// A click hands the wanted state to `clicked`.

@@ -51,7 +51,8 @@ void ButtonPictureView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ButtonPictureView::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isEnter || event->modifiers() & Qt::ControlModifier)
         return QPushButton::keyPressEvent(event);
     click();
 }

@@ -12,6 +12,10 @@
 
 namespace orvanta::desktop {
 
+void Drop::finish(Program& program) const {
+    if (list) droppedOn(program, *list, position);
+}
+
 StatementDrag::~StatementDrag() { delete m_picture; }
 
 void StatementDrag::show(QWidget& window, const QPoint& point, const DropPreview& preview) const {

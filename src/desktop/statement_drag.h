@@ -15,6 +15,10 @@ namespace orvanta::desktop {
 struct Drop {
     StatementList* list = nullptr;  // null as long as it is not dropped
     int position = 0;
+
+    /// Tells the program of the drop, if there was one. Called when the drag is over, since what
+    /// follows may open a box.
+    void finish(Program& program) const;
 };
 
 /// What a dragged row carries: the list that it comes from, the picture at the pointer and, once
@@ -32,7 +36,7 @@ public:
 
     void dropOn(StatementList& list, int position) const;
     /// Outlives the drag, which the toolkit may delete while it still runs.
-    std::shared_ptr<Drop> drop() const { return m_drop; }
+    std::shared_ptr<const Drop> drop() const { return m_drop; }
 
 private:
     StatementList& m_from;

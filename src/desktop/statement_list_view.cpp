@@ -167,7 +167,7 @@ void StatementListView::startDrag(Qt::DropActions) {
     // Ahead of all else: the pointer may be gone from the list before the drag's first motion.
     draggedOver(m_program, m_list);
     auto* load = new StatementDrag(m_list);
-    const std::shared_ptr<Drop> drop = load->drop();
+    const std::shared_ptr<const Drop> drop = load->drop();
     auto* drag = new QDrag(this);
     drag->setMimeData(load);
     QPixmap nothing(1, 1);  // the load has a picture of its own
@@ -177,14 +177,11 @@ void StatementListView::startDrag(Qt::DropActions) {
     DragWatch watch;
     drag->exec(Qt::MoveAction);
     if (carried) carried->hide();
-    if (!drop->list) {
-        // Let go before Qt saw where, or after the wheel had moved the rows under the pointer.
-        const auto place = watch.letGoAt();
-        if (StatementListView* list = place ? statementListAt(*place) : nullptr)
-            *drop = list->dropAt(m_list, list->viewport()->mapFromGlobal(*place));
-    }
-    // Only now, since what follows may open a box.
-    if (drop->list) droppedOn(m_program, *drop->list, drop->position);
+    if (drop->list) return drop->finish(m_program);
+    // Let go before Qt saw where, or after the wheel had moved the rows under the pointer.
+    const auto place = watch.letGoAt();
+    if (StatementListView* list = place ? statementListAt(*place) : nullptr)
+        list->dropAt(m_list, list->viewport()->mapFromGlobal(*place)).finish(m_program);
 }
 
 void StatementListView::dragEnterEvent(QDragEnterEvent* event) { passOver(*event); }

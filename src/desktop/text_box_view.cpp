@@ -66,7 +66,24 @@ QString TextBoxView::accepted(const std::string& typed) {
     return fromCp1252(left);
 }
 
+/// True for keys that the box has no use for and the window has.
+bool TextBoxView::isTheWindows(const QKeyEvent& event) const {
+    if (event.modifiers() != Qt::ControlModifier) return false;
+    switch (event.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return true;
+        case Qt::Key_Z:
+            return !isUndoAvailable();
+        case Qt::Key_Y:
+            return !isRedoAvailable();
+        default:
+            return false;
+    }
+}
+
 void TextBoxView::keyPressEvent(QKeyEvent* event) {
+    if (isTheWindows(*event)) return event->ignore();
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         m_typed(enterKey);
         event->accept();

@@ -22,6 +22,7 @@ protected:
     void inputMethodEvent(QInputMethodEvent* event) override;
 
 private:
+    bool isTheWindows(const QKeyEvent& event) const;
     class Entry;
 
     QString accepted(const std::string& typed);

@@ -169,7 +169,9 @@ TEST_P(MenusOfStatementLists, OfferEditAndRemoveInTheAnalyzeModule) {
     bench.goTo(kind);
     QMenu* menu = rightClick(kind.list, 2);
     ASSERT_TRUE(menu);
-    EXPECT_EQ(linesOf(menu), (Texts{"Edit", "Remove"}));
+    const bool isRanked = kind.image > 2;
+    EXPECT_EQ(linesOf(menu), isRanked ? (Texts{"Edit", "Remove", "Move Up", "Move Down"})
+                                      : (Texts{"Edit", "Remove"}));
     bench.answerEdit("Reworded");
     choose(menu, "Edit");
     EXPECT_EQ(bench.texts(kind.list)[1], "Reworded");
@@ -225,6 +227,46 @@ TEST_F(ContextMenus, TheLinkBesideTheSourceFilesMergesThem) {
     EXPECT_EQ(bench.messages(), Texts{"Brainstorm files merged."});
     bench.click("ANext");
     EXPECT_FALSE(bench.widget("lblMerge").isVisible());
+}
+
+TEST_P(MenusOfMappingScreens, AKeyMapsOntoTheChosenParent) {
+    const MappingSide& side = GetParam();
+    bench.select(side.list, 3);
+    bench.select(side.weaknesses, 1);
+    view(side.weaknesses).setFocus();
+    QTest::keyClick(&view(side.weaknesses), Qt::Key_M, Qt::ControlModifier);
+    EXPECT_EQ(bench.keys(side.list)[3], side.parent(2) + "-W1");
+    QMenu* menu = rightClick(side.strengths, 2);
+    ASSERT_TRUE(menu);
+    EXPECT_EQ(linesOf(menu), Texts{"Map onto " + bench.row(side.list, 3).text});
+    menu->close();
+}
+
+TEST_P(MenusOfStatementLists, AKeyRewordsRemovesAndRanksTheChosenRow) {
+    const ReviewedKind& kind = GetParam();
+    bench.goTo(kind);
+    bench.select(kind.list, 2);
+    view(kind.list).setFocus();
+    bench.answerEdit("Reworded");
+    QTest::keyClick(&view(kind.list), Qt::Key_F2);
+    EXPECT_EQ(bench.texts(kind.list)[1], "Reworded");
+    QTest::keyClick(&view(kind.list), Qt::Key_Up, Qt::AltModifier);
+    const bool isRanked = kind.image > 2;
+    EXPECT_EQ(bench.texts(kind.list)[isRanked ? 0 : 1], "Reworded");
+    const int count = bench.list(kind.list).count();
+    QTest::keyClick(&view(kind.list), Qt::Key_Delete);
+    EXPECT_EQ(bench.list(kind.list).count(), count - 1);
+}
+
+TEST_P(MenusOfStatementLists, ADoubleClickRewordsTheRow) {
+    const ReviewedKind& kind = GetParam();
+    bench.goTo(kind);
+    bench.answerEdit("Reworded");
+    const QPoint row = view(kind.list).visualRect(view(kind.list).model()->index(0, 0)).center();
+    QTest::mouseClick(view(kind.list).viewport(), Qt::LeftButton, {}, row);
+    QTest::mouseDClick(view(kind.list).viewport(), Qt::LeftButton, {}, row);
+    QTest::mouseRelease(view(kind.list).viewport(), Qt::LeftButton, {}, row);
+    EXPECT_EQ(bench.texts(kind.list)[0], "Reworded");
 }
 
 }  // namespace orvanta::test

@@ -121,4 +121,78 @@ TEST_F(Keyboard, StandsOutOfTheBlueGroundOfDialogs) {
     EXPECT_GE(rimContrast(reportDialog, "cboFormat"), 3);
 }
 
+TEST_F(Keyboard, GoesOnAndTypesTheNextAnswerWithoutTheMouse) {
+    WindowBench bench;
+    bench.start();
+    bench.openBrainstorm();
+    bench.window().show();
+    QApplication::setActiveWindow(&bench.window());
+    QCoreApplication::processEvents();
+    const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(bench.window().focusWidget(), key, modifiers);
+        QCoreApplication::processEvents();
+    };
+    const auto type = [&](const char* text) {
+        QTest::keyClicks(bench.window().focusWidget(), QLatin1String(text));
+    };
+    type("fleet");
+    press(Qt::Key_Return);
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(bench.form().questionStep, 2);
+    type("shop");
+    press(Qt::Key_Return);
+    press(Qt::Key_PageDown);
+    type("name");
+    press(Qt::Key_Return);
+    EXPECT_EQ(bench.texts("lvBStrength"), (Texts{"fleet", "shop", "name"}));
+    press(Qt::Key_PageUp);
+    EXPECT_EQ(bench.form().questionStep, 2);
+    bench.widget("imgBtnBNext").setFocus();
+    press(Qt::Key_Space);
+    EXPECT_EQ(bench.window().focusWidget(), &bench.widget("txtStrength"));
+}
+
+TEST_F(Keyboard, LeavesTheFocusAloneWhereTheMouseGoesOn) {
+    analysis.next(1);
+    QCoreApplication::processEvents();
+    analysis.widget("lvAStrength").setFocus();
+    analysis.click("ABack");
+    analysis.click("ANext");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(analysis.events("focus"), Json::array());
+}
+
+TEST_F(Keyboard, KeepsThePageKeysInAListThatHasIt) {
+    analysis.next(1);
+    QCoreApplication::processEvents();
+    QWidget& list = analysis.widget("lvAStrength");
+    list.setFocus();
+    for (const Qt::Key key : {Qt::Key_PageDown, Qt::Key_PageDown, Qt::Key_PageUp})
+        QTest::keyClick(&list, key);
+    EXPECT_EQ(analysis.stepsShown(), Texts{"fraASSummary"});
+}
+
+TEST_F(Keyboard, UndoesTypingBeforeItUndoesAStatement) {
+    analysis.next(1);
+    analysis.enter("txtAStrength", {"New"});
+    const int count = analysis.list("lvAStrength").count();
+    QWidget& box = analysis.widget("txtAStrength");
+    box.setFocus();
+    QTest::keyClicks(&box, QStringLiteral("abc"));
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(analysis.form().txtAStrength.text(), "");
+    EXPECT_EQ(analysis.list("lvAStrength").count(), count);
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(analysis.list("lvAStrength").count(), count - 1);
+}
+
+TEST_F(Keyboard, TellsItsKeysToAssistivePrograms) {
+    EXPECT_TRUE(analysis.widget("imgBtnANext")
+                    .accessibleDescription()
+                    .contains(QStringLiteral("Ctrl+Return")));
+    EXPECT_TRUE(
+        analysis.widget("cmdUndo").accessibleDescription().contains(QStringLiteral("Ctrl+Z")));
+    EXPECT_EQ(analysis.widget("imgBtnANext").toolTip(), QString());
+}
+
 }  // namespace orvanta::test

@@ -71,6 +71,13 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&bench.window()));
     }
 
+    /// Takes the pointer away: it would be over the windows of the tests to come.
+    void TearDown() override {
+        Hand hand;
+        hand.move({}, {1270, 1020}, 1);
+        hand.act();
+    }
+
     /// Of the screen.
     QRect rowOf(const std::string& list, int row) {
         auto& view = bench.widget<StatementListView>(list);

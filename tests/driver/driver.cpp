@@ -331,7 +331,7 @@ void Driver::menu(const Json& line) {
     const std::string caption = stringIn(line, "command");
     const std::vector<ListCommand> commands = listCommandsOf(m_program.frmMain, list);
     const auto command = std::ranges::find(commands, caption, &ListCommand::caption);
-    if (command == commands.end() || !isOffered(m_program.frmMain, list, *command))
+    if (command == commands.end() || !command->isOffered)
         throw Refused("the menu of " + list.name() + " does not offer " + caption);
     m_stage.chooseFromMenu(list, *command);
 }

@@ -112,7 +112,7 @@ public:
         QApplication::sendEvent(view.viewport(), &drop);
     }
 
-    void finish(Program& program) { m_load.finish(program); }
+    void finish(Program& program) { m_load.drop()->finish(program); }
 
 private:
     StatementDrag m_load;
@@ -229,9 +229,10 @@ public:
         QApplication::sendEvent(view.viewport(), &asks);
         auto* menu = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
         if (!menu) return;
-        for (QAction* action : menu->actions())
-            if (action->text().section('\t', 0, 0) == fromCp1252(command.caption))
-                return mouseClick(*menu, menu->actionGeometry(action).center());
+        const auto commands = listCommandsOf(m_program->frmMain, list);
+        const auto chosen = std::ranges::find(commands, command.caption, &ListCommand::caption);
+        QAction* action = menu->actions().at(chosen - commands.begin());
+        mouseClick(*menu, menu->actionGeometry(action).center());
     }
 
     void activate() override {
