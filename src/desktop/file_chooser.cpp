@@ -1,12 +1,15 @@
 #include "desktop/file_chooser.h"
 
+#include <QFileSystemModel>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QStandardPaths>
 #include <QTreeView>
 #include <cassert>
 
+#include "core/messages.h"
 #include "desktop/conversions.h"
+#include "desktop/message_box.h"
 
 namespace orvanta::desktop {
 
@@ -32,8 +35,13 @@ QString startFolder(const std::string& initialPath) {
 
 }  // namespace
 
-FileChooser::FileChooser(const FileDialogRequest& request, QWidget* owner)
-    : QFileDialog(owner, {}, startFolder(request.initialPath), filterFrom(request.filter)) {
+FileChooser::FileChooser(const FileDialogRequest& request, FileRules rules, QWidget* owner)
+    : QFileDialog(owner, {}, startFolder(request.initialPath), filterFrom(request.filter)),
+      m_place{.mode = request.mode,
+              .filter = request.filter,
+              .folder = {},
+              .home = QDir::homePath().toStdString()},
+      m_rules(rules) {
     setOption(DontUseNativeDialog);
     setOption(DontConfirmOverwrite);
     setFileMode(AnyFile);
@@ -53,9 +61,56 @@ QLineEdit* FileChooser::nameBox() const {
 
 void FileChooser::accept() {
     m_typed = nameBox()->text();
-    if (m_typed.isEmpty()) return QFileDialog::accept();  // a folder is selected: opens it
+    if (m_rules == FileRules::Heeded) {
+        const QString folder = selectedFolder();
+        if (!follow(folder.isEmpty() ? m_typed : folder)) return;
+    } else if (m_typed.isEmpty()) {
+        return QFileDialog::accept();  // a folder is selected: opens it
+    }
     // QFileDialog would judge the name by rules of its own.
     QDialog::accept();  // NOLINT(bugprone-parent-virtual-call)
+}
+
+bool FileChooser::follow(const QString& name) {
+    if (name.isEmpty()) return false;
+    m_place.folder = directory().absolutePath().toStdString();
+    const FileChoice choice = choiceOf(m_place, name.toStdString());
+    m_path = QString::fromStdString(choice.path);
+    switch (choice.act) {
+        case FileChoiceAct::EnterFolder:
+            enter(m_path);
+            return false;
+        case FileChoiceAct::Refuse:
+            refuse(fromCp1252(choice.reason) + u'\n' + m_path);
+            return false;
+        case FileChoiceAct::TakeFile:
+            break;
+    }
+    if (!fitsCp1252(m_path)) refuse(fromCp1252(unusablePath().text));
+    return fitsCp1252(m_path);
+}
+
+/// A name that was typed before a folder was picked is kept for a file in that folder.
+void FileChooser::enter(const QString& folder) {
+    const std::string typed = choiceOf(m_place, m_typed.toStdString()).path;
+    setDirectory(folder);
+    if (typed == folder.toStdString()) nameBox()->clear();
+}
+
+void FileChooser::refuse(const QString& reason) {
+    auto* box = new MessageBox({.text = {}, .icon = MessageIcon::Stop}, this);
+    box->setText(reason);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+QString FileChooser::selectedFolder() const {
+    const auto* files = findChild<QTreeView*>(QStringLiteral("treeView"));
+    const QModelIndexList selected = files->selectionModel()->selectedRows();
+    if (selected.size() != 1) return {};
+    const QFileInfo file(selected.front().data(QFileSystemModel::FilePathRole).toString());
+    const bool isShown = file.absolutePath() == directory().absolutePath();  // not the last folder
+    return isShown && file.isDir() ? file.absoluteFilePath() : QString();
 }
 
 }  // namespace orvanta::desktop

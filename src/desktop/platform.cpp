@@ -57,12 +57,9 @@ MessageAnswer DesktopMessageBoxes::show(const Message& message) {
 }
 
 std::optional<std::string> DesktopFileDialogs::choose(const FileDialogRequest& request) {
-    FileChooser chooser(request, owner());
-    while (chooser.exec() == QDialog::Accepted) {
-        if (fitsCp1252(chooser.path())) return toCp1252(chooser.path());
-        MessageBox(unusablePath(), owner()).exec();
-    }
-    return std::nullopt;
+    FileChooser chooser(request, FileRules::Heeded, owner());
+    if (chooser.exec() != QDialog::Accepted) return std::nullopt;
+    return toCp1252(chooser.path());
 }
 
 std::string DesktopSettings::read(std::string_view section, std::string_view key) const {
