@@ -137,7 +137,8 @@ ReportDialog::ReportDialog(Program& program, FrmReportType& form, QWidget* owner
     LabelView* file = putLabel(form.Label2, *m_area, QPalette::HighlightedText);
     putLabel(form.lblGenerating, *m_area, QPalette::HighlightedText);
     format->setBuddy(makeComboBox(form.cboFormat, *m_area));
-    TextBoxView* box = makeTextBox(form.txtEdit, *m_area, [](char) { return true; });
+    TextBoxView* box = makeTextBox(
+        form.txtEdit, *m_area, [](char) { return true; }, TextBoxView::Content::Path);
     file->setBuddy(box);
     makePushButton(form.cmdBrowse, *m_area,
                    [this] { handle(m_program, [&] { browseForAnalyzeFile(m_program, m_form); }); });

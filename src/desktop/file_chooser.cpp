@@ -7,7 +7,6 @@
 #include <QTreeView>
 #include <cassert>
 
-#include "core/messages.h"
 #include "desktop/conversions.h"
 #include "desktop/message_box.h"
 
@@ -26,7 +25,7 @@ QString filterFrom(const std::string& filter) {
 
 /// The folder to begin in: the path itself or, if that names a file, the folder that holds it.
 QString startFolder(const std::string& initialPath) {
-    const QFileInfo info(fromCp1252(initialPath));
+    const QFileInfo info(fromPath(initialPath));
     if (!initialPath.empty() && info.isDir()) return info.filePath();
     if (!initialPath.empty() && info.absoluteDir().exists()) return info.absolutePath();
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
@@ -52,7 +51,7 @@ FileChooser::FileChooser(const FileDialogRequest& request, FileRules rules, QWid
     columns.setStretchLastSection(false);
     columns.setSectionResizeMode(QHeaderView::ResizeToContents);
     columns.setSectionResizeMode(0, QHeaderView::Stretch);
-    if (!request.fileName.empty()) selectFile(fromCp1252(request.fileName));
+    if (!request.fileName.empty()) selectFile(fromPath(request.fileName));
 }
 
 QLineEdit* FileChooser::nameBox() const {
@@ -86,8 +85,7 @@ bool FileChooser::follow(const QString& name) {
         case FileChoiceAct::TakeFile:
             break;
     }
-    if (!fitsCp1252(m_path)) refuse(fromCp1252(unusablePath().text));
-    return fitsCp1252(m_path);
+    return true;
 }
 
 /// A name that was typed before a folder was picked is kept for a file in that folder.

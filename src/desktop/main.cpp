@@ -81,8 +81,8 @@ int main(int argc, char** argv) {
 
     FileDisk disk{RescueStore(QDir(dataPath()).filePath("rescue").toStdString())};
     DesktopPlatform desktop(disk);
-    Program program(desktop.platform(), toCp1252(QCoreApplication::applicationDirPath()),
-                    toCp1252(*scratch));
+    Program program(desktop.platform(), toPath(QCoreApplication::applicationDirPath()),
+                    toPath(*scratch));
     MainWindow window(program);
     const AutoSaveTimer autoSave(program);
     bool ended = false;

@@ -10,7 +10,6 @@
 #include <cassert>
 
 #include "core/failures.h"
-#include "core/messages.h"
 #include "core/web_host.h"
 #include "desktop/conversions.h"
 #include "desktop/file_chooser.h"
@@ -33,7 +32,7 @@ QString settingName(std::string_view section, std::string_view key) {
 }
 
 QUrl urlOf(const std::string& target) {
-    const QString text = fromCp1252(target);
+    const QString text = fromPath(target);
     for (const char* scheme : {"http:", "https:", "mailto:"})
         if (text.startsWith(QLatin1String(scheme)))
             return QUrl(QString(text).replace(u' ', QLatin1String("%20")));
@@ -59,16 +58,16 @@ MessageAnswer DesktopMessageBoxes::show(const Message& message) {
 std::optional<std::string> DesktopFileDialogs::choose(const FileDialogRequest& request) {
     FileChooser chooser(request, FileRules::Heeded, owner());
     if (chooser.exec() != QDialog::Accepted) return std::nullopt;
-    return toCp1252(chooser.path());
+    return toPath(chooser.path());
 }
 
 std::string DesktopSettings::read(std::string_view section, std::string_view key) const {
-    return toCp1252(m_settings.value(settingName(section, key)).toString());
+    return toPath(m_settings.value(settingName(section, key)).toString());
 }
 
 void DesktopSettings::write(std::string_view section, std::string_view key,
                             const std::string& value) {
-    m_settings.setValue(settingName(section, key), fromCp1252(value));
+    m_settings.setValue(settingName(section, key), fromPath(value));
     m_settings.sync();
 }
 
@@ -116,7 +115,7 @@ void DesktopLifetime::reportUnhandled(const Failure& failure) {
 }
 
 std::string DesktopFolders::documents() const {
-    return toCp1252(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    return toPath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
 }
 
 DesktopPlatform::DesktopPlatform(Disk& disk)
