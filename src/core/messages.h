@@ -11,14 +11,6 @@ inline void refuse(MessageBoxes& messages, std::string_view text) {
         {.text = std::string(text), .icon = MessageIcon::Stop, .title = std::string(appTitle)});
 }
 
-/// Said of a path that was chosen and can't be told in the program's own characters.
-inline Message unusablePath() {
-    return {.text =
-                "This name holds characters that Orvanta can't use. "
-                "Please choose another file or folder name.",
-            .icon = MessageIcon::Stop};
-}
-
 /// What the icon of a message says to those who do not see it.
 constexpr std::string_view nameOf(MessageIcon icon) {
     switch (icon) {

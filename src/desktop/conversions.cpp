@@ -4,6 +4,7 @@
 #include <QScreen>
 #include <cmath>
 
+#include "view/path_text.h"
 #include "view/windows1252.h"
 
 namespace orvanta::desktop {
@@ -14,14 +15,17 @@ std::string toCp1252(const QString& text) { return windows1252From(text.toStdStr
 
 bool fitsCp1252(const QString& text) { return fromCp1252(toCp1252(text)) == text; }
 
+QString fromPath(std::string_view path) { return QString::fromStdString(nativeFromPath(path)); }
+
+std::string toPath(const QString& name) { return pathFromNative(name.toStdString()); }
+
 QString shownCaption(std::string_view caption) {
     return fromCp1252(caption).replace(QLatin1String("&&"), QLatin1String("&")).trimmed();
 }
 
-QString shownToolTip(std::string_view toolTip) {
-    if (toolTip.empty()) return {};
-    return QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>")
-        .arg(fromCp1252(toolTip).toHtmlEscaped());
+QString shownToolTip(const QString& toolTip) {
+    if (toolTip.isEmpty()) return {};
+    return QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>").arg(toolTip.toHtmlEscaped());
 }
 
 int PixelGrid::pixels(Twips length) const { return static_cast<int>(std::lround(exact(length))); }

@@ -19,10 +19,14 @@ std::string toCp1252(const QString& text);
 /// True if the code page holds every character.
 bool fitsCp1252(const QString& text);
 
+/// The name that a path stands for, whatever its characters are, and back.
+QString fromPath(std::string_view path);
+std::string toPath(const QString& name);
+
 /// A caption as a person reads it: "&&" stands for "&", blanks at its ends are left out.
 QString shownCaption(std::string_view caption);
 /// A tool tip that wraps and is never taken for markup.
-QString shownToolTip(std::string_view toolTip);
+QString shownToolTip(const QString& toolTip);
 
 /// Lengths and type sizes of a layout, in pixels of this screen.
 class PixelGrid {

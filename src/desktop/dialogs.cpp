@@ -138,10 +138,13 @@ ReportDialog::ReportDialog(Program& program, FrmReportType& form, QWidget* owner
     putLabel(form.lblGenerating, *m_area, QPalette::HighlightedText);
     format->setBuddy(makeComboBox(form.cboFormat, *m_area));
     const auto accept = [this] { handle(m_program, [&] { acceptReport(m_program, m_form); }); };
-    TextBoxView* box = makeTextBox(form.txtEdit, *m_area, [accept](char character) {
-        if (character == enterKey) accept();
-        return true;
-    });
+    TextBoxView* box = makeTextBox(
+        form.txtEdit, *m_area,
+        [accept](char character) {
+            if (character == enterKey) accept();
+            return true;
+        },
+        TextBoxView::Content::Path);
     file->setBuddy(box);
     makePushButton(form.cmdBrowse, *m_area,
                    [this] { handle(m_program, [&] { browseForAnalyzeFile(m_program, m_form); }); });

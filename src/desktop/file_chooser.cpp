@@ -1,5 +1,6 @@
 #include "desktop/file_chooser.h"
 
+#include <QFileSystemModel>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QStandardPaths>
@@ -7,6 +8,7 @@
 #include <cassert>
 
 #include "desktop/conversions.h"
+#include "desktop/message_box.h"
 
 namespace orvanta::desktop {
 
@@ -23,7 +25,7 @@ QString filterFrom(const std::string& filter) {
 
 /// The folder to begin in: the path itself or, if that names a file, the folder that holds it.
 QString startFolder(const std::string& initialPath) {
-    const QFileInfo info(fromCp1252(initialPath));
+    const QFileInfo info(fromPath(initialPath));
     if (!initialPath.empty() && info.isDir()) return info.filePath();
     if (!initialPath.empty() && info.absoluteDir().exists()) return info.absolutePath();
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
@@ -32,8 +34,13 @@ QString startFolder(const std::string& initialPath) {
 
 }  // namespace
 
-FileChooser::FileChooser(const FileDialogRequest& request, QWidget* owner)
-    : QFileDialog(owner, {}, startFolder(request.initialPath), filterFrom(request.filter)) {
+FileChooser::FileChooser(const FileDialogRequest& request, FileRules rules, QWidget* owner)
+    : QFileDialog(owner, {}, startFolder(request.initialPath), filterFrom(request.filter)),
+      m_place{.mode = request.mode,
+              .filter = request.filter,
+              .folder = {},
+              .home = QDir::homePath().toStdString()},
+      m_rules(rules) {
     setOption(DontUseNativeDialog);
     setOption(DontConfirmOverwrite);
     setFileMode(AnyFile);
@@ -44,7 +51,7 @@ FileChooser::FileChooser(const FileDialogRequest& request, QWidget* owner)
     columns.setStretchLastSection(false);
     columns.setSectionResizeMode(QHeaderView::ResizeToContents);
     columns.setSectionResizeMode(0, QHeaderView::Stretch);
-    if (!request.fileName.empty()) selectFile(fromCp1252(request.fileName));
+    if (!request.fileName.empty()) selectFile(fromPath(request.fileName));
 }
 
 QLineEdit* FileChooser::nameBox() const {
@@ -53,9 +60,55 @@ QLineEdit* FileChooser::nameBox() const {
 
 void FileChooser::accept() {
     m_typed = nameBox()->text();
-    if (m_typed.isEmpty()) return QFileDialog::accept();  // a folder is selected: opens it
+    if (m_rules == FileRules::Heeded) {
+        const QString folder = selectedFolder();
+        if (!follow(folder.isEmpty() ? m_typed : folder)) return;
+    } else if (m_typed.isEmpty()) {
+        return QFileDialog::accept();  // a folder is selected: opens it
+    }
     // QFileDialog would judge the name by rules of its own.
     QDialog::accept();  // NOLINT(bugprone-parent-virtual-call)
+}
+
+bool FileChooser::follow(const QString& name) {
+    if (name.isEmpty()) return false;
+    m_place.folder = directory().absolutePath().toStdString();
+    const FileChoice choice = choiceOf(m_place, name.toStdString());
+    m_path = QString::fromStdString(choice.path);
+    switch (choice.act) {
+        case FileChoiceAct::EnterFolder:
+            enter(m_path);
+            return false;
+        case FileChoiceAct::Refuse:
+            refuse(fromCp1252(choice.reason) + u'\n' + m_path);
+            return false;
+        case FileChoiceAct::TakeFile:
+            break;
+    }
+    return true;
+}
+
+/// A name that was typed before a folder was picked is kept for a file in that folder.
+void FileChooser::enter(const QString& folder) {
+    const std::string typed = choiceOf(m_place, m_typed.toStdString()).path;
+    setDirectory(folder);
+    if (typed == folder.toStdString()) nameBox()->clear();
+}
+
+void FileChooser::refuse(const QString& reason) {
+    auto* box = new MessageBox({.text = {}, .icon = MessageIcon::Stop}, this);
+    box->setText(reason);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+QString FileChooser::selectedFolder() const {
+    const auto* files = findChild<QTreeView*>(QStringLiteral("treeView"));
+    const QModelIndexList selected = files->selectionModel()->selectedRows();
+    if (selected.size() != 1) return {};
+    const QFileInfo file(selected.front().data(QFileSystemModel::FilePathRole).toString());
+    const bool isShown = file.absolutePath() == directory().absolutePath();  // not the last folder
+    return isShown && file.isDir() ? file.absoluteFilePath() : QString();
 }
 
 }  // namespace orvanta::desktop

@@ -94,8 +94,8 @@ int main(int argc, char** argv) {
     RescuedSaves rescuedSaves(rescue);
     DesktopPlatform desktop(disk);
     desktop.platform().failedSaves = &rescuedSaves;
-    Program program(desktop.platform(), toCp1252(QCoreApplication::applicationDirPath()),
-                    toCp1252(*scratch));
+    Program program(desktop.platform(), toPath(QCoreApplication::applicationDirPath()),
+                    toPath(*scratch));
     MainWindow window(program);
     window.tellOf(rescuedSaves);
     const AutoSaveTimer autoSave(program);

@@ -55,8 +55,8 @@ void showFiles(const ListBox& model, QListWidget& widget) {
     const QSignalBlocker silence(widget);
     widget.clear();
     for (const std::string& path : model.items()) {
-        auto* item = new QListWidgetItem(fromCp1252(path), &widget);
-        item->setToolTip(shownToolTip(path));
+        auto* item = new QListWidgetItem(fromPath(path), &widget);
+        item->setToolTip(shownToolTip(fromPath(path)));
     }
     widget.setCurrentRow(model.selectedIndex());
 }
@@ -75,7 +75,7 @@ void mirrorControl(Control& model, QWidget& widget, ControlArea& area) {
     follow(model, [&model, &widget] {
         widget.setVisible(model.isUncovered());
         widget.setEnabled(model.isEnabled());
-        widget.setToolTip(shownToolTip(model.toolTip()));
+        widget.setToolTip(shownToolTip(fromCp1252(model.toolTip())));
         describe(model, widget);
         if (!model.accessibleName().empty())
             widget.setAccessibleName(fromCp1252(model.accessibleName()));
@@ -83,8 +83,9 @@ void mirrorControl(Control& model, QWidget& widget, ControlArea& area) {
     model.focusGiven.subscribe([&widget] { widget.setFocus(); });
 }
 
-TextBoxView* makeTextBox(TextBox& model, ControlArea& area, TextBoxView::Typed typed) {
-    auto* widget = new TextBoxView(model, std::move(typed), &area);
+TextBoxView* makeTextBox(TextBox& model, ControlArea& area, TextBoxView::Typed typed,
+                         TextBoxView::Content content) {
+    auto* widget = new TextBoxView(model, std::move(typed), content, &area);
     follow(model, [&model, widget, &area] { showFont(model, *widget, area); });
     mirrorControl(model, *widget, area);
     return widget;

@@ -24,7 +24,8 @@ void mirrorControl(Control& model, QWidget& widget, ControlArea& area);
 /// keys.
 void describe(const Control& model, QWidget& widget);
 
-TextBoxView* makeTextBox(TextBox& model, ControlArea& area, TextBoxView::Typed typed);
+TextBoxView* makeTextBox(TextBox& model, ControlArea& area, TextBoxView::Typed typed,
+                         TextBoxView::Content content = TextBoxView::Content::Text);
 QRadioButton* makeOption(Option& model, ControlArea& area);
 /// A click hands the wanted state to `clicked`.
 QCheckBox* makeCheckBox(CheckBox& model, ControlArea& area, std::function<void(bool on)> clicked);

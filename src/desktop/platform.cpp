@@ -10,7 +10,6 @@
 #include <cassert>
 
 #include "core/failures.h"
-#include "core/messages.h"
 #include "core/web_host.h"
 #include "desktop/conversions.h"
 #include "desktop/file_chooser.h"
@@ -33,7 +32,7 @@ QString settingName(std::string_view section, std::string_view key) {
 }
 
 QUrl urlOf(const std::string& target) {
-    const QString text = fromCp1252(target);
+    const QString text = fromPath(target);
     for (const char* scheme : {"http:", "https:", "mailto:"})
         if (text.startsWith(QLatin1String(scheme)))
             return QUrl(QString(text).replace(u' ', QLatin1String("%20")));
@@ -57,21 +56,18 @@ MessageAnswer DesktopMessageBoxes::show(const Message& message) {
 }
 
 std::optional<std::string> DesktopFileDialogs::choose(const FileDialogRequest& request) {
-    FileChooser chooser(request, owner());
-    while (chooser.exec() == QDialog::Accepted) {
-        if (fitsCp1252(chooser.path())) return toCp1252(chooser.path());
-        MessageBox(unusablePath(), owner()).exec();
-    }
-    return std::nullopt;
+    FileChooser chooser(request, FileRules::Heeded, owner());
+    if (chooser.exec() != QDialog::Accepted) return std::nullopt;
+    return toPath(chooser.path());
 }
 
 std::string DesktopSettings::read(std::string_view section, std::string_view key) const {
-    return toCp1252(m_settings.value(settingName(section, key)).toString());
+    return toPath(m_settings.value(settingName(section, key)).toString());
 }
 
 void DesktopSettings::write(std::string_view section, std::string_view key,
                             const std::string& value) {
-    m_settings.setValue(settingName(section, key), fromCp1252(value));
+    m_settings.setValue(settingName(section, key), fromPath(value));
     m_settings.sync();
 }
 
@@ -122,7 +118,7 @@ void DesktopLifetime::reportUnhandled(const Failure& failure) {
 std::string DesktopFolders::documents() const {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     if (!folder.isEmpty()) QDir().mkpath(folder);
-    return toCp1252(folder);
+    return toPath(folder);
 }
 
 DesktopPlatform::DesktopPlatform(Disk& disk)

@@ -23,7 +23,7 @@ public:
     explicit Entry(TextBoxView& view) : QValidator(&view), m_view(view) {}
 
     State validate(QString& text, int& cursor) const override {
-        if (m_view.m_showing) return Acceptable;
+        if (m_view.m_showing || m_view.isLeftAlone(text)) return Acceptable;
         const std::string ahead = singleLine(text.left(cursor));
         const TextBox& model = m_view.m_model;
         const EnteredText entered = withinLimit(
@@ -37,25 +37,30 @@ private:
     TextBoxView& m_view;
 };
 
-TextBoxView::TextBoxView(TextBox& model, Typed typed, QWidget* parent)
-    : QLineEdit(parent), m_model(model), m_typed(std::move(typed)) {
+TextBoxView::TextBoxView(TextBox& model, Typed typed, Content content, QWidget* parent)
+    : QLineEdit(parent), m_model(model), m_typed(std::move(typed)), m_content(content) {
     assert(m_typed);
     setMaxLength(1'000'000);
     setValidator(new Entry(*this));
     // Not textEdited: an assistive program sets a text without typing it.
     connect(this, &QLineEdit::textChanged, [this](const QString& text) {
-        if (!m_showing) m_model.setText(toCp1252(text));
+        if (!m_showing) m_model.setText(isLeftAlone(text) ? toPath(text) : toCp1252(text));
     });
     model.changed.subscribe([this] { showModel(); });
     showModel();
 }
 
 void TextBoxView::showModel() {
-    const QString text = fromCp1252(m_model.text());
+    const std::string& held = m_model.text();
+    const QString text = m_content == Content::Path ? fromPath(held) : fromCp1252(held);
     if (text == this->text()) return;
     m_showing = true;
     setText(text);
     m_showing = false;
+}
+
+bool TextBoxView::isLeftAlone(const QString& text) const {
+    return m_content == Content::Path && !fitsCp1252(text);
 }
 
 /// What is left of typed characters once the program has been asked about each.
@@ -89,6 +94,7 @@ void TextBoxView::keyPressEvent(QKeyEvent* event) {
         event->accept();
         return;
     }
+    if (isLeftAlone(event->text())) return QLineEdit::keyPressEvent(event);
     const std::string typed = toCp1252(event->text());
     const bool isCommand = event->modifiers() & (Qt::ControlModifier | Qt::MetaModifier) &&
                            !(event->modifiers() & Qt::AltModifier);
@@ -100,7 +106,7 @@ void TextBoxView::keyPressEvent(QKeyEvent* event) {
 }
 
 void TextBoxView::inputMethodEvent(QInputMethodEvent* event) {
-    if (!event->commitString().isEmpty())
+    if (!event->commitString().isEmpty() && !isLeftAlone(event->commitString()))
         event->setCommitString(accepted(singleLine(event->commitString())),
                                event->replacementStart(), event->replacementLength());
     QLineEdit::inputMethodEvent(event);

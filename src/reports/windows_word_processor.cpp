@@ -3,17 +3,20 @@
 #include <windows.h>
 
 #include "view/failure.h"
+#include "view/path_text.h"
 
 namespace orvanta {
 
 namespace {
 
-constexpr UINT windows1252 = 1252;
-
+/// Of a text of the code page or a path.
 std::wstring wide(std::string_view text) {
-    const int length = static_cast<int>(text.size());
-    std::wstring result(text.size(), L'\0');  // a byte each
-    if (length > 0) MultiByteToWideChar(windows1252, 0, text.data(), length, result.data(), length);
+    const std::string utf8 = nativeFromPath(text);
+    const int length = static_cast<int>(utf8.size());
+    std::wstring result(utf8.size(), L'\0');  // at most a unit for a byte
+    if (length == 0) return result;
+    const int units = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, result.data(), length);
+    result.resize(static_cast<std::size_t>(units));
     return result;
 }
 

@@ -2,11 +2,15 @@
 
 namespace orvanta {
 
+std::string_view endingIn(std::string_view filter) {
+    const auto pattern = filter.rfind("|*.");
+    return pattern == filter.npos ? std::string_view() : filter.substr(pattern + 2);
+}
+
 std::string withFilterEnding(const std::string& path, const std::string& filter) {
     const auto nameStart = path.rfind(pathSeparator) + 1;  // 0 where there is no folder
     if (nameStart == path.size() || path.find('.', nameStart) != std::string::npos) return path;
-    const auto pattern = filter.rfind("|*.");
-    return pattern == std::string::npos ? path : path + filter.substr(pattern + 2);
+    return path + std::string(endingIn(filter));
 }
 
 void FileDialog::prepare(std::string_view newFilter, const std::string& newInitialPath) {

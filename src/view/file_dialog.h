@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "view/platform.h"
 
@@ -27,6 +28,8 @@ private:
     FileDialogs& m_dialogs;
 };
 
+/// The ending of a filter's pattern, as ".bsm" of "|*.bsm"; empty if it has none.
+std::string_view endingIn(std::string_view filter);
 /// The path with the ending of a filter's pattern, such as "|*.bsm", where the name holds no point.
 std::string withFilterEnding(const std::string& path, const std::string& filter);
 

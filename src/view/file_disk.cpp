@@ -4,7 +4,7 @@
 #include <csignal>
 
 #include "view/native_file.h"
-#include "view/windows1252.h"
+#include "view/path_text.h"
 
 namespace orvanta {
 
@@ -61,7 +61,7 @@ FileDisk::FileDisk(std::optional<RescueStore> rescue) : m_rescue(std::move(rescu
 
 PathKind FileDisk::kindOf(const std::string& path) const {
     try {
-        const FileKind kind = native::kindOf(utf8From1252(path), Links::Follow);
+        const FileKind kind = native::kindOf(nativeFromPath(path), Links::Follow);
         if (kind == FileKind::Missing) return PathKind::Missing;
         return kind == FileKind::Folder ? PathKind::Folder : PathKind::File;
     } catch (const Failure&) {
@@ -70,23 +70,23 @@ PathKind FileDisk::kindOf(const std::string& path) const {
 }
 
 std::string FileDisk::read(const std::string& path) const {
-    return native::File::toRead(utf8From1252(path), Links::Follow).read();
+    return native::File::toRead(nativeFromPath(path), Links::Follow).read();
 }
 
 std::string FileDisk::readOwn(const std::string& path) const {
-    return native::File::toRead(utf8From1252(path), Links::Keep).read();
+    return native::File::toRead(nativeFromPath(path), Links::Keep).read();
 }
 
 void FileDisk::replace(const std::string& path, std::string_view bytes) {
     if (path.empty()) throw Failure(ErrorNumber::PathFileAccess);
-    const std::string name = utf8From1252(path);
+    const std::string name = nativeFromPath(path);
     const FileKind kind = native::kindOf(name, Links::Follow);
     if (kind == FileKind::Other) return native::writeInto(name, bytes);
     put(native::targetOf(name), kind, bytes);
 }
 
 void FileDisk::replaceOwn(const std::string& path, std::string_view bytes) {
-    const std::string name = utf8From1252(path);
+    const std::string name = nativeFromPath(path);
     put(name, native::kindOf(name, Links::Keep), bytes);
 }
 
@@ -116,12 +116,12 @@ void FileDisk::writeOver(const std::string& target, std::string_view bytes) cons
     }
 }
 
-void FileDisk::makeFolder(const std::string& path) { native::makeFolder(utf8From1252(path)); }
+void FileDisk::makeFolder(const std::string& path) { native::makeFolder(nativeFromPath(path)); }
 
-void FileDisk::remove(const std::string& path) { native::remove(utf8From1252(path)); }
+void FileDisk::remove(const std::string& path) { native::remove(nativeFromPath(path)); }
 
 void FileDisk::removeLeftovers(const std::string& folder) {
-    native::removeLeftovers(utf8From1252(folder));
+    native::removeLeftovers(nativeFromPath(folder));
 }
 
 }  // namespace orvanta

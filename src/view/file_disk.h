@@ -8,7 +8,7 @@
 
 namespace orvanta {
 
-/// The files of this machine. Their names are UTF-8 there.
+/// The files of this machine. Paths are those of view/path_text.h.
 ///
 /// A file is replaced by writing a new one beside it, flushing that to the device and renaming
 /// it over the old one, so that a crash or a full disk leaves the former file. Where the folder

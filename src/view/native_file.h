@@ -48,6 +48,8 @@ bool isOwnPlainFile(const std::string& name, std::chrono::seconds olderThan);
 
 /// Fails where this user may not write to the file.
 void requireWritable(const std::string& name);
+/// True for a folder that this user may look into and enter.
+bool isOpenFolder(const std::string& name);
 void makeFolder(const std::string& name);
 /// Makes a folder that only this user may enter, with its parents, unless it is there.
 void makePrivateFolder(const std::string& name);
@@ -77,6 +79,8 @@ public:
     /// All bytes of a plain file. Fails with PathFileAccess for anything else, beyond mostBytes,
     /// and where memory can't hold them.
     std::string read() const;
+    /// How many they are. Fails as read does, but not for want of memory.
+    std::size_t size() const;
     void write(std::string_view bytes, std::uint64_t offset) const;
     void cut(std::uint64_t size) const;
     /// Returns when the device has the bytes.

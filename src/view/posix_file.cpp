@@ -186,6 +186,10 @@ void requireWritable(const std::string& name) {
     if (::access(name.c_str(), W_OK) != 0) fail(name);
 }
 
+bool isOpenFolder(const std::string& name) {
+    return isFolder(name) && ::access(name.c_str(), R_OK | X_OK) == 0;
+}
+
 void makeFolder(const std::string& name) {
     if (::mkdir(name.c_str(), 0777) != 0) fail(name);
 }
@@ -235,14 +239,18 @@ File File::passing(const std::string& folder) {
     return {descriptor, std::move(name)};
 }
 
-std::string File::read() const {
+std::size_t File::size() const {
     struct stat status {};
     if (uninterrupted([&] { return ::fstat(m_descriptor, &status); }) != 0) fail(m_name);
     // Reading anything but a plain file could wait or go on for ever.
     if (!S_ISREG(status.st_mode) || static_cast<std::uint64_t>(status.st_size) > mostBytes)
         throw Failure(ErrorNumber::PathFileAccess);
-    std::string bytes =
-        withinMemory([&] { return std::string(static_cast<std::size_t>(status.st_size), '\0'); });
+    return static_cast<std::size_t>(status.st_size);
+}
+
+std::string File::read() const {
+    const std::size_t expected = size();
+    std::string bytes = withinMemory([&] { return std::string(expected, '\0'); });
     std::size_t filled = 0;
     while (filled < bytes.size()) {
         const ssize_t taken = uninterrupted([&] {

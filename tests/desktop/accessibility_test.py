@@ -83,10 +83,11 @@ def clip():
 class Program:
     """The running program, seen through the bus."""
 
-    def __init__(self, binary, data):
-        self.home = pathlib.Path(tempfile.mkdtemp())
+    def __init__(self, binary, data, home="home", app="app", documents=None):
+        self.root = pathlib.Path(tempfile.mkdtemp())
+        self.home = self.root / home
         self.errors = self.home / "errors"
-        folder = self.home / "app"
+        self.folder = folder = self.home / app
         (folder / "Sounds").mkdir(parents=True)
         (folder / "Sounds" / "gbs_S1.swf").write_bytes(clip())
         shutil.copy(binary, folder)
@@ -94,15 +95,21 @@ class Program:
             shutil.copy(file, folder)
         shutil.copytree(pathlib.Path(binary).parent / "site", folder / "site")
         self.home.chmod(0o700)
-        environment = dict(os.environ, HOME=str(self.home), XDG_CONFIG_HOME=str(self.home),
-                           XDG_DATA_HOME=str(self.home), XDG_RUNTIME_DIR=str(self.home),
-                           PATH=f"{self._opener()}:{os.environ['PATH']}",
-                           PULSE_SERVER=f"unix:{self.home}/no-server",
-                           QT_LOGGING_RULES="qt.accessibility.*=false",  # see __exit__
-                           QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        if documents:
+            (self.home / documents).mkdir()
+            (self.home / "user-dirs.dirs").write_text(f'XDG_DOCUMENTS_DIR="$HOME/{documents}"\n')
+        self.command = str(folder / pathlib.Path(binary).name)
+        self.environment = dict(os.environ, HOME=str(self.home), XDG_CONFIG_HOME=str(self.home),
+                                XDG_DATA_HOME=str(self.home), XDG_RUNTIME_DIR=str(self.home),
+                                PATH=f"{self._opener()}:{os.environ['PATH']}",
+                                PULSE_SERVER=f"unix:{self.home}/no-server",
+                                QT_LOGGING_RULES="qt.accessibility.*=false",  # see __exit__
+                                QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        self._start()
+
+    def _start(self):
         with open(self.errors, "wb") as errors:
-            self.process = subprocess.Popen([str(folder / pathlib.Path(binary).name)],
-                                            env=environment, stderr=errors)
+            self.process = subprocess.Popen([self.command], env=self.environment, stderr=errors)
 
     def __enter__(self):
         try:
@@ -114,6 +121,13 @@ class Program:
             raise
         return self
 
+    def restart(self):
+        self.process.kill()
+        self.process.wait()
+        wait_for(lambda: not self._on_the_bus(), "the end on the bus")
+        self._start()
+        self.__enter__()
+
     def __exit__(self, *_):
         self.process.kill()
         self.process.wait()
@@ -121,29 +135,29 @@ class Program:
         errors = [line for line in self.errors.read_text().splitlines()
                   if not line.startswith("QAccessible")]
         expect(not errors, f"standard error says {errors}")
-        shutil.rmtree(self.home)
+        shutil.rmtree(self.root)
 
     def _opener(self):
         """Takes the place of the desktop's programs and writes down what they are to open."""
-        folder = self.home / "bin"
+        folder = self.root / "bin"  # the toolkit takes no blank in its path
         folder.mkdir()
         opener = folder / "xdg-open"
-        opener.write_text(f'#!/bin/sh\necho "$1" >>"{self.home}/opened"\n')
+        opener.write_text(f'#!/bin/sh\necho "$1" >>"{self.root}/opened"\n')
         opener.chmod(0o755)
         return folder
 
     def wait_for_opened(self, target):
         """The last that was handed to the desktop."""
-        log = self.home / "opened"
+        log = self.root / "opened"
         wait_for(lambda: log.exists() and log.read_text().splitlines()[-1:] == [target],
                  f"the opening of {target}")
 
     def copy_of(self, page):
         """The address of the installed copy of a page."""
-        return (self.home / "app" / "site" / page / "index.html").as_uri()
+        return (self.folder / "site" / page / "index.html").as_uri()
 
     def lose_copies(self):
-        shutil.rmtree(self.home / "app" / "site")
+        shutil.rmtree(self.folder / "site")
 
     def wait_for_end(self):
         try:
@@ -422,4 +436,5 @@ def main():
     sys.exit(1 if failures else 0)
 
 
-main()
+if __name__ == "__main__":
+    main()

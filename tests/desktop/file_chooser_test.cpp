@@ -2,28 +2,127 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QDialogButtonBox>
 #include <QFile>
 #include <QHeaderView>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QScrollBar>
-#include <QTemporaryDir>
 #include <QTreeView>
 #include <QtTest>
+#include <memory>
 
 #include "desktop/conversions.h"
+#include "desktop/message_box.h"
+#include "temporary_folder.h"
 
 namespace orvanta::test {
 
+namespace {
+
 using namespace orvanta::desktop;
 
+/// A dialog on the screen before a folder of the real disk. What is told of folders is told from
+/// there: "Team" is a folder in it, "." itself.
+class ChooserOnScreen : public testing::Test {
+protected:
+    ChooserOnScreen() {
+        for (const char* name : {"Team", "home", "home/anna", "taken.bsm"})
+            std::filesystem::create_directory(folder / name);
+        folder.write("team2.bsm", "");
+        qputenv("HOME", QByteArray::fromStdString(folder / "home"));
+    }
+    ~ChooserOnScreen() override { qputenv("HOME", m_home); }
+
+    void show(FileDialogMode mode) {
+        m_chooser =
+            std::make_unique<FileChooser>(FileDialogRequest{.mode = mode,
+                                                            .filter = "All Files (*.bsm)|*.bsm",
+                                                            .initialPath = folder.path(),
+                                                            .fileName = {}},
+                                          FileRules::Heeded, nullptr);
+        m_chooser->open();
+        QApplication::setActiveWindow(m_chooser.get());  // also where no window manager does it
+        nameBox().setFocus();
+    }
+    /// Each key goes to whatever has the keyboard then.
+    void type(const QString& text) {
+        for (const QChar character : text)
+            QTest::keyClick(QApplication::focusWidget(), character.toLatin1());
+    }
+    void pressEnter() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); }
+    void enter(const QString& text) {
+        type(text);
+        pressEnter();
+    }
+    void click(const QString& name) {
+        auto& files = *m_chooser->findChild<QTreeView*>(QStringLiteral("treeView"));
+        const auto found = [&] {
+            const QAbstractItemModel& model = *files.model();
+            return model.match(model.index(0, 0, files.rootIndex()), Qt::DisplayRole, name);
+        };
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !found().isEmpty(); }));
+        const QRect place = files.visualRect(found().front());
+        QTest::mouseClick(files.viewport(), Qt::LeftButton, {}, place.center());
+    }
+    QPushButton& button() {
+        auto& buttons = *m_chooser->findChild<QDialogButtonBox*>();
+        auto* save = buttons.button(QDialogButtonBox::Save);
+        return save ? *save : *buttons.button(QDialogButtonBox::Open);
+    }
+    void pressButton() { QTest::mouseClick(&button(), Qt::LeftButton); }
+
+    QLineEdit& nameBox() { return *m_chooser->nameBox(); }
+    /// The folder that the open dialog shows; "closed" if it has closed.
+    std::string shown() const {
+        if (!m_chooser->isVisible()) return "closed";
+        return fromHere(m_chooser->directory().absolutePath());
+    }
+    std::string taken() const {
+        return m_chooser->result() == QDialog::Accepted ? fromHere(m_chooser->path()) : "nothing";
+    }
+    /// What the box before the dialog says; empty without one. It is closed then.
+    std::string refusal() {
+        auto* box = m_chooser->findChild<MessageBox*>();
+        if (!box) return {};
+        const QString text = box->text();
+        QTest::mouseClick(box->buttonFor(MessageAnswer::Ok), Qt::LeftButton);
+        delete box;
+        QString reason = text.section('\n', 0, 0);
+        return reason.toStdString() + ' ' + fromHere(text.section('\n', 1));
+    }
+    std::string typed() { return nameBox().text().toStdString(); }
+
+    TemporaryFolder folder;
+
+private:
+    std::string fromHere(const QString& path) const {
+        return QDir(QString::fromStdString(folder.path())).relativeFilePath(path).toStdString();
+    }
+
+    QByteArray m_home = qgetenv("HOME");
+    std::unique_ptr<FileChooser> m_chooser;
+};
+
+class EitherChooser : public ChooserOnScreen, public testing::WithParamInterface<FileDialogMode> {
+protected:
+    EitherChooser() { show(GetParam()); }
+};
+
+INSTANTIATE_TEST_SUITE_P(ToOpenOrToSave, EitherChooser,
+                         testing::Values(FileDialogMode::Open, FileDialogMode::Save));
+
+}  // namespace
+
 TEST(FileChooser, ShowsTheSizeTheKindAndTheDateOfAFileWhole) {
-    const QTemporaryDir folder;
-    const QString name = QString(90, u'n') + QStringLiteral(".bsm");
-    QFile(folder.filePath(name)).open(QIODevice::WriteOnly);
+    const TemporaryFolder folder;
+    folder.write(std::string(90, 'n') + ".bsm", "");
     FileChooser chooser({.mode = FileDialogMode::Open,
                          .filter = "All Brainstorming Files (*.bsm)|*.bsm",
-                         .initialPath = toCp1252(folder.path()),
+                         .initialPath = folder.path(),
                          .fileName = {}},
-                        nullptr);
+                        FileRules::Heeded, nullptr);
     chooser.show();
     auto& files = *chooser.findChild<QTreeView*>(QStringLiteral("treeView"));
     ASSERT_TRUE(
@@ -34,6 +133,131 @@ TEST(FileChooser, ShowsTheSizeTheKindAndTheDateOfAFileWhole) {
         EXPECT_GE(files.columnWidth(column),
                   static_cast<const QAbstractItemView&>(files).sizeHintForColumn(column))
             << column;
+}
+
+TEST_P(EitherChooser, EntersATypedFolder) {
+    enter("Team");
+    EXPECT_EQ(shown(), "Team");
+    EXPECT_EQ(typed(), "");
+}
+
+TEST_P(EitherChooser, EntersATypedFolderWithASlash) {
+    enter("Team/");
+    EXPECT_EQ(shown(), "Team");
+}
+
+TEST_P(EitherChooser, EntersATypedFolderAlsoWithTheButton) {
+    type("home/anna");
+    pressButton();
+    EXPECT_EQ(shown(), "home/anna");
+}
+
+TEST_P(EitherChooser, GoesUpAtTwoPoints) {
+    enter("Team");
+    enter("..");
+    EXPECT_EQ(shown(), ".");
+    EXPECT_EQ(refusal(), "");
+}
+
+TEST_P(EitherChooser, GoesHomeAtATilde) {
+    enter("~");
+    EXPECT_EQ(shown(), "home");
+}
+
+TEST_P(EitherChooser, GoesToAFolderAtHomeBehindATilde) {
+    enter("~/anna");
+    EXPECT_EQ(shown(), "home/anna");
+}
+
+TEST_P(EitherChooser, RefusesAFolderThatIsMissingAndKeepsWhatWasTyped) {
+    enter("gone/new");
+    EXPECT_EQ(refusal(), "This folder does not exist: gone");
+    EXPECT_EQ(shown(), ".");
+    EXPECT_EQ(typed(), "gone/new");
+}
+
+TEST_P(EitherChooser, TakesATypedNameThatWasRefusedAndCorrected) {
+    enter("gone/");
+    refusal();
+    nameBox().selectAll();
+    enter("team2");
+    EXPECT_EQ(taken(), "team2.bsm");
+}
+
+TEST_P(EitherChooser, StaysOpenWithoutAName) {
+    pressEnter();
+    EXPECT_EQ(shown(), ".");
+    EXPECT_EQ(refusal(), "");
+}
+
+TEST_P(EitherChooser, TakesAClickedFile) {
+    click("team2.bsm");
+    EXPECT_EQ(typed(), "team2.bsm");
+    pressButton();
+    EXPECT_EQ(taken(), "team2.bsm");
+}
+
+TEST_F(ChooserOnScreen, ToSaveEntersAClickedFolderAndKeepsTheTypedName) {
+    show(FileDialogMode::Save);
+    type("new");
+    click("Team");
+    pressButton();
+    EXPECT_EQ(shown(), "Team");
+    EXPECT_EQ(typed(), "new");
+    pressButton();
+    EXPECT_EQ(taken(), "Team/new.bsm");
+}
+
+TEST_F(ChooserOnScreen, ToSaveHasAButtonThatSaysSaveAgainInTheFolder) {
+    show(FileDialogMode::Save);
+    const QString caption = button().text();
+    type("new");
+    click("Team");
+    EXPECT_NE(button().text(), caption);
+    pressButton();
+    EXPECT_EQ(button().text(), caption);
+}
+
+TEST_F(ChooserOnScreen, ToSaveTakesATypedNameWithTheEnding) {
+    show(FileDialogMode::Save);
+    enter("new");
+    EXPECT_EQ(taken(), "new.bsm");
+}
+
+TEST_F(ChooserOnScreen, ToSaveTakesAFileThatIsThereAndAsksNothing) {
+    show(FileDialogMode::Save);
+    enter("team2");
+    EXPECT_EQ(refusal(), "");
+    EXPECT_EQ(taken(), "team2.bsm");
+}
+
+TEST_F(ChooserOnScreen, ToSaveRefusesTheNameOfAFolderWithTheEnding) {
+    show(FileDialogMode::Save);
+    enter("taken");
+    EXPECT_EQ(refusal(), "There is a folder of this name: taken.bsm");
+    EXPECT_EQ(shown(), ".");
+    EXPECT_EQ(typed(), "taken");
+}
+
+TEST_F(ChooserOnScreen, ToSaveRefusesAFolderThatTakesNoFiles) {
+    show(FileDialogMode::Save);
+    enter("/proc/self/new");
+    EXPECT_EQ(refusal().substr(0, 39), "You may not save files in this folder: ");
+    EXPECT_EQ(typed(), "/proc/self/new");
+}
+
+TEST_F(ChooserOnScreen, ToOpenFindsANameWithoutItsEnding) {
+    show(FileDialogMode::Open);
+    enter("team2");
+    EXPECT_EQ(taken(), "team2.bsm");
+}
+
+TEST_F(ChooserOnScreen, ToOpenRefusesAFileThatIsMissing) {
+    show(FileDialogMode::Open);
+    enter("gone");
+    EXPECT_EQ(refusal(), "This file does not exist: gone");
+    EXPECT_EQ(shown(), ".");
+    EXPECT_EQ(typed(), "gone");
 }
 
 }  // namespace orvanta::test

@@ -15,12 +15,14 @@ namespace {
 
 using namespace orvanta::desktop;
 
+void pasteInto(TextBoxView& view, const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+    QTest::keyClick(&view, Qt::Key_V, Qt::ControlModifier);
+}
+
 class TextBoxViewTest : public testing::Test {
 protected:
-    void paste(const QString& text) {
-        QGuiApplication::clipboard()->setText(text);
-        QTest::keyClick(&view, Qt::Key_V, Qt::ControlModifier);
-    }
+    void paste(const QString& text) { pasteInto(view, text); }
 
     ControlSet controls;
     TextBox model{controls, "txtAny", 10};
@@ -30,6 +32,18 @@ protected:
                          typed += character;
                          return character != refused;
                      }};
+};
+
+class PathBoxView : public testing::Test {
+protected:
+    PathBoxView() { model.setText(toPath(greek)); }
+
+    void paste(const QString& text) { pasteInto(view, text); }
+
+    const QString greek = QStringLiteral("/\u03B1\u03B2/\u03B3.aze");
+    ControlSet controls;
+    TextBox model{controls, "txtAny"};
+    TextBoxView view{model, [](char) { return true; }, TextBoxView::Content::Path};
 };
 
 }  // namespace
@@ -89,6 +103,28 @@ TEST_F(TextBoxViewTest, ReportsEnterAsAReturnCharacter) {
     QTest::keyClick(&view, Qt::Key_Return);
     EXPECT_EQ(typed, "\r");
     EXPECT_EQ(model.text(), "");
+}
+
+TEST_F(PathBoxView, ShowsANameOfTheSystemAndKeepsItsPathWhileNobodyChangesIt) {
+    EXPECT_EQ(view.text(), greek);
+    EXPECT_EQ(model.text(), toPath(greek));
+    QTest::keyClick(&view, Qt::Key_End);
+    EXPECT_EQ(model.text(), toPath(greek));
+}
+
+TEST_F(PathBoxView, HoldsWhatWasChangedInANameOfTheSystem) {
+    QTest::keyClick(&view, Qt::Key_End);
+    QTest::keyClicks(&view, "2");
+    EXPECT_EQ(model.text(), toPath(greek + u'2'));
+    paste(QStringLiteral("\u65E5\u672C"));
+    EXPECT_EQ(view.text(), greek + QStringLiteral("2\u65E5\u672C"));
+    EXPECT_EQ(model.text(), toPath(view.text()));
+}
+
+TEST_F(PathBoxView, HoldsWhatTheCodePageHoldsAsAnyTextBoxDoes) {
+    view.selectAll();
+    paste(QStringLiteral("/a\nb"));
+    EXPECT_EQ(model.text(), "/a b");
 }
 
 }  // namespace orvanta::test

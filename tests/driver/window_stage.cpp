@@ -253,7 +253,7 @@ public:
 
     std::optional<std::string> answer(const FileDialogRequest& request,
                                       const std::optional<std::string>& path) override {
-        FileChooser chooser(request, owner());
+        FileChooser chooser(request, FileRules::Off, owner());
         chooser.open();
         QApplication::setActiveWindow(&chooser);  // also where no window manager does it
         chooser.nameBox()->setFocus();

@@ -11,7 +11,7 @@
 #include <optional>
 #include <utility>
 
-#include "view/windows1252.h"
+#include "view/path_text.h"
 
 namespace orvanta::sound {
 
@@ -19,7 +19,7 @@ namespace {
 
 /// Empty for what is no file or too large for a movie.
 QByteArray bytesOf(const std::string& path) {
-    const QString name = QString::fromStdString(utf8From1252(path));
+    const QString name = QString::fromStdString(nativeFromPath(path));
     const QFileInfo file(name);
     if (!file.isFile() || file.size() > static_cast<qint64>(maximumMovieSize)) return {};
     QFile movie(name);

@@ -234,7 +234,7 @@ private:
                              .filter = "All Brainstorming Files (*.bsm)|*.bsm",
                              .initialPath = folderOfSessions(),
                              .fileName = {}},
-                            window);
+                            FileRules::Heeded, window);
         takeDialog(chooser, "file-dialog");
     }
 

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "view/platform.h"
+
+namespace orvanta {
+
+// What a person means by a name in a file dialog. The system's dialogs have such rules too, but
+// would also ask about an existing file, which the program does itself, and let a session go into
+// a folder that takes none. All names are UTF-8.
+
+/// Where a dialog stands when a name is given to it.
+struct FileDialogPlace {
+    FileDialogMode mode;
+    std::string filter;  // "description|*.ending"
+    /// The folder that the dialog shows and the person's own one, both whole paths.
+    std::string folder, home;
+};
+
+enum class FileChoiceAct { EnterFolder, TakeFile, Refuse };
+
+struct FileChoice {
+    FileChoiceAct act;
+    /// The folder or the file, or what the refusal is about: whole, without "." and "..".
+    std::string path;
+    std::string_view reason{};  // of a refusal: a sentence that ends in a colon, for the path
+};
+
+/// What becomes of a typed name, as things stand on the disk.
+///
+/// A folder is entered, whatever leads to it: a name, a path, "..", "~" for the person's own
+/// folder. A name to save to gets the filter's ending if it holds no point; a file to open is
+/// looked for with the ending where there is none without. Refused is what could not be saved to
+/// or read.
+FileChoice choiceOf(const FileDialogPlace& place, const std::string& typed);
+
+}  // namespace orvanta
