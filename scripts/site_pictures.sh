@@ -30,3 +30,6 @@ cp -- build/screens/light-2x/*-question-strengths.png "$pictures/brainstorm.png"
 cp -- build/screens/light-2x/*-analyze-opportunities.png "$pictures/ranking.png"
 cp -- build/screens/light-2x/*-mapping-opportunities.png "$pictures/mapping.png"
 take_report
+# A test holds them against the texts of now.
+{ cat data/analyzequestions.txt; grep -m 1 '?' data/mpquestions.txt; } |
+    tr -d '\r' >tests/site/pictured_texts.txt

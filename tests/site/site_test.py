@@ -389,6 +389,14 @@ class Pictures(unittest.TestCase):
         self.assertEqual((SITE / "pictures" / "mark.svg").read_bytes(),
                          (PROJECT / "art" / "logo.svg").read_bytes())
 
+    def test_show_the_texts_of_now(self):
+        analyze, marketing = ((PROJECT / "data" / name).read_text("cp1252")
+                              for name in ("analyzequestions.txt", "mpquestions.txt"))
+        asked = next(line for line in marketing.splitlines() if "?" in line)
+        self.assertEqual((PROJECT / "tests/site/pictured_texts.txt").read_text("cp1252"),
+                         f"{analyze}{asked}\n",
+                         "take the pictures anew with scripts/site_pictures.sh")
+
     def test_stay_small_enough_to_be_carried_with_the_program(self):
         size = sum(path.stat().st_size for path in SITE.rglob("*") if path.is_file())
         self.assertLess(size, 1_500_000)
