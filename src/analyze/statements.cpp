@@ -96,14 +96,18 @@ void removeParent(Program& program, StatementKind kind) {
         StatementList& mappings = mappingList(form, *sideOfParents(kind));
         const Row* row = list.selectedRow();
         if (!row) return;
-        const int mappingPosition = mappings.positionOf(row->key);
-        if (mappingPosition) {
+        std::vector<int> removed;
+        for (int position = 1; position <= mappings.count();) {
+            if (mappings.row(position).key != row->key) {
+                ++position;
+                continue;
+            }
             if (hasMappedRows(mappings, row->key)) return refuseMappedRows(program);
-            mappings.remove(mappingPosition);
+            mappings.remove(position);
+            removed.push_back(position);
         }
         const std::int16_t position = recordedPosition(list.selected());
-        recordRemoved(program, Session::Analyze, kind, {position, row->key, row->text},
-                      mappingPosition);
+        recordRemoved(program, Session::Analyze, kind, {position, row->key, row->text}, removed);
         list.remove(position);
         form.editAFlag = true;
     });

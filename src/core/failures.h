@@ -4,11 +4,13 @@
 #include <limits>
 
 #include "view/platform.h"
+#include "view/within_memory.h"
 
 namespace orvanta {
 
 // The three ways of dealing with a failure. A routine that holds neither of the first two
-// passes a failure on to its caller.
+// passes a failure on to its caller. Too little memory is a failure like any other: the session in
+// it must not end with the work that asked for more.
 
 /// Shows the message of a failure, as "[53] File not found".
 void reportFailure(MessageBoxes& messages, const Failure& failure);
@@ -17,7 +19,7 @@ void reportFailure(MessageBoxes& messages, const Failure& failure);
 template <class Steps>
 void reportingFailures(MessageBoxes& messages, Steps steps) {
     try {
-        steps();
+        withinMemory(steps);
     } catch (const Failure& failure) {
         reportFailure(messages, failure);
     }
@@ -28,7 +30,7 @@ void reportingFailures(MessageBoxes& messages, Steps steps) {
 template <class Steps>
 void endingEventOnFailure(Lifetime& lifetime, Steps steps) {
     try {
-        steps();
+        withinMemory(steps);
     } catch (const Failure& failure) {
         lifetime.reportUnhandled(failure);
     }
@@ -41,7 +43,7 @@ public:
     template <class Step>
     bool operator()(Step step) const {
         try {
-            step();
+            withinMemory(step);
             return true;
         } catch (const Failure&) {
             return false;

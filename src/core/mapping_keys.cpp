@@ -35,7 +35,8 @@ void setTextOfMappedRows(StatementList& mappingList, std::string_view childKey,
 }
 
 void setTextOfKey(StatementList& list, std::string_view key, const std::string& text) {
-    if (const int position = list.positionOf(key)) list.setText(position, text);
+    for (int position = 1; position <= list.count(); ++position)
+        if (list.row(position).key == key) list.setText(position, text);
 }
 
 }  // namespace orvanta

@@ -31,7 +31,7 @@ bool hasMappedRows(const StatementList& mappingList, std::string_view parentKey)
 void setTextOfMappedRows(StatementList& mappingList, std::string_view childKey,
                          const std::string& text);
 
-/// Gives a text to the row with exactly this key, if there is one.
+/// Gives a text to each row with exactly this key, which may be none.
 void setTextOfKey(StatementList& list, std::string_view key, const std::string& text);
 
 }  // namespace orvanta

@@ -13,7 +13,7 @@ LabelView::LabelView(Label& model, const PixelGrid& pixelGrid, QWidget* parent)
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setWordWrap(true);
     const auto showModel = [this] {
-        setText(shownCaption(m_model.caption()));
+        setText(fromCp1252(m_model.caption()));  // a question may hold "&&"
         fit();
     };
     model.changed.subscribe(showModel);

@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
+#include <algorithm>
 #include <cstdlib>
 #include <functional>
 #include <optional>
@@ -67,7 +68,9 @@ void bringToFront(QWidget& window) {
 
 int main(int argc, char** argv) {
     using namespace orvanta;
-    QApplication application(argc, argv);
+    int programNameAlone =
+        std::min(argc, 1);  // the program takes no argument, the toolkit's included
+    QApplication application(programNameAlone, argv);
     QCoreApplication::setOrganizationName(fromCp1252(appTitle));
     QCoreApplication::setApplicationName(fromCp1252(appTitle));
     QGuiApplication::setDesktopFileName(QStringLiteral("orvanta"));

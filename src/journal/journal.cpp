@@ -29,9 +29,10 @@ void recordAdded(Program& program, Session session, StatementKind kind, const Ch
 }
 
 void recordRemoved(Program& program, Session session, StatementKind kind, const ChangedRow& row,
-                   int mappingPosition) {
-    const std::string extra =
-        mappingPosition ? extraOf({.key = row.key, .position = mappingPosition}) : std::string();
+                   const std::vector<int>& mappingPositions) {
+    std::string extra;
+    for (const int position : mappingPositions)
+        extra += extraOf({.key = row.key, .position = position});
     pushUserChange(program, tagOf(Operation::Add, endingOf(session, kind)),
                    {row.position, row.key, trimBlanks(row.text)}, extra);
 }

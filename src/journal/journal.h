@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 #include "core/mapping_side.h"
 #include "core/session.h"
@@ -26,10 +27,10 @@ std::int16_t recordedPosition(int position);
 // record.
 
 void recordAdded(Program& program, Session session, StatementKind kind, const ChangedRow& row);
-/// `mappingPosition`: where the row of the same key stood that went from a mapping list with it,
-/// from 1; 0 if none did.
+/// `mappingPositions`: where the rows of the same key stood that went from a mapping list with it,
+/// from 1, each when its turn came. Any number of rows may have no key, any other key is one row's.
 void recordRemoved(Program& program, Session session, StatementKind kind, const ChangedRow& row,
-                   int mappingPosition = 0);
+                   const std::vector<int>& mappingPositions = {});
 /// The row's text is the one before the edit.
 void recordEdited(Program& program, Session session, StatementKind kind, const ChangedRow& row);
 /// A row was taken out of a mapping list; its position is there.

@@ -4,6 +4,7 @@
 #include "core/files.h"
 #include "core/messages.h"
 #include "reports/report_source.h"
+#include "view/within_memory.h"
 
 namespace orvanta {
 
@@ -103,7 +104,7 @@ void generateHtmlReport(Program& program, const std::string& analyzeFile) {
         program.scratchPath + pathSeparator + "System" + pathSeparator + "report.htm";
     Page page;
     try {
-        writeAnalysis(page, disk.read(analyzeFile));
+        withinMemory([&] { writeAnalysis(page, disk.read(analyzeFile)); });
     } catch (const Failure&) {
         // A page that breaks off can't be taken for the former one, which is of another analysis.
         disk.replaceOwn(path, page.bytes());

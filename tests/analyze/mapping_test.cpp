@@ -352,5 +352,22 @@ TEST_P(Unmapping, WithNothingSelectedDoesNothing) {
     EXPECT_FALSE(bench.form().editAFlag);
 }
 
+TEST_P(Unmapping, BeyondTheRowsThatARecordCanNumberTakesNothingOut) {
+    StatementList& list = bench.list(side.list);
+    while (list.count() < 32766) list.add({.key = "", .text = "many", .image = 3, .largeImage = 3});
+    list.add({.key = key(3, "S1"), .text = "last", .image = 1, .largeImage = 1});
+    list.add({.key = key(3, "S2"), .text = "beyond", .image = 1, .largeImage = 1});
+    unmap(32768);
+    const Json unhandled{{"event", "unhandledError"}, {"number", 6}, {"description", "Overflow"}};
+    EXPECT_EQ(bench.events(), Json::array({unhandled}));
+    EXPECT_EQ(list.count(), 32768);
+    EXPECT_EQ(bench.undoRecords(), Texts{});
+    EXPECT_EQ(bench.redoRecords(), Texts{"a record"});
+    EXPECT_FALSE(bench.form().editAFlag);
+    unmap(32767);
+    EXPECT_EQ(list.count(), 32767);
+    EXPECT_EQ(bench.undoRecords(), Texts{record(tag(), 32767, key(3, "S1"), "last", "S")});
+}
+
 }  // namespace
 }  // namespace orvanta::test

@@ -221,15 +221,33 @@ TEST_P(ReviewedStatement, AddedBehindTheLastPossibleKeyFailsWithTheSessionMarked
 class ReviewedStatementBeyondAllRecords : public ReviewedStatement {
 protected:
     ReviewedStatementBeyondAllRecords() {
-        constexpr int rows = std::numeric_limits<std::int16_t>::max() + 1;
-        for (int i = 4; i <= rows; ++i) {
+        lists.insert(lists.begin(), kind.list);
+        for (int i = 4; i <= largestRecorded + 1; ++i) {
             const Row row{.key = kind.key(i), .text = "many", .image = 1, .largeImage = 1};
-            bench.list(kind.list).add(row);
-            for (const std::string& copy : kind.companions) bench.list(copy).add(row);
+            for (const std::string& list : lists) bench.list(list).add(row);
         }
-        bench.select(kind.list, rows);
+        keyCount() = largestRecorded + 1;
+        bench.select(kind.list, largestRecorded + 1);
         bench.events();
     }
+    void shortenTo(int rows) {
+        for (const std::string& list : lists)
+            while (bench.list(list).count() > rows) bench.list(list).remove(rows + 1);
+    }
+    std::vector<int> counts() {
+        std::vector<int> counts;
+        for (const std::string& list : lists) counts.push_back(bench.list(list).count());
+        return counts;
+    }
+    /// Of adding and of editing, which report no error of their own for an opportunity.
+    Json overflow() const {
+        const Json unhandled{
+            {"event", "unhandledError"}, {"number", 6}, {"description", "Overflow"}};
+        return kind.letter == "O" ? unhandled : refusal("[6] Overflow");
+    }
+
+    static constexpr int largestRecorded = std::numeric_limits<std::int16_t>::max();
+    Texts lists = kind.companions;  // and the main one, ahead of them
 };
 INSTANTIATE_TEST_SUITE_P(Of, ReviewedStatementBeyondAllRecords, testing::ValuesIn(reviewedKinds()),
                          NameOfParameter());
@@ -242,15 +260,27 @@ TEST_P(ReviewedStatementBeyondAllRecords, IsNotRemoved) {
     EXPECT_EQ(bench.undoRecords(), Texts{});
 }
 
-// Editing an opportunity reports no error of its own, like adding one.
-TEST_P(ReviewedStatementBeyondAllRecords, IsEditedWithoutARecord) {
+TEST_P(ReviewedStatementBeyondAllRecords, IsNeitherShownForEditingNorChanged) {
     bench.answerEdit("New");
     bench.click(kind.buttons + "Edit");
-    const Json seen = bench.events();
-    const Json unhandled{{"event", "unhandledError"}, {"number", 6}, {"description", "Overflow"}};
-    EXPECT_EQ(seen.back(), kind.letter == "O" ? unhandled : refusal("[6] Overflow"));
+    EXPECT_EQ(withoutArt(bench.events()), Json::array({overflow()}));
     EXPECT_EQ(bench.undoRecords(), Texts{});
-    EXPECT_EQ(bench.row(kind.companions.front(), bench.list(kind.list).count()).text, "many");
+    for (const std::string& list : lists) EXPECT_EQ(bench.texts(list).back(), "many") << list;
+}
+
+TEST_P(ReviewedStatementBeyondAllRecords, IsAddedToNoListBehindTheLastOneThatCanBe) {
+    shortenTo(largestRecorded - 1);
+    add("Last");
+    const Texts records{
+        record(kind.tag("DEL"), largestRecorded, kind.key(largestRecorded + 2), "Last")};
+    EXPECT_EQ(bench.undoRecords(), records);
+    const std::vector<int> before = counts();
+    bench.events();
+    add("Late");
+    EXPECT_EQ(withoutArt(bench.events()), Json::array({overflow()}));
+    EXPECT_EQ(counts(), before);
+    EXPECT_EQ(bench.undoRecords(), records);
+    EXPECT_EQ(bench.box(kind.box).text(), "Late");
 }
 
 }  // namespace

@@ -31,8 +31,13 @@ TEST_F(RecordedChange, OfARemovedRowTellsToAddItWithoutBlanksAtItsEnds) {
 }
 
 TEST_F(RecordedChange, OfARemovedParentTellsWhereItStoodInTheMappingList) {
-    recordRemoved(program, Session::Analyze, StatementKind::Opportunity, {1, "O4", "Market"}, 6);
+    recordRemoved(program, Session::Analyze, StatementKind::Opportunity, {1, "O4", "Market"}, {6});
     expectRecord("ADD_A_O<<!~!>>1<<!~!>>O4<<!~!>>Market<<!~!>>O4|6,");
+}
+
+TEST_F(RecordedChange, OfARemovedParentWithoutAKeyTellsOfEachRowThatWentFromTheMappingList) {
+    recordRemoved(program, Session::Analyze, StatementKind::Threat, {1, "", "Rival"}, {2, 4});
+    expectRecord("ADD_A_T<<!~!>>1<<!~!>><<!~!>>Rival<<!~!>>|2,|4,");
 }
 
 TEST_F(RecordedChange, OfAnEditedAnswerHoldsTheFormerTextAsItStoodAndNoKey) {
@@ -165,7 +170,7 @@ TEST_F(Journal, IsEmptyAfterARecovery) {
     EXPECT_TRUE(bench.form().cmdRedo.isVisible());
 }
 
-TEST_F(Journal, OfAListWithMoreRowsThanARecordCanNumberTakesNoRecord) {
+TEST_F(Journal, OfAListWithAsManyRowsAsARecordCanNumberTakesNoRecordAndTheListNoRow) {
     for (int i = 0; i < 32767; ++i)
         bench.list("lvBStrength").add({.key = "", .text = "many", .image = 1, .largeImage = 1});
     bench.set("txtStrength", "one too many");
@@ -174,6 +179,7 @@ TEST_F(Journal, OfAListWithMoreRowsThanARecordCanNumberTakesNoRecord) {
     EXPECT_EQ(bench.events().back(),
               (Json{{"event", "unhandledError"}, {"number", 6}, {"description", "Overflow"}}));
     EXPECT_EQ(bench.undoRecords(), Texts{});
+    EXPECT_EQ(bench.list("lvBStrength").count(), 32767);
 }
 
 }  // namespace
