@@ -13,7 +13,7 @@ declare -A packages=(
             libreoffice-writer-nogui poppler-utils abiword pandoc unrtf fonts-liberation
             $sound $voice pulseaudio pulseaudio-utils
             python3 python3-gi gir1.2-atspi-2.0 at-spi2-core
-            chromium php-cli tidy abiword"
+            chromium php-cli tidy"
     [tour]="g++ cmake ninja-build qt6-base-dev libqt6svg6 fonts-dejavu-core nlohmann-json3-dev
             libgtest-dev libbenchmark-dev xvfb xauth openbox dbus chromium"
     [check]="clang-format clang-tidy git shellcheck python3 g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev
