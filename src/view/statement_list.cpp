@@ -52,6 +52,12 @@ void StatementList::refuseTakenKey(std::string_view key) const {
     if (!key.empty() && m_byKey.contains(key)) throw Failure(ErrorNumber::KeyNotUnique);
 }
 
+/// For one more row and its key.
+void StatementList::makeRoom() {
+    if (m_rows.size() == m_rows.capacity()) m_rows.reserve(2 * m_rows.size() + 1);
+    if (m_byKey.size() + 1 >= m_byKey.bucket_count()) m_byKey.reserve(2 * (m_byKey.size() + 1));
+}
+
 void StatementList::watch(StatementListObserver& observer) {
     assert(!isTelling() && "an observer is added by one that is being told");
     m_observers.push_back(&observer);
@@ -68,9 +74,13 @@ void StatementList::tell(void (StatementListObserver::*event)(Positions...),
 void StatementList::insert(int position, Row row) {
     if (position < 1 || position > count() + 1) throw Failure(ErrorNumber::IndexOutOfBounds);
     refuseTakenKey(row.key);
-    tell(&StatementListObserver::rowAboutToBeInserted, position);
+    // All memory is asked for before the list changes, and before anybody is told that it will.
     auto entry = std::make_unique<Entry>(Entry{std::move(row), rankFor(position)});
-    if (!entry->row.key.empty()) m_byKey.emplace(entry->row.key, entry.get());
+    KeyIndex key;
+    if (!entry->row.key.empty()) key.emplace(entry->row.key, entry.get());
+    makeRoom();
+    tell(&StatementListObserver::rowAboutToBeInserted, position);
+    m_byKey.merge(key);
     m_rows.insert(m_rows.begin() + (position - 1), std::move(entry));
     tell(&StatementListObserver::rowInserted, position);
 }

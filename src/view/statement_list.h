@@ -102,14 +102,17 @@ private:
     int positionOf(const Entry& entry) const;
     std::uint64_t rankFor(int position);
     void refuseTakenKey(std::string_view key) const;
+    void makeRoom();
     template <class Change>
     void changeRow(int position, Change change);
     template <class... Positions>
     void tell(void (StatementListObserver::*event)(Positions...), Positions... positions);
     bool isTelling() const { return m_tellingDepth > 0; }
 
+    using KeyIndex = std::unordered_map<std::string_view, Entry*>;  // views the entries' own keys
+
     std::vector<std::unique_ptr<Entry>> m_rows;
-    std::unordered_map<std::string_view, Entry*> m_byKey;  // views into the entries' own keys
+    KeyIndex m_byKey;
     Entry* m_selected = nullptr;
     AfterRemoval m_afterRemoval;
     std::vector<StatementListObserver*> m_observers;

@@ -8,13 +8,16 @@
 
 namespace {
 
+constexpr std::size_t unlimited = std::numeric_limits<std::size_t>::max();
+
 std::size_t held = 0;
-std::size_t most = std::numeric_limits<std::size_t>::max();
+std::size_t most = unlimited, largest = unlimited;
 
 }  // namespace
 
 void* operator new(std::size_t size) {
-    void* const memory = size > most - held ? nullptr : std::malloc(size);
+    const bool refused = size > largest || size > most - held;
+    void* const memory = refused ? nullptr : std::malloc(size);
     if (!memory) throw std::bad_alloc();
     held += ::malloc_usable_size(memory);
     return memory;
@@ -31,6 +34,10 @@ namespace orvanta::test {
 
 MemoryLimit::MemoryLimit(std::size_t more) { most = held + more; }
 
-MemoryLimit::~MemoryLimit() { most = std::numeric_limits<std::size_t>::max(); }
+MemoryLimit::~MemoryLimit() { most = unlimited; }
+
+RequestLimit::RequestLimit(std::size_t largest) { ::largest = largest; }
+
+RequestLimit::~RequestLimit() { largest = unlimited; }
 
 }  // namespace orvanta::test

@@ -14,4 +14,14 @@ public:
     MemoryLimit& operator=(const MemoryLimit&) = delete;
 };
 
+/// While it lives a request for more bytes than this at once fails, smaller ones go through: memory
+/// that is in pieces, of which there is enough to tell what happened.
+class RequestLimit {
+public:
+    explicit RequestLimit(std::size_t largest);
+    ~RequestLimit();
+    RequestLimit(const RequestLimit&) = delete;
+    RequestLimit& operator=(const RequestLimit&) = delete;
+};
+
 }  // namespace orvanta::test
