@@ -15,18 +15,10 @@ namespace orvanta {
 
 namespace {
 
+/// Copies are to have keys that count up from 1, and so have the rows that were just read.
 void copyRows(FrmMain& form, StatementKind kind) {
     const StatementList& source = listOf(form, Session::Analyze, kind);
-    const int image = imageOf(kind);
-    for (int position = 1; position <= source.count(); ++position) {
-        const Row& row = source.row(position);
-        const Row copy{.key = letterOf(kind) + std::to_string(position),
-                       .text = row.text,
-                       .image = image,
-                       .largeImage = image,
-                       .subItem = row.subItem};
-        forEachCompanion(form, kind, [&](StatementList& list) { list.add(copy); });
-    }
+    forEachCompanion(form, kind, [&](StatementList& list) { list.addAll(source); });
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ int StatementList::positionOf(const Entry& entry) const {
 
 int StatementList::positionOf(std::string_view key) const {
     const auto found = m_byKey.find(key);
-    return found == m_byKey.end() ? 0 : positionOf(*found->second);
+    return found == m_byKey.end() ? 0 : positionOf(**found);
 }
 
 /// A rank between those of the neighbours of a place where a row is about to go in.
@@ -55,7 +55,11 @@ void StatementList::refuseTakenKey(std::string_view key) const {
 /// For one more row and its key.
 void StatementList::makeRoom() {
     if (m_rows.size() == m_rows.capacity()) m_rows.reserve(2 * m_rows.size() + 1);
-    if (m_byKey.size() + 1 >= m_byKey.bucket_count()) m_byKey.reserve(2 * (m_byKey.size() + 1));
+    if (m_byKey.size() >= m_byKey.max_load()) m_byKey.reserve(2 * (m_byKey.size() + 1));
+}
+
+void StatementList::forgetKey(Entry& entry) {
+    if (!entry.row->key.empty()) m_byKey.erase(&entry);
 }
 
 void StatementList::watch(StatementListObserver& observer) {
@@ -71,25 +75,35 @@ void StatementList::tell(void (StatementListObserver::*event)(Positions...),
     for (auto* observer : m_observers) (observer->*event)(positions...);
 }
 
-void StatementList::insert(int position, Row row) {
+Row& StatementList::Entry::own() {
+    if (row.use_count() > 1) row = std::make_shared<Row>(*row);
+    return *row;
+}
+
+void StatementList::insertEntry(int position, std::shared_ptr<Row> row) {
     if (position < 1 || position > count() + 1) throw Failure(ErrorNumber::IndexOutOfBounds);
-    refuseTakenKey(row.key);
+    refuseTakenKey(row->key);
     // All memory is asked for before the list changes, and before anybody is told that it will.
     auto entry = std::make_unique<Entry>(Entry{std::move(row), rankFor(position)});
-    KeyIndex key;
-    if (!entry->row.key.empty()) key.emplace(entry->row.key, entry.get());
     makeRoom();
     tell(&StatementListObserver::rowAboutToBeInserted, position);
-    m_byKey.merge(key);
+    if (!entry->row->key.empty()) m_byKey.insert(entry.get());
     m_rows.insert(m_rows.begin() + (position - 1), std::move(entry));
     tell(&StatementListObserver::rowInserted, position);
+}
+
+void StatementList::addAll(const StatementList& other) {
+    assert(&other != this);
+    m_rows.reserve(m_rows.size() + other.m_rows.size());
+    m_byKey.reserve(m_byKey.size() + other.m_byKey.size());
+    for (const auto& entry : other.m_rows) insertEntry(count() + 1, entry->row);
 }
 
 void StatementList::remove(int position) {
     Entry& gone = entry(position);
     tell(&StatementListObserver::rowAboutToBeRemoved, position);
     const bool wasSelected = &gone == m_selected;
-    m_byKey.erase(gone.row.key);
+    forgetKey(gone);
     m_rows.erase(m_rows.begin() + (position - 1));
     if (wasSelected) {
         const int next = std::min(position, count());
@@ -111,17 +125,18 @@ void StatementList::clear() {
 
 template <class Change>
 void StatementList::changeRow(int position, Change change) {
-    change(entry(position).row);
+    change(entry(position).own());
     tell(&StatementListObserver::rowChanged, position);
 }
 
 void StatementList::setKey(int position, std::string key) {
     Entry& changed = entry(position);
-    if (changed.row.key == key) return;
+    if (changed.row->key == key) return;
     refuseTakenKey(key);
-    m_byKey.erase(changed.row.key);
-    changed.row.key = std::move(key);
-    if (!changed.row.key.empty()) m_byKey.emplace(changed.row.key, &changed);
+    Row& row = changed.own();  // first, since it may find no memory
+    forgetKey(changed);
+    row.key = std::move(key);
+    if (!changed.row->key.empty()) m_byKey.insert(&changed);
     tell(&StatementListObserver::rowChanged, position);
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <boost/unordered/unordered_flat_set.hpp>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "view/control.h"
@@ -13,7 +15,7 @@
 namespace orvanta {
 
 struct Colour {
-    int red, green, blue;  // 0 to 255
+    std::uint8_t red, green, blue;
 
     friend bool operator==(const Colour&, const Colour&) = default;
 };
@@ -51,7 +53,8 @@ enum class AfterRemoval { SelectNeighbour, SelectNone };
 /// session's data. Positions count from 1.
 ///
 /// Rows stay where they are in memory, so that the key index can point at them. Each carries a
-/// rank that grows along the list; a position is found from a row by bisecting on the ranks.
+/// rank that grows along the list; a position is found from a row by bisecting on the ranks. What
+/// a row says can be held in common with rows of other lists, until one of them is changed.
 class StatementList : public Control {
 public:
     StatementList(ControlSet& owner, std::string name,
@@ -60,17 +63,23 @@ public:
     int count() const { return static_cast<int>(m_rows.size()); }
 
     /// Fails with IndexOutOfBounds.
-    const Row& row(int position) const { return entry(position).row; }
+    const Row& row(int position) const { return *entry(position).row; }
 
     /// Position of the row with this key, from 1; 0 if the list has none.
     int positionOf(std::string_view key) const;
 
     /// Fails with KeyNotUnique if the list holds the key already. The selection stays.
     void add(Row row) { insert(count() + 1, std::move(row)); }
+    /// Adds all rows of another list. What they say takes no second place in memory until it is
+    /// changed here or there. Fails with KeyNotUnique at the first key that this list holds
+    /// already; the rows ahead of that one are in.
+    void addAll(const StatementList& other);
 
     /// Adds a row at a position from 1 to count() + 1. Fails with IndexOutOfBounds or
     /// KeyNotUnique, the list unchanged.
-    void insert(int position, Row row);
+    void insert(int position, Row row) {
+        insertEntry(position, std::make_shared<Row>(std::move(row)));
+    }
 
     /// Fails with IndexOutOfBounds.
     void remove(int position);
@@ -86,7 +95,7 @@ public:
     int selected() const { return m_selected ? positionOf(*m_selected) : 0; }
     bool hasSelection() const override { return m_selected; }
     /// The selected row; null for none.
-    const Row* selectedRow() const { return m_selected ? &m_selected->row : nullptr; }
+    const Row* selectedRow() const { return m_selected ? m_selected->row.get() : nullptr; }
     /// 0 selects none. Fails with IndexOutOfBounds.
     void select(int position);
 
@@ -94,25 +103,44 @@ public:
 
 private:
     struct Entry {
-        Row row;
+        std::shared_ptr<Row> row;
         std::uint64_t rank;
+
+        /// The row, to be changed here alone.
+        Row& own();
+    };
+    /// The index takes an entry for the key of its row.
+    struct KeyHash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view key) const {
+            return std::hash<std::string_view>()(key);
+        }
+        std::size_t operator()(const Entry* entry) const { return (*this)(entry->row->key); }
+    };
+    struct SameKey {
+        using is_transparent = void;
+        static std::string_view keyOf(std::string_view key) { return key; }
+        static std::string_view keyOf(const Entry* entry) { return entry->row->key; }
+        bool operator()(const auto& one, const auto& other) const {
+            return keyOf(one) == keyOf(other);
+        }
     };
 
     Entry& entry(int position) const;
+    void insertEntry(int position, std::shared_ptr<Row> row);
     int positionOf(const Entry& entry) const;
     std::uint64_t rankFor(int position);
     void refuseTakenKey(std::string_view key) const;
     void makeRoom();
+    void forgetKey(Entry& entry);
     template <class Change>
     void changeRow(int position, Change change);
     template <class... Positions>
     void tell(void (StatementListObserver::*event)(Positions...), Positions... positions);
     bool isTelling() const { return m_tellingDepth > 0; }
 
-    using KeyIndex = std::unordered_map<std::string_view, Entry*>;  // views the entries' own keys
-
     std::vector<std::unique_ptr<Entry>> m_rows;
-    KeyIndex m_byKey;
+    boost::unordered_flat_set<Entry*, KeyHash, SameKey> m_byKey;  // those that have a key
     Entry* m_selected = nullptr;
     AfterRemoval m_afterRemoval;
     std::vector<StatementListObserver*> m_observers;

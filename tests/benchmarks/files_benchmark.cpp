@@ -3,6 +3,7 @@
 #include "analyses.h"
 #include "analyze/source_files.h"
 #include "bench.h"
+#include "core/text.h"
 #include "sessionfiles/analyze_file.h"
 #include "sessionfiles/merging.h"
 
@@ -37,6 +38,39 @@ void consolidateFilesOf100Statements(benchmark::State& state) {
     if (team.form().lvAStrength.count() != 25 * state.range(0)) state.SkipWithError("rows missing");
 }
 BENCHMARK(consolidateFilesOf100Statements)->Arg(500)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+/// A brainstorm file of so many strengths of one letter each.
+std::string shortStatements(int count) {
+    return test::brainstormFile("member", "MP", test::Texts(static_cast<std::size_t>(count), "x"),
+                                {}, {}, {});
+}
+
+void consolidateShortStatements(benchmark::State& state) {
+    test::Bench bench;
+    bench.start();
+    bench.disk.files["docs/member.bsm"] = shortStatements(static_cast<int>(state.range(0)));
+    bench.form().lstFiles.add("docs/member.bsm");
+    for (auto _ : state) {
+        consolidateSourceFiles(bench.program());
+        state.PauseTiming();
+        clearAnalye(bench.program());
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(consolidateShortStatements)
+    ->Arg(1'000'000)
+    ->Arg(2'000'000)
+    ->Unit(benchmark::kMillisecond);
+
+/// The least that consolidating such a file can take: its lines are found and nothing else.
+void splitShortStatements(benchmark::State& state) {
+    const std::string bytes = shortStatements(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        LineSource lines(bytes);
+        while (auto line = lines.next()) benchmark::DoNotOptimize(line);
+    }
+}
+BENCHMARK(splitShortStatements)->Arg(1'000'000)->Arg(2'000'000)->Unit(benchmark::kMillisecond);
 
 void mergeFilesOf100Statements(benchmark::State& state) {
     Team team(static_cast<int>(state.range(0)));

@@ -45,6 +45,18 @@ TEST(TeamDistributionLink, RefusesWithNoModuleChosen) {
     EXPECT_EQ(bench.events(), Json::array({refusal("Please select any SWOT analysis type.")}));
 }
 
+TEST(TeamDistributionLink, IsNotChangedByTheModuleThatAReceivedFileNames) {
+    Bench bench;
+    bench.start();
+    bench.click("Brainstorm");
+    bench.disk.files["docs/team.bsm"] = lines({"<MODULE>", "GBS&bcc=x@example.com", "</MODULE>"});
+    bench.answerFile("docs/team.bsm");
+    bench.click("BOpen");
+    bench.events();
+    bench.clickControl("lblDistribute");
+    EXPECT_EQ(bench.events(), Json::array({refusal("Please select any SWOT analysis type.")}));
+}
+
 TEST(TeamDistributionLink, BearsItsCaptionAndToolTip) {
     Bench bench;
     bench.start();

@@ -175,6 +175,52 @@ struct Listener : StatementListObserver {
     Texts told;
 };
 
+TEST_F(StatementListOfThree, AddsAllRowsOfAnother) {
+    StatementList other(controls, "other");
+    other.add(rowOf("S0"));
+    other.addAll(list);
+    EXPECT_EQ(rowsOf(other),
+              (ShownRows{{"S0", "of S0"}, {"S1", "of S1"}, {"S2", "of S2"}, {"S3", "of S3"}}));
+    EXPECT_EQ(other.positionOf("S3"), 4);
+    EXPECT_EQ(rowsOf(list), threeRows);
+}
+
+TEST_F(StatementListOfThree, RefusesAllRowsOfAnotherFromTheFirstKeyOnThatItHolds) {
+    StatementList other(controls, "other");
+    other.add(rowOf("S2"));
+    EXPECT_EQ(failureOf([&] { other.addAll(list); }), keyNotUnique);
+    EXPECT_EQ(rowsOf(other), (ShownRows{{"S2", "of S2"}, {"S1", "of S1"}}));
+}
+
+TEST_F(StatementListOfThree, KeepsItsRowsWhenTheListTheyCameFromChanges) {
+    StatementList other(controls, "other");
+    other.addAll(list);
+    list.setText(1, "New");
+    list.setKey(2, "S9");
+    list.setColour(3, {1, 2, 3});
+    list.setIndent(3, 1);
+    EXPECT_EQ(rowsOf(other), threeRows);
+    EXPECT_EQ(other.positionOf("S2"), 2);
+    EXPECT_EQ(other.positionOf("S9"), 0);
+    EXPECT_EQ(list.positionOf("S9"), 2);
+    EXPECT_EQ(list.positionOf("S2"), 0);
+    EXPECT_EQ(other.row(3).colour, std::nullopt);
+    EXPECT_EQ(other.row(3).indent, 0);
+    list.clear();
+    EXPECT_EQ(rowsOf(other), threeRows);
+}
+
+TEST_F(StatementListOfThree, LeavesTheListAloneWhoseRowsItTook) {
+    StatementList other(controls, "other");
+    other.addAll(list);
+    other.setText(1, "New");
+    other.setKey(2, "S9");
+    other.remove(3);
+    EXPECT_EQ(rowsOf(list), threeRows);
+    EXPECT_EQ(list.positionOf("S2"), 2);
+    EXPECT_EQ(rowsOf(other), (ShownRows{{"S1", "New"}, {"S9", "of S2"}}));
+}
+
 TEST_F(StatementListOfThree, TellsItsWatchersWhatHappens) {
     Listener listener;
     list.watch(listener);
