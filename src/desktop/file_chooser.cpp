@@ -1,5 +1,7 @@
 #include "desktop/file_chooser.h"
 
+#include <QAbstractItemView>
+#include <QCompleter>
 #include <QFileSystemModel>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -92,7 +94,11 @@ bool FileChooser::follow(const QString& name) {
 void FileChooser::enter(const QString& folder) {
     const std::string typed = choiceOf(m_place, m_typed.toStdString()).path;
     setDirectory(folder);
-    if (typed == folder.toStdString()) nameBox()->clear();
+    if (typed != folder.toStdString()) return;
+    nameBox()->clear();
+    // What it proposed for the name goes with it, also what it is still looking for.
+    nameBox()->completer()->setCompletionPrefix({});
+    nameBox()->completer()->popup()->hide();
 }
 
 void FileChooser::refuse(const QString& reason) {

@@ -41,8 +41,8 @@ std::string wholePath(const FileDialogPlace& place, const std::string& typed) {
                            : pathFrom(place.folder) / pathFrom(typed));
 }
 
-FileChoice refusal(std::string_view reason, std::string path) {
-    return {FileChoiceAct::Refuse, std::move(path), reason};
+FileChoice refusal(std::string_view reason, const std::string& path) {
+    return {FileChoiceAct::Refuse, path, reason};
 }
 
 FileKind kindOf(const std::string& path) { return native::kindOf(path, native::Links::Follow); }

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QHeaderView>
@@ -139,6 +141,14 @@ TEST_P(EitherChooser, EntersATypedFolder) {
     enter("Team");
     EXPECT_EQ(shown(), "Team");
     EXPECT_EQ(typed(), "");
+}
+
+TEST_P(EitherChooser, ProposesNothingAnyMoreInATypedFolder) {
+    type("Team");
+    QAbstractItemView& proposals = *nameBox().completer()->popup();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return proposals.isVisible(); }));
+    pressEnter();
+    EXPECT_FALSE(proposals.isVisible());
 }
 
 TEST_P(EitherChooser, EntersATypedFolderWithASlash) {
