@@ -33,6 +33,8 @@ public:
     std::string receive();
     /// Closes the driver's input and waits for its end.
     void finish(int expectedExitCode);
+    /// Ends it at once, whatever it does.
+    void kill();
 
 private:
     void readMore();
