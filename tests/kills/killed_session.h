@@ -61,6 +61,8 @@ private:
     std::string playLine(const std::string& line);
     void noteCopies();
     void killAmid(const std::string& line);
+    void killByTime(const std::string& line);
+    void killByCall(const std::string& line);
     std::string findLoss();
     std::string fileThatIsNeither(const Files& found) const;
     std::string startAnew(const Files& found);

@@ -132,9 +132,12 @@ RandomLines::Lines RandomLines::map(FrmMain& form) {
 
 RandomLines::Lines RandomLines::leaveWithASave(FrmMain& form) {
     const bool analyzing = isAnalyzing(form);
+    const std::string quit = click(analyzing ? "AQuit" : "BQuit");
+    // Nothing would ask for the answers then, and what asks next would take them.
+    if (!(analyzing ? form.editAFlag : form.editFlag)) return {quit};
     const std::string number = std::to_string(below(2));
     return {answerMessage("yes"), answerFile("saved" + number + (analyzing ? ".aze" : ".bsm")),
-            answerMessage("yes"), click(analyzing ? "AQuit" : "BQuit")};
+            answerMessage("yes"), quit};
 }
 
 }  // namespace orvanta::kills
