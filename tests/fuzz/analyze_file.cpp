@@ -1,7 +1,7 @@
 // An analyze file of any bytes is read, or ends at a key that stands twice or counts too far. The
-// picking lists hold what the main lists hold, position by position, and a mapping row has the
-// looks that its key tells, whatever was read by then. What is written from it is read to its
-// end, as the same rows and key counters, and is written the same again.
+// picking lists hold what the main lists hold, position by position, a mapping row has the looks
+// that its key tells, and the next key is beyond all that were read. What is written from the
+// lists is read to its end, as the same rows and key counters, and is written the same again.
 
 #include "sessionfiles/analyze_file.h"
 
@@ -56,7 +56,19 @@ void requireLooks(const StatementList& mappingList, StatementKind parentKind) {
     }
 }
 
+/// A statement that is added later must find its key free.
+void requireCounted(FrmMain& form, StatementKind kind) {
+    const StatementList& list = listOf(form, Session::Analyze, kind);
+    for (int position = 1; position <= list.count(); ++position) {
+        const std::string& key = list.row(position).key;
+        const auto number = positionFrom(std::string_view(key).substr(key.empty() ? 0 : 1));
+        if (number)
+            require(keyCount(form, kind) >= *number, "keys are counted from the highest one on");
+    }
+}
+
 void requireSound(FrmMain& form) {
+    for (const StatementKind kind : statementKinds) requireCounted(form, kind);
     for (const StatementKind kind : statementKinds)
         if (isMappable(kind))
             forEachCompanion(form, kind, [&](StatementList& companion) {
