@@ -24,6 +24,6 @@ for preset in "${presets[@]}"; do
     cmake --build --preset "$preset"
     echo "== $preset: test"
     ctest --preset "$preset" --parallel "$(nproc)"
-    # The faults are told in figures; they don't run under the sanitizers.
-    grep -h '^faults: ' "build/$preset/Testing/Temporary/LastTest.log" || true
+    # Faults and kills are told in figures; the faults don't run under the sanitizers.
+    grep -hE '^(faults|kills): ' "build/$preset/Testing/Temporary/LastTest.log" || true
 done

@@ -117,6 +117,11 @@ void DriverProcess::finish(int expectedExitCode) {
         throw Broken("the driver ended " + endOf(status) + "\n" + contentOf(m_errors));
 }
 
+void DriverProcess::kill() {
+    ::kill(m_child, SIGKILL);
+    ::waitpid(std::exchange(m_child, -1), nullptr, 0);
+}
+
 void DriverProcess::endOfAnswers() {
     int status = 0;
     ::waitpid(std::exchange(m_child, -1), &status, 0);

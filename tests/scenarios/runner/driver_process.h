@@ -33,6 +33,9 @@ public:
     std::string receive();
     /// Closes the driver's input and waits for its end.
     void finish(int expectedExitCode);
+    pid_t pid() const { return m_child; }
+    /// Ends it at once, whatever it does.
+    void kill();
 
 private:
     void readMore();
