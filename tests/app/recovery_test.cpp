@@ -203,6 +203,20 @@ TEST_P(AnalyzeRecovery, BringsUndoAndRedoAlongWithTheModule) {
 
 TEST_P(AnalyzeRecovery, KeepsTheCopy) { EXPECT_TRUE(bench.disk.files.contains(analyzeCopy)); }
 
+TEST_F(Recovery, GivesRankedRowsBackInTheirOrder) {
+    AnalysisBench ranked;
+    const ReviewedKind opportunities = parentKinds()[0];
+    ranked.goTo(opportunities);
+    ranked.drag(opportunities.list, 1, opportunities.list, 3);
+    const ShownRows order{{"O2", "Ann O2"}, {"O3", "Bo O1"}, {"O1", "Ann O1"}};
+    ASSERT_EQ(ranked.rows(opportunities.list), order);
+    ranked.form().editAFlag = true;  // ranking alone is no change to save
+    ranked.play({{"do", "tick"}});
+    ranked.restart();
+    EXPECT_EQ(ranked.rows(opportunities.list), order);
+    EXPECT_TRUE(ranked.isShown(opportunities.panel));
+}
+
 TEST_F(Recovery, OfABrokenAnalyzeCopyKeepsTheRowsAheadOfTheBreak) {
     startWith(analyzeCopy,
               lines({"<STRENGTH>", "S1<!-SWOT-!><!-SWOT-!>one", "S1<!-SWOT-!><!-SWOT-!>twice",

@@ -92,6 +92,34 @@ TEST_P(ButtonFace, WritesItsCaptionInBoldAtNineAndThreeQuarterPoints) {
     EXPECT_EQ(button().label.fontSize().value, 9.75);
 }
 
+TEST(ToolTips, OfPrintingIsThatOfOpeningABrainstormFileWordForWord) {
+    Bench bench;
+    const SkinnedButtons& buttons = bench.form().buttons;
+    EXPECT_EQ(buttons[Button::Print].label.toolTip(), buttons[Button::BOpen].label.toolTip());
+    EXPECT_EQ(buttons[Button::Print].label.toolTip(),
+              "Open a file saved from a previous Brainstorm session");
+}
+
+TEST(ToolTips, OfOpeningEndInAPointForAnalyzeFilesAlone) {
+    Bench bench;
+    const SkinnedButtons& buttons = bench.form().buttons;
+    EXPECT_EQ(buttons[Button::BOpen].label.toolTip().back(), 'n');
+    EXPECT_EQ(buttons[Button::OAFile].label.toolTip().back(), '.');
+}
+
+TEST(ToolTips, OfAddingASourceFileTellsOfTheFilesToBrowseFor) {
+    Bench bench;
+    EXPECT_EQ(bench.form().buttons[Button::AFAdd].label.toolTip(),
+              "Browse to open a previously saved Brainstorm file.");
+}
+
+TEST(ToolTips, OfNextAndBackAreNoneAtFirst) {
+    Bench bench;
+    bench.start();
+    for (const Button button : {Button::BNext, Button::ANext, Button::BBack, Button::ABack})
+        EXPECT_EQ(bench.form().buttons[button].label.toolTip(), "") << faceOf(button).baseName;
+}
+
 TEST(SkinnedButtons, AreFortyOneOnTheMainWindow) {
     EXPECT_EQ(faces.size(), 41u);
     EXPECT_EQ(countOf<Button>, 41u);

@@ -54,7 +54,7 @@ class Place:
         self.copy = self.folder / "brainstorm.tmp"
         self.copy.write_text(LEFT_BEHIND, newline="")
 
-    def start(self, name="home", user=None):
+    def start(self, name="home", user=None, arguments=()):
         home = self.root / name
         home.mkdir(mode=0o700, exist_ok=True)
         if user:
@@ -62,7 +62,7 @@ class Place:
         environment = dict(os.environ, HOME=str(home), XDG_CONFIG_HOME=str(home),
                            XDG_DATA_HOME=str(home), XDG_RUNTIME_DIR=str(home),
                            PULSE_SERVER=f"unix:{home}/no-server", QT_QPA_PLATFORM="offscreen")
-        return subprocess.Popen([self.binary], env=environment, user=user, group=user)
+        return subprocess.Popen([self.binary, *arguments], env=environment, user=user, group=user)
 
     def is_locked_by(self, process, folder=None):
         lock = (folder or self.folder) / "orvanta.lock"
@@ -161,9 +161,20 @@ def another_user_has_a_folder_of_their_own(binary, data):
     expect(not (own / "brainstorm.tmp").exists(), "the other user gets no session of the first")
 
 
+def arguments_are_not_read(binary, data):
+    for arguments in (("-platform", "nonsense"), ("--version",), ("nonsense.bsm",)):
+        place = Place(binary, data)
+        process = place.start(arguments=arguments)
+        wait_for(lambda: process.poll() is not None or place.is_locked_by(process),
+                 f"the start with {arguments}")
+        expect(process.poll() is None, f"started with {arguments} it comes up")
+        process.send_signal(signal.SIGTERM)
+        ends_well(process, f"the start with {arguments}")
+
+
 if __name__ == "__main__":
-    for claim in (signals_keep_the_session, a_second_start_leaves_the_first_alone,
-                  another_user_has_a_folder_of_their_own, a_start_removes_old_leftovers,
-                  a_fresh_account_gets_its_folders):
+    for claim in (signals_keep_the_session, arguments_are_not_read,
+                  a_second_start_leaves_the_first_alone, another_user_has_a_folder_of_their_own,
+                  a_start_removes_old_leftovers, a_fresh_account_gets_its_folders):
         claim(*sys.argv[1:3])
     sys.exit(1 if failures else 0)

@@ -150,4 +150,12 @@ TEST(MainWindow, ShowsAQuestionAsItStands) {
     EXPECT_EQ(bench.widget<QLabel>("lblSQuestion").text(), " R&D && more");
 }
 
+TEST(MainWindow, ShowsTwoAmpersandsOfAButtonAsOne) {
+    WindowBench bench;
+    bench.start();
+    bench.form().buttons[Button::Brainstorm].label.setCaption("R && D");
+    EXPECT_EQ(bench.widget<QLabel>("lblBtnBrainstorm").text(), "R & D");
+    EXPECT_EQ(bench.widget("imgBtnBrainstorm").accessibleName(), "R & D");
+}
+
 }  // namespace orvanta::test

@@ -81,6 +81,21 @@ TEST_F(Mirrors, FollowTheCaptionsOfButtonsAndBoxes) {
     }
 }
 
+TEST_F(Mirrors, ShowTwoAmpersandsOfACaptionAsOne) {
+    OptionGroup group;
+    PushButton button(controls, "cmdAny", "R&&D");
+    Option option(controls, "optAny", group, "R&&D");
+    // The toolkit draws two as one; a single one underlines the letter behind it and is its key.
+    for (QAbstractButton* shown :
+         {static_cast<QAbstractButton*>(makePushButton(button, area, [] {})),
+          static_cast<QAbstractButton*>(makeOption(option, area))}) {
+        const QSize size = shown->fontMetrics().size(Qt::TextShowMnemonic, shown->text());
+        EXPECT_EQ(size, shown->fontMetrics().size(Qt::TextSingleLine, QStringLiteral("R&D")));
+        EXPECT_EQ(shown->shortcut(), QKeySequence());
+        EXPECT_EQ(shown->accessibleName(), QStringLiteral("R&D"));
+    }
+}
+
 TEST_F(Mirrors, FollowTheFontsOfAllThatShowsText) {
     OptionGroup group;
     PushButton button(controls, "cmdAny", "Any");

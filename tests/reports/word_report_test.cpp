@@ -289,6 +289,25 @@ TEST(WordReport, BuildsTheFixedPartsAloneForAnEmptyAnalysis) {
     expectSame(operationsFor({}), expected.operations);
 }
 
+TEST(WordReport, ExtendsTheSelectionFromTheFirstTableOnAndUsesItForTheCorrelationAlone) {
+    const Texts done = operationsFor(smallAnalysis());
+    const auto names = [](const char* word) {
+        return
+            [=](const std::string& operation) { return operation.find(word) != std::string::npos; };
+    };
+    std::size_t extensions = 0;
+    for (const std::string& operation : done)
+        if (names("ExtendMode")(operation)) {
+            ++extensions;
+            EXPECT_EQ(operation, "Selection.ExtendMode = true");
+        }
+    EXPECT_EQ(extensions, 2u);
+    const auto lists = std::ranges::find_if(done, names("List Report"));
+    ASSERT_NE(lists, done.end());
+    EXPECT_EQ(std::find_if(lists, done.end(), names("Selection")), done.end());
+    EXPECT_EQ(std::find_if(lists, done.end(), names(".Select()")), done.end());
+}
+
 TEST(WordReport, OpensAGroupForARowThatIsMappedBeforeAnyStatement) {
     const Texts done = operationsFor({.opportunityMap = {{"O9-S1", "Loyal customers"}}});
     Sequence expected;

@@ -141,6 +141,23 @@ TEST_F(AnalyzeFile, ShowsItsStepOnlyWhereThatIsWanted) {
     EXPECT_TRUE(bench.form().fraAnalyzeThreat.isVisible());
 }
 
+TEST_F(AnalyzeFile, WithoutAStepLeavesEveryPanelAsItIsWhereItsStepIsWanted) {
+    bench.openAnalyze();
+    bench.form().fraAThreats.show();
+    const Json before = bench.answerTo({{"do", "state"}})["state"]["panels"];
+    read(fullAnalysis, true);
+    EXPECT_EQ(bench.answerTo({{"do", "state"}})["state"]["panels"], before);
+    EXPECT_EQ(bench.list("lvAStrength").count(), 2);
+}
+
+TEST_F(AnalyzeFile, HoldsTheLabelOfNobodyAsTwoDelimitersInARow) {
+    const Row row{.key = "S1", .text = "Typed", .image = 1, .largeImage = 1};
+    bench.list("lvAStrength").add(row);
+    EXPECT_NE(analyzeBytes(bench.form(), false)
+                  .find("<STRENGTH>\r\nS1<!-SWOT-!><!-SWOT-!>Typed\r\n</STRENGTH>"),
+              std::string::npos);
+}
+
 TEST_F(AnalyzeFile, TrimsTextsAndKeepsKeysAndLabelsAsTheyStand) {
     read({"<OPPORTUNITY>", rowLine(" O1", " [x]: ", "  text  "), "</OPPORTUNITY>"});
     EXPECT_EQ(bench.rows("lvAOpportunity"), (ShownRows{{" O1", "text"}}));
