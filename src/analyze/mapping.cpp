@@ -59,7 +59,7 @@ void removeMappingRow(Program& program, MappingSide side) {
     const Row* row = list.selectedRow();
     if (!row) return;
     const bool isParent = row->key.find('-') == std::string::npos;
-    if (isParent && hasMappedRows(list, row->key)) return refuseMappedRows(program);
+    if (isParent && hasMappedRows(list, row->key)) return refuseWhileRowsAreMapped(program);
     const std::int16_t position = recordedPosition(list.selected());
     recordUnmapped(program, side, {position, row->key, row->text});
     list.remove(position);
@@ -120,7 +120,7 @@ void removeOpportunityMappingRow(Program& program) {
 }
 void removeThreatMappingRow(Program& program) { removeMappingRow(program, MappingSide::Threats); }
 
-void refuseMappedRows(Program& program) {
+void refuseWhileRowsAreMapped(Program& program) {
     refuse(program.platform.messages,
            "You must first remove all strengths and weaknesses associated with this item");
 }

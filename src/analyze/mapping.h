@@ -25,7 +25,7 @@ void removeOpportunityMappingRow(Program& program);
 void removeThreatMappingRow(Program& program);
 
 /// Tells that the rows mapped under an item have to go first.
-void refuseMappedRows(Program& program);
+void refuseWhileRowsAreMapped(Program& program);
 
 /// True for the four lists from which statements are dragged.
 bool isPickingList(const FrmMain& form, const StatementList& list);

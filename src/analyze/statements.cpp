@@ -72,7 +72,7 @@ void removeMappedRows(StatementList& mappingList, std::string_view childKey) {
     }
 }
 
-void removePicked(Program& program, StatementKind kind) {
+void removeMappable(Program& program, StatementKind kind) {
     reportingFailures(program.platform.messages, [&] {
         FrmMain& form = program.frmMain;
         StatementList& list = mainList(program, kind);
@@ -102,7 +102,7 @@ void removeParent(Program& program, StatementKind kind) {
                 ++position;
                 continue;
             }
-            if (hasMappedRows(mappings, row->key)) return refuseMappedRows(program);
+            if (hasMappedRows(mappings, row->key)) return refuseWhileRowsAreMapped(program);
             mappings.remove(position);
             removed.push_back(position);
         }
@@ -130,7 +130,7 @@ void editAnalyzeStatement(Program& program, StatementKind kind) {
 }
 
 void removeAnalyzeStatement(Program& program, StatementKind kind) {
-    (isMappable(kind) ? removePicked : removeParent)(program, kind);
+    (isMappable(kind) ? removeMappable : removeParent)(program, kind);
 }
 
 void addAnalyzeStrength(Program& program) { addAnalyzeStatement(program, Strength); }

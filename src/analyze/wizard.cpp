@@ -26,7 +26,7 @@ Panel& panelOf(FrmMain& form, AnalyzeStep step) { return form.*stepControls[step
 
 /// The first of some steps whose panel is visible; the source files where none is.
 template <class Iterator>
-AnalyzeStep stepOnScreen(const FrmMain& form, Iterator first, Iterator last) {
+AnalyzeStep firstStepShown(const FrmMain& form, Iterator first, Iterator last) {
     const auto shown = std::find_if(first, last, [&](AnalyzeStep step) {
         const auto panel = stepControls[step].panel;
         return panel && (form.*panel).isVisible();
@@ -99,7 +99,7 @@ void goBackFrom(Program& program, AnalyzeStep step) {
 void analyzeNext(Program& program) {
     reportingFailures(program.platform.messages, [&] {
         stopNarration(program);
-        const AnalyzeStep step = stepOnScreen(program.frmMain, allSteps.begin(), allSteps.end());
+        const AnalyzeStep step = firstStepShown(program.frmMain, allSteps.begin(), allSteps.end());
         const bool moved =
             step == AnalyzeStep::SourceFiles ? startReview(program) : goOnFrom(program, step);
         if (moved) program.frmMain.picABack.show();
@@ -110,7 +110,8 @@ void analyzeBack(Program& program) {
     reportingFailures(program.platform.messages, [&] {
         stopNarration(program);
         // With two panels visible Next takes the first one and Back the last.
-        const AnalyzeStep step = stepOnScreen(program.frmMain, allSteps.rbegin(), allSteps.rend());
+        const AnalyzeStep step =
+            firstStepShown(program.frmMain, allSteps.rbegin(), allSteps.rend());
         if (step == AnalyzeStep::SourceFiles) return;
         goBackFrom(program, step);
         clearJournal(program);

@@ -3,7 +3,7 @@
 #include "analyze/source_files.h"
 #include "analyze/statements.h"
 #include "analyze/wizard.h"
-#include "app/opening.h"
+#include "app/session_opening.h"
 #include "app/shutdown.h"
 #include "brainstorm/statements.h"
 #include "brainstorm/wizard.h"

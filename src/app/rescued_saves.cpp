@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "view/native_file.h"
-#include "view/windows1252.h"
+#include "view/path_text.h"
 
 namespace orvanta {
 
@@ -19,7 +19,7 @@ std::string joined(std::string_view file, std::string_view words, std::string_vi
 }  // namespace
 
 void RescuedSaves::sessionNotWritten(const std::string& path, std::string_view bytes) {
-    const std::string name = utf8From1252(path);
+    const std::string name = nativeFromPath(path);
     const std::string_view file = native::withoutFolder(name);
     try {
         const std::string copy = m_store.keep(name, bytes);
@@ -30,7 +30,7 @@ void RescuedSaves::sessionNotWritten(const std::string& path, std::string_view b
 }
 
 void RescuedSaves::documentNotWritten(const std::string& path) {
-    const std::string name = utf8From1252(path);
+    const std::string name = nativeFromPath(path);
     tell(joined(native::withoutFolder(name), "."), joined(name, "."));
 }
 

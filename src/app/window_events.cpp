@@ -5,6 +5,7 @@
 #include "app/button_actions.h"
 #include "app/shutdown.h"
 #include "app/startup.h"
+#include "brainstorm/name_entry.h"
 #include "brainstorm/statements.h"
 #include "core/failures.h"
 #include "core/kind_controls.h"

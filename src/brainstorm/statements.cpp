@@ -64,8 +64,4 @@ void removeBrainstormOpportunity(Program& program) {
 }
 void removeBrainstormThreat(Program& program) { removeBrainstormStatement(program, Threat); }
 
-bool isAllowedInName(char character) {
-    return std::string_view("<|>/\\:*?\"").find(character) == std::string_view::npos;
-}
-
 }  // namespace orvanta

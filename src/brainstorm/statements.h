@@ -21,7 +21,4 @@ void removeBrainstormWeakness(Program& program);
 void removeBrainstormOpportunity(Program& program);
 void removeBrainstormThreat(Program& program);
 
-/// False for the characters that can't be part of a file name; a name does not take them.
-bool isAllowedInName(char character);
-
 }  // namespace orvanta

@@ -34,7 +34,7 @@ inline void inform(MessageBoxes& messages, std::string_view text) {
 }
 
 inline constexpr std::string_view noModuleMessage = "Please select any SWOT analysis type.";
-inline constexpr std::string_view noSourceMessage = "File does not exists.";
+inline constexpr std::string_view missingAnalyzeFileMessage = "File does not exists.";
 
 /// Asks before an existing file is replaced; false for any answer but Yes. `title` is left out
 /// where the box carries the default one.

@@ -25,7 +25,7 @@ std::string mappedLetterOf(std::string_view key) {
 std::int16_t recordedPosition(int position) { return narrowed<std::int16_t>(position); }
 
 void recordAdded(Program& program, Session session, StatementKind kind, const ChangedRow& row) {
-    pushUserChange(program, tagOf(Operation::Delete, endingOf(session, kind)), row);
+    pushUserChange(program, journalTag(Operation::Delete, endingOf(session, kind)), row);
 }
 
 void recordRemoved(Program& program, Session session, StatementKind kind, const ChangedRow& row,
@@ -33,19 +33,19 @@ void recordRemoved(Program& program, Session session, StatementKind kind, const 
     std::string extra;
     for (const int position : mappingPositions)
         extra += extraOf({.key = row.key, .position = position});
-    pushUserChange(program, tagOf(Operation::Add, endingOf(session, kind)),
+    pushUserChange(program, journalTag(Operation::Add, endingOf(session, kind)),
                    {row.position, row.key, trimBlanks(row.text)}, extra);
 }
 
 void recordEdited(Program& program, Session session, StatementKind kind, const ChangedRow& row) {
     // Nothing reads the key of a Brainstorm row again.
     const std::string_view key = session == Session::Analyze ? row.key : std::string_view();
-    pushUserChange(program, tagOf(Operation::Edit, endingOf(session, kind)),
+    pushUserChange(program, journalTag(Operation::Edit, endingOf(session, kind)),
                    {row.position, key, row.text});
 }
 
 void recordUnmapped(Program& program, MappingSide side, const ChangedRow& row) {
-    pushUserChange(program, tagOf(Operation::Add, sideControls[side].recordEnding),
+    pushUserChange(program, journalTag(Operation::Add, sideControls[side].recordEnding),
                    {row.position, row.key, trimBlanks(row.text)}, mappedLetterOf(row.key));
 }
 

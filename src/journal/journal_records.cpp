@@ -44,7 +44,7 @@ void store(JournalRecords& records, std::size_t firstSearched, std::string recor
 
 }  // namespace
 
-std::string tagOf(Operation operation, std::string_view ending) {
+std::string journalTag(Operation operation, std::string_view ending) {
     return std::string(operationWords[operation]).append("_").append(ending);
 }
 

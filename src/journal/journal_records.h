@@ -18,7 +18,7 @@ namespace orvanta {
 
 enum class Operation { Add, Delete, Edit, Count };
 
-std::string tagOf(Operation operation, std::string_view ending);
+std::string journalTag(Operation operation, std::string_view ending);
 /// "B_S" to "A_T".
 std::string endingOf(Session session, StatementKind kind);
 

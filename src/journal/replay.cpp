@@ -27,7 +27,7 @@ std::optional<Target> targetOf(std::string_view ending) {
     return std::nullopt;
 }
 
-std::optional<MappingSide> sideOf(std::string_view ending) {
+std::optional<MappingSide> sideOfEnding(std::string_view ending) {
     for (const MappingSide side : mappingSides)
         if (sideControls[side].recordEnding == ending) return side;
     return std::nullopt;
@@ -44,7 +44,7 @@ public:
 
     void run() {
         if (const auto target = targetOf(m_record.ending)) runStatement(*target);
-        if (const auto side = sideOf(m_record.ending)) runMapping(*side);
+        if (const auto side = sideOfEnding(m_record.ending)) runMapping(*side);
     }
 
 private:
@@ -64,7 +64,7 @@ private:
     }
 
     /// The mapping list that holds the row of equal key; null for none.
-    StatementList* parentsOf(const Target& target) {
+    StatementList* mappingListOf(const Target& target) {
         const auto side = sideOfParents(target.kind);
         return target.session == Session::Analyze && side ? &mappingList(m_form, *side) : nullptr;
     }
@@ -89,16 +89,16 @@ private:
         inEachList(target, [&](StatementList& list) {
             insertRow(list, m_record.position(), key, target.kind);
         });
-        if (StatementList* parents = parentsOf(target))
+        if (StatementList* parents = mappingListOf(target))
             for (const RemovedParentRow& row : removedRowsFrom(m_record.extra))
                 m_step([&] { insertRow(*parents, row.position, row.key, target.kind); });
         counter(Operation::Delete, m_record.text, m_record.extra);
     }
 
     void removeStatement(const Target& target) {
-        if (standsElsewhere(mainList(target))) return;
+        if (anotherTextStandsThere(mainList(target))) return;
         inEachList(target, [&](StatementList& list) { list.remove(m_record.position()); });
-        if (StatementList* parents = parentsOf(target))
+        if (StatementList* parents = mappingListOf(target))
             for (const RemovedParentRow& row : removedRowsFrom(m_record.extra))
                 m_step([&] { parents->remove(row.position); });
         counter(Operation::Add, m_record.text, m_record.extra);
@@ -113,7 +113,7 @@ private:
         if (hasPickingLists(target))
             for (const MappingSide side : mappingSides)
                 setTextOfMappedRows(mappingList(m_form, side), m_record.key, newText);
-        if (StatementList* parents = parentsOf(target))
+        if (StatementList* parents = mappingListOf(target))
             setTextOfKey(*parents, m_record.key, newText);
         counter(Operation::Edit, oldText, {});
     }
@@ -144,14 +144,14 @@ private:
 
     void removeMappingRow(MappingSide side) {
         StatementList& list = mappingList(m_form, side);
-        if (standsElsewhere(list)) return;
+        if (anotherTextStandsThere(list)) return;
         m_step([&] { list.remove(m_record.position()); });
         counter(Operation::Add, m_record.text, m_record.extra);
     }
 
     /// True if another text stands at the record's position. No row at all does not count: the
     /// removal then fails by itself, and the counter-record is written all the same.
-    bool standsElsewhere(const StatementList& list) const {
+    bool anotherTextStandsThere(const StatementList& list) const {
         bool differs = false;
         m_step([&] { differs = list.row(m_record.position()).text != m_record.text; });
         return differs;
@@ -166,7 +166,7 @@ private:
 
     void counter(Operation operation, std::string_view text, std::string_view extra) {
         m_step([&] {
-            pushJournalRecord(m_program, m_countersToUndo, tagOf(operation, m_record.ending),
+            pushJournalRecord(m_program, m_countersToUndo, journalTag(operation, m_record.ending),
                               narrowed<std::int16_t>(m_record.position()), m_record.key, text,
                               false, extra);
         });

@@ -99,7 +99,7 @@ void writeAnalysis(Page& page, std::string_view bytes) {
 void generateHtmlReport(Program& program, const std::string& analyzeFile) {
     Disk& disk = program.platform.disk;
     if (!fileExists(program, analyzeFile))
-        return refuse(program.platform.messages, noSourceMessage);
+        return refuse(program.platform.messages, missingAnalyzeFileMessage);
     const std::string path =
         program.scratchPath + pathSeparator + "System" + pathSeparator + "report.htm";
     Page page;

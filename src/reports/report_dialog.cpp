@@ -42,7 +42,7 @@ bool choosesTarget(Program& program) {
 void generate(Program& program, FrmReportType& form) {
     const std::string analyzeFile = form.txtEdit.text();
     if (!fileExists(program, analyzeFile))
-        return refuse(program.platform.messages, noSourceMessage);
+        return refuse(program.platform.messages, missingAnalyzeFileMessage);
     assert(form.cboFormat.hasSelection());
     const bool document = form.cboFormat.selectedIndex() != htmlFormat;
     if (document && !choosesTarget(program)) return;

@@ -461,7 +461,7 @@ private:
 void generateWordReport(Program& program, const std::string& analyzeFile,
                         const std::string& targetFile) {
     if (!fileExists(program, analyzeFile))
-        return refuse(program.platform.messages, noSourceMessage);
+        return refuse(program.platform.messages, missingAnalyzeFileMessage);
     program.platform.modalForms.setWaitCursor(true);
     Script(program).run(analyzeFile, targetFile);
     program.platform.modalForms.setWaitCursor(false);

@@ -132,7 +132,7 @@ private:
 
 std::string analyzeBytes(const FrmMain& form, bool withStep) {
     SectionWriter writer;
-    if (withStep) writer.section(Section::Step, stepOnScreen(form, stepCodes));
+    if (withStep) writer.section(Section::Step, stepCodeOnScreen(form, stepCodes));
     writer.section(Section::Module, chosenModuleWord(form));
     for (const StatementKind kind : statementKinds)
         writeRows(writer, kindControls[kind].section, listOf(form, Session::Analyze, kind));

@@ -86,7 +86,7 @@ private:
 
 std::string brainstormBytes(const FrmMain& form, bool withStep) {
     SectionWriter writer;
-    if (withStep) writer.section(Section::Step, stepOnScreen(form, stepCodes));
+    if (withStep) writer.section(Section::Step, stepCodeOnScreen(form, stepCodes));
     writer.section(Section::Name, form.txtName.text());
     writer.section(Section::Module, chosenModuleWord(form));
     for (const StatementKind kind : statementKinds) {

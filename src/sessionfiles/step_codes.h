@@ -14,7 +14,7 @@ struct StepCode {
 };
 
 /// The code of the panel that is visible, the last one of several; empty for none.
-inline std::string_view stepOnScreen(const FrmMain& form, std::span<const StepCode> codes) {
+inline std::string_view stepCodeOnScreen(const FrmMain& form, std::span<const StepCode> codes) {
     std::string_view step;
     for (const StepCode& code : codes)
         if ((form.*code.panel).isVisible()) step = code.code;

@@ -7,7 +7,7 @@
 #include <functional>
 
 #include "analyze/source_files.h"
-#include "app/opening.h"
+#include "app/session_opening.h"
 #include "desktop/file_chooser.h"
 #include "desktop/message_box.h"
 #include "desktop/platform.h"

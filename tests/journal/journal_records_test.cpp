@@ -81,11 +81,11 @@ TEST_F(RecordKeeping, DoesNotHeedTheWishToEmptyTheRedoStackWhenARecordGoesThere)
 }
 
 TEST(RecordTag, NamesTheOperationAndWhereItIsDone) {
-    EXPECT_EQ(tagOf(Operation::Delete, endingOf(Session::Brainstorm, StatementKind::Strength)),
+    EXPECT_EQ(journalTag(Operation::Delete, endingOf(Session::Brainstorm, StatementKind::Strength)),
               "DEL_B_S");
-    EXPECT_EQ(tagOf(Operation::Edit, endingOf(Session::Analyze, StatementKind::Threat)),
+    EXPECT_EQ(journalTag(Operation::Edit, endingOf(Session::Analyze, StatementKind::Threat)),
               "EDIT_A_T");
-    EXPECT_EQ(tagOf(Operation::Add, "OM"), "ADD_OM");
+    EXPECT_EQ(journalTag(Operation::Add, "OM"), "ADD_OM");
 }
 
 TEST(Record, IsTakenApartAtItsDelimiters) {

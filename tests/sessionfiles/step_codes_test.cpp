@@ -16,12 +16,12 @@ constexpr std::array codes{StepCode{"ST", &FrmMain::fraStrength},
 TEST(StepOnScreen, IsTheCodeOfTheVisiblePanelAndOfTheLastOfSeveral) {
     Bench bench;
     FrmMain& form = bench.form();
-    EXPECT_EQ(stepOnScreen(form, codes), "");
+    EXPECT_EQ(stepCodeOnScreen(form, codes), "");
     form.fraWeakness.show();
-    EXPECT_EQ(stepOnScreen(form, codes), "WE");
+    EXPECT_EQ(stepCodeOnScreen(form, codes), "WE");
     form.fraThreats.show();
     form.fraStrength.show();
-    EXPECT_EQ(stepOnScreen(form, codes), "TH");
+    EXPECT_EQ(stepCodeOnScreen(form, codes), "TH");
 }
 
 TEST(ShownStep, HasItsPanelOnScreenAndLeavesTheOthers) {

@@ -1,4 +1,4 @@
-#include "app/opening.h"
+#include "app/session_opening.h"
 
 #include "core/analyze_steps.h"
 #include "core/constants.h"

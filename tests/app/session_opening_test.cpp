@@ -1,4 +1,4 @@
-#include "app/opening.h"
+#include "app/session_opening.h"
 
 #include <gtest/gtest.h>
 
