@@ -53,7 +53,7 @@ std::optional<QString> scratchFolder(InstanceLock& lock) {
 /// Programs that were killed while they wrote have left these, in folders of the program's own.
 void removeLeftovers(const QString& scratch) {
     for (const QString& folder : {scratch, scratch + "/System", dataPath(), rescuePath()})
-        orvanta::FileDisk::removeLeftovers(toCp1252(folder));
+        orvanta::FileDisk::removeLeftovers(toPath(folder));
 }
 
 void bringToFront(QWidget& window) {
