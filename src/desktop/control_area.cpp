@@ -67,12 +67,12 @@ void ControlArea::place(const Control& control, QWidget& widget) const {
     const Bounds& bounds = control.bounds();
     const Stretch& stretch = control.stretch();
     const QSize design = designSize(), growth = size() - design;
-    const Span across = keptInside(stretched(exact(bounds.left), exact(bounds.width), stretch.left,
-                                             stretch.right, growth.width()),
-                                   design.width(), width());
-    const Span down = keptInside(stretched(exact(bounds.top), exact(bounds.height), stretch.top,
-                                           stretch.bottom, growth.height()),
-                                 design.height(), height());
+    Span across = stretched(exact(bounds.left), exact(bounds.width), stretch.left, stretch.right,
+                            growth.width());
+    Span down = stretched(exact(bounds.top), exact(bounds.height), stretch.top, stretch.bottom,
+                          growth.height());
+    if (stretch.right == 0) across = keptInside(across, design.width(), width());
+    if (stretch.bottom == 0) down = keptInside(down, design.height(), height());
     widget.setGeometry(across.from, down.from, across.length, down.length);
     // Qt tells a hidden area of its new size only when it shows.
     if (const auto* area = dynamic_cast<const ControlArea*>(&widget)) area->placeAll();
