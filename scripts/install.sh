@@ -6,19 +6,19 @@ set -euo pipefail
 sound="qt6-multimedia-dev libavcodec-dev libswresample-dev zlib1g-dev pkg-config"
 voice="festival festvox-us-slt-hts sox ffmpeg"
 declare -A packages=(
-    [run]="g++ cmake ninja-build libboost1.81-dev qt6-base-dev libqt6svg6 fonts-dejavu-core xdg-utils
+    [run]="g++ cmake ninja-build libboost1.81-dev qt6-base-dev qt6-svg-dev fonts-dejavu-core xdg-utils
            $sound $voice"
-    [test]="g++ cmake ninja-build libboost1.81-dev qt6-base-dev libqt6svg6 fonts-dejavu-core libgtest-dev
+    [test]="g++ cmake ninja-build libboost1.81-dev qt6-base-dev qt6-svg-dev fonts-dejavu-core libgtest-dev
             libbenchmark-dev nlohmann-json3-dev xvfb xauth xdotool dbus ccache
             libreoffice-writer-nogui poppler-utils abiword pandoc unrtf fonts-liberation
             $sound $voice pulseaudio pulseaudio-utils
             python3 python3-gi gir1.2-atspi-2.0 at-spi2-core
             chromium php-cli tidy"
-    [tour]="g++ cmake ninja-build libboost1.81-dev qt6-base-dev libqt6svg6 fonts-dejavu-core nlohmann-json3-dev
+    [tour]="g++ cmake ninja-build libboost1.81-dev qt6-base-dev qt6-svg-dev fonts-dejavu-core nlohmann-json3-dev
             libgtest-dev libbenchmark-dev xvfb xauth openbox dbus chromium"
     [check]="clang-format clang-tidy git shellcheck python3 g++ cmake ninja-build libboost1.81-dev
-             qt6-base-dev nlohmann-json3-dev libgtest-dev libbenchmark-dev $sound"
-    [fuzz]="clang libclang-rt-dev cmake ninja-build libboost1.81-dev qt6-base-dev nlohmann-json3-dev
+             qt6-base-dev qt6-svg-dev nlohmann-json3-dev libgtest-dev libbenchmark-dev $sound"
+    [fuzz]="clang libclang-rt-dev cmake ninja-build libboost1.81-dev qt6-base-dev qt6-svg-dev nlohmann-json3-dev
             libgtest-dev libbenchmark-dev $sound"
     [coverage]="gcovr"
 )

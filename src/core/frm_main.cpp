@@ -118,9 +118,9 @@ void placeModuleChoice(FrmMain& form) {
     form.lblName.setBold(true);
     place(form.txtName, &panel, grid(24, 44, 480, 32), wide);
     form.txtName.setAccessibleName(form.lblName.caption());
-    place(form.lblModules, &panel, grid(24, 100, 480, 20), wide);
+    place(form.lblModules, &panel, grid(24, 92, 480, 32), wide);
     form.lblModules.setBold(true);
-    place(form.lblSelectModule, &panel, grid(24, 124, 480, 40), wide);
+    place(form.lblSelectModule, &panel, grid(24, 126, 480, 46), wide);
     double top = 176;
     for (const ModuleId module : offeredModules) {
         Option& option = form.*modules[module].option;
@@ -210,10 +210,10 @@ void placeAnalyzeStep(FrmMain& form, const StepControls& step) {
 
 void placeSourceFiles(FrmMain& form) {
     Panel& panel = form.fraAnalyze;
-    place(form.Label16, &panel, grid(24, 16, 608, 24));
+    place(form.Label16, &panel, grid(24, 16, 608, 24), wide);
     form.Label16.setFontSize({11.25});
     form.Label16.setBold(true);
-    place(form.Label10, &panel, grid(24, 48, 608, 20));
+    place(form.Label10, &panel, grid(24, 48, 608, 20), wide);
     place(form.lstFiles, &panel, grid(24, 80, listWidth, 428), whole);
     form.lstFiles.setAccessibleName(form.Label16.caption());
     placeSmall(form.buttons[Button::AFAdd], panel, sideButtons, 80, atRight);

@@ -1,11 +1,14 @@
 #include "desktop/art.h"
 
 #include <QFile>
-#include <QImageReader>
+#include <QIconEngine>
+#include <QImage>
 #include <QPainter>
 #include <QPixmapCache>
+#include <QSvgRenderer>
 #include <array>
 #include <cassert>
+#include <utility>
 
 namespace orvanta::desktop {
 
@@ -17,20 +20,44 @@ QString fileOf(const QString& name) {
     return file;
 }
 
+/// Draws a picture at each size that is asked for. The toolkit's own engine for such files is a
+/// plugin, and where that is missing an icon is empty and nothing says so.
+class PictureEngine : public QIconEngine {
+public:
+    explicit PictureEngine(QString name) : m_name(std::move(name)) {}
+
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode, QIcon::State) override {
+        drawPicture(*painter, place, m_name);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode, QIcon::State) override {
+        return picture(m_name, size, 1);
+    }
+    QIconEngine* clone() const override { return new PictureEngine(m_name); }
+
+private:
+    QString m_name;
+};
+
+QImage drawn(const QString& name, QSize size) {
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    QSvgRenderer(fileOf(name)).render(&painter, QRectF(image.rect()));
+    return image;
+}
+
 }  // namespace
 
 QPixmap picture(const QString& name, QSize size, qreal pixelRatio) {
     const QSize deviceSize = size * pixelRatio;
     const QString key =
         QStringLiteral("%1 %2x%3").arg(name).arg(deviceSize.width()).arg(deviceSize.height());
-    QPixmap drawn;
-    if (QPixmapCache::find(key, &drawn)) return drawn;
-    QImageReader reader(fileOf(name));
-    reader.setScaledSize(deviceSize);
-    drawn = QPixmap::fromImage(reader.read());
-    drawn.setDevicePixelRatio(pixelRatio);
-    QPixmapCache::insert(key, drawn);
-    return drawn;
+    QPixmap made;
+    if (deviceSize.isEmpty() || QPixmapCache::find(key, &made)) return made;
+    made = QPixmap::fromImage(drawn(name, deviceSize));
+    made.setDevicePixelRatio(pixelRatio);
+    QPixmapCache::insert(key, made);
+    return made;
 }
 
 void drawPicture(QPainter& painter, const QRect& target, const QString& name) {
@@ -38,7 +65,7 @@ void drawPicture(QPainter& painter, const QRect& target, const QString& name) {
                        picture(name, target.size(), painter.device()->devicePixelRatioF()));
 }
 
-QIcon pictureIcon(const QString& name) { return QIcon(fileOf(name)); }
+QIcon pictureIcon(const QString& name) { return QIcon(new PictureEngine(name)); }
 
 QString artName(Art art) {
     switch (art) {

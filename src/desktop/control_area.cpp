@@ -1,5 +1,6 @@
 #include "desktop/control_area.h"
 
+#include <algorithm>
 #include <cassert>
 #include <cmath>
 
@@ -16,6 +17,16 @@ Span stretched(double from, double length, double fromShare, double toShare, dou
     const auto first = std::lround(from + fromShare * growth);
     const auto last = std::lround(from + length + toShare * growth);
     return {static_cast<int>(first), static_cast<int>(std::max(0L, last - first))};
+}
+
+/// Where an area has shrunk, what stays in its place as the area grows moves up to its edge.
+Span keptInside(Span span, int designExtent, int extent) {
+    constexpr int margin = 8;
+    const int end = span.from + span.length;
+    if (extent >= designExtent || end > designExtent) return span;
+    const int lastEnd = extent - std::min(margin, designExtent - end);
+    span.from = std::max(0, std::min(span.from, lastEnd - span.length));
+    return span;
 }
 
 }  // namespace
@@ -55,11 +66,13 @@ void ControlArea::place(const Control& control, QWidget& widget) const {
     const auto exact = [this](Twips length) { return m_pixelGrid.exact(length); };
     const Bounds& bounds = control.bounds();
     const Stretch& stretch = control.stretch();
-    const QSize growth = size() - designSize();
-    const Span across = stretched(exact(bounds.left), exact(bounds.width), stretch.left,
-                                  stretch.right, growth.width());
-    const Span down = stretched(exact(bounds.top), exact(bounds.height), stretch.top,
-                                stretch.bottom, growth.height());
+    const QSize design = designSize(), growth = size() - design;
+    Span across = stretched(exact(bounds.left), exact(bounds.width), stretch.left, stretch.right,
+                            growth.width());
+    Span down = stretched(exact(bounds.top), exact(bounds.height), stretch.top, stretch.bottom,
+                          growth.height());
+    if (stretch.right == 0) across = keptInside(across, design.width(), width());
+    if (stretch.bottom == 0) down = keptInside(down, design.height(), height());
     widget.setGeometry(across.from, down.from, across.length, down.length);
     // Qt tells a hidden area of its new size only when it shows.
     if (const auto* area = dynamic_cast<const ControlArea*>(&widget)) area->placeAll();

@@ -13,6 +13,7 @@
 #include "core/constants.h"
 #include "desktop/auto_save_timer.h"
 #include "desktop/conversions.h"
+#include "desktop/display_needed.h"
 #include "desktop/instance_lock.h"
 #include "desktop/main_window.h"
 #include "desktop/platform.h"
@@ -70,7 +71,9 @@ int main(int argc, char** argv) {
     using namespace orvanta;
     int programNameAlone =
         std::min(argc, 1);  // the program takes no argument, the toolkit's included
+    std::optional<DisplayNeeded> starting(std::in_place);
     QApplication application(programNameAlone, argv);
+    starting.reset();
     QCoreApplication::setOrganizationName(fromCp1252(appTitle));
     QCoreApplication::setApplicationName(fromCp1252(appTitle));
     QGuiApplication::setDesktopFileName(QStringLiteral("orvanta"));

@@ -22,13 +22,13 @@
 #include "desktop/clicks.h"
 #include "desktop/list_commands.h"
 #include "desktop/mirrors.h"
+#include "desktop/screen_room.h"
 #include "desktop/theme.h"
 
 namespace orvanta::desktop {
 
 namespace {
 
-constexpr double smallestShare = 0.8;  // of the design size
 constexpr int bandHeight = 64;
 
 template <class... Acts>
@@ -268,8 +268,8 @@ void MainWindow::orderTabs() {
 void MainWindow::showSize() {
     const FrmMain& form = m_program.frmMain;
     setDesignSize(form.width, form.height);
-    setMinimumSize(designSize() * smallestShare);
-    resize(designSize());
+    setMinimumSize(leastWindow.boundedTo(designSize()));
+    resize(designSize().boundedTo(roomForWindow()));
     placeAll();
 }
 

@@ -13,6 +13,7 @@
 
 #include "desktop/conversions.h"
 #include "desktop/question_sheet_pages.h"
+#include "desktop/screen_room.h"
 #include "presentation/sheet_texts.h"
 
 namespace orvanta::desktop {
@@ -81,7 +82,7 @@ void PreviewingPrinter::print(const QuestionSheets& sheets) {
     QPrintPreviewDialog preview(&printer, QApplication::activeWindow());
     preview.setWindowTitle(title);
     constexpr QSize roomy{900, 760};
-    preview.resize(roomy);
+    preview.resize(roomy.boundedTo(roomForWindow()));
     nameBoxes(preview);
     addPaperChoice(preview, printer);
     QObject::connect(&preview, &QPrintPreviewDialog::paintRequested,

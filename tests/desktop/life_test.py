@@ -172,9 +172,25 @@ def arguments_are_not_read(binary, data):
         ends_well(process, f"the start with {arguments}")
 
 
+def a_start_without_a_display_says_so(binary, data):
+    kept = {name: value for name, value in os.environ.items()
+            if name not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}
+    for named in ({}, {"DISPLAY": ":4711"}, {"WAYLAND_DISPLAY": "nothing"},
+                  {"DISPLAY": "no.such.host:0", "WAYLAND_DISPLAY": "/nowhere/nothing"}):
+        place = Place(binary, data)
+        ended = subprocess.run([place.binary], env={**kept, "HOME": str(place.root), **named},
+                               capture_output=True, text=True, timeout=PATIENCE)
+        expect(ended.returncode == 1, f"{named}: exit code {ended.returncode}")
+        lines = ended.stderr.splitlines()
+        expect(len(lines) == 1 and lines[0].startswith("Orvanta can't show its window"),
+               f"{named}: it says {lines}")
+        expect(place.copy.read_text() == LEFT_BEHIND, f"{named}: the session is not touched")
+
+
 if __name__ == "__main__":
     for claim in (signals_keep_the_session, arguments_are_not_read,
                   a_second_start_leaves_the_first_alone, another_user_has_a_folder_of_their_own,
-                  a_start_removes_old_leftovers, a_fresh_account_gets_its_folders):
+                  a_start_removes_old_leftovers, a_fresh_account_gets_its_folders,
+                  a_start_without_a_display_says_so):
         claim(*sys.argv[1:3])
     sys.exit(1 if failures else 0)
