@@ -7,7 +7,6 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QKeySequence>
-#include <QPainter>
 #include <QPushButton>
 #include <QTimer>
 #include <algorithm>
@@ -139,6 +138,8 @@ void MainWindow::makePanels() {
 void MainWindow::makePanel(Panel& panel) {
     m_panels[&panel] = new PanelView(panel, areaOf(panel));
     panel.changed.subscribe([this] { screenMayDiffer(); });
+    if (panel.stack() == &m_program.frmMain.moduleScreens)
+        panel.changed.subscribe([this] { update(); });
 }
 
 void MainWindow::makeButtons() {
@@ -210,18 +211,20 @@ void MainWindow::makeMergeLink() {
     makeLink(m_merge, LinkView::Ground::Plain, mergeChosen);
 }
 
-/// At the foot of the window, below the buttons of the wizards.
+/// Between the band and the module.
 void MainWindow::makeWhereabouts() {
     const FrmMain& form = m_program.frmMain;
-    m_whereabouts.setFontSize({8.25});
-    m_whereabouts.setStretch({0, 1, 1, 1});
+    constexpr double height = 36;
+    m_whereabouts.setFontSize({9.75});
+    m_whereabouts.setStretch({0, 0, 1, 0});
     m_whereaboutsView = new WhereaboutsView(m_program, m_whereabouts, pixelGrid(), this);
     mirrorControl(m_whereabouts, *m_whereaboutsView, *this);
     const auto follow = [this, &form] {
-        const Twips left = form.fraBrainstorm.bounds().left + gridLength(24);
-        m_whereabouts.setBounds({left, form.height - gridLength(19),
-                                 form.width - left - gridLength(24), gridLength(16)});
+        const Bounds& module = form.fraBrainstorm.bounds();
+        const Twips shown = module.top * (height / (bandHeight + height));
+        m_whereabouts.setBounds({module.left, module.top - shown, form.width - module.left, shown});
     };
+    m_program.frmMain.fraBrainstorm.changed.subscribe(follow);
     m_program.frmMain.sizeChanged.subscribe(follow);
     follow();
 }
@@ -371,7 +374,21 @@ void MainWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), theme::sideGround);
     drawBand(painter, width());
-    drawHome(painter, m_panels.at(&m_program.frmMain.fraBrainstorm)->geometry());
+    const QRect module = m_panels.at(&m_program.frmMain.fraBrainstorm)->geometry();
+    drawModuleBar(painter);
+    drawHome(painter, module.united(m_whereaboutsView->geometry()));
+}
+
+/// Beside the button of the module that is open.
+void MainWindow::drawModuleBar(QPainter& painter) {
+    FrmMain& form = m_program.frmMain;
+    const Panel* module = form.moduleScreens.top();
+    if (!module) return;
+    const Button opener = module == &form.fraBrainstorm ? Button::Brainstorm : Button::Analyze;
+    const auto* button = findChild<QWidget*>(fromCp1252(form.buttons[opener].image.name()));
+    assert(button);
+    const QRect place = button->geometry();
+    painter.fillRect(QRect(place.left() - 10, place.top(), 4, place.height()), theme::deepBlue);
 }
 
 }  // namespace orvanta::desktop
