@@ -15,6 +15,7 @@
 #include <utility>
 #include <variant>
 
+#include "app/home_steps.h"
 #include "app/shortcuts.h"
 #include "core/design_grid.h"
 #include "desktop/art.h"
@@ -69,15 +70,42 @@ void drawBand(QPainter& painter, int width) {
                 QStringLiteral("wordmark"));
 }
 
-/// What stands in the place of the module panels while none is open: the mark of the product.
-void drawHome(QPainter& painter, const QRect& place) {
+QRect placeOf(const SkinnedButton& button, const QWidget& window) {
+    const auto* picture = window.findChild<QWidget*>(fromCp1252(button.image.name()));
+    assert(picture);
+    return picture->geometry();
+}
+
+/// Says beside the buttons what a person does with them; returns where the last one ends.
+int drawSteps(QPainter& painter, const QRect& home, const ControlArea& window,
+              const FrmMain& form) {
+    constexpr int margin = 24;
+    constexpr Points size{9.75};
+    painter.setFont(window.pixelGrid().font(size));
+    painter.setPen(window.palette().color(QPalette::PlaceholderText));
+    int end = home.top();
+    for (const HomeStep& step : homeSteps) {
+        const QRect button = placeOf(form.buttons[step.button], window);
+        const QRect room(home.left() + margin, button.top(), home.width() - 2 * margin,
+                         button.height());
+        painter.drawText(room,
+                         static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextWordWrap,
+                         fromCp1252(step.words));
+        end = button.bottom() + 1;
+    }
+    return end;
+}
+
+/// The mark of the product, smaller where there is little room.
+void drawEmblem(QPainter& painter, const QRect& room) {
     constexpr QSize splash(480, 300);
     constexpr QRect emblem(150, 36, 300, 228);  // mark and name, without the ornament beside them
-    painter.fillRect(place, theme::paper);
-    QRect shown = emblem;
-    shown.moveCenter(place.center());
+    const double scale = std::min(1.0, room.height() / static_cast<double>(emblem.height()));
+    QRect shown(QPoint(), emblem.size() * scale);
+    shown.moveCenter(room.center());
     painter.setClipRect(shown);
-    drawPicture(painter, {shown.topLeft() - emblem.topLeft(), splash}, QStringLiteral("splash"));
+    drawPicture(painter, {shown.topLeft() - emblem.topLeft() * scale, splash * scale},
+                QStringLiteral("splash"));
 }
 
 /// A button of the mouse or a key, but none that only goes with another: who turns to another
@@ -374,20 +402,24 @@ void MainWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), theme::sideGround);
     drawBand(painter, width());
-    const QRect module = m_panels.at(&m_program.frmMain.fraBrainstorm)->geometry();
+    const FrmMain& form = m_program.frmMain;
     drawModuleBar(painter);
-    drawHome(painter, module.united(m_whereaboutsView->geometry()));
+    const QRect home =
+        m_panels.at(&form.fraBrainstorm)->geometry().united(m_whereaboutsView->geometry());
+    painter.fillRect(home, theme::paper);
+    if (form.moduleScreens.hasVisible()) return;
+    QRect room = home;
+    room.setTop(drawSteps(painter, home, *this, form));
+    drawEmblem(painter, room);
 }
 
 /// Beside the button of the module that is open.
 void MainWindow::drawModuleBar(QPainter& painter) {
-    FrmMain& form = m_program.frmMain;
+    const FrmMain& form = m_program.frmMain;
     const Panel* module = form.moduleScreens.top();
     if (!module) return;
     const Button opener = module == &form.fraBrainstorm ? Button::Brainstorm : Button::Analyze;
-    const auto* button = findChild<QWidget*>(fromCp1252(form.buttons[opener].image.name()));
-    assert(button);
-    const QRect place = button->geometry();
+    const QRect place = placeOf(form.buttons[opener], *this);
     painter.fillRect(QRect(place.left() - 10, place.top(), 4, place.height()), theme::deepBlue);
 }
 

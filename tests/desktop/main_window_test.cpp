@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QtTest>
 
+#include "app/home_steps.h"
+#include "painted_contrast.h"
 #include "window_bench.h"
 
 namespace orvanta::test {
@@ -148,6 +150,21 @@ TEST(MainWindow, ShowsAQuestionAsItStands) {
     bench.start();
     bench.form().lblSQuestion.setCaption(" R&D && more");
     EXPECT_EQ(bench.widget<QLabel>("lblSQuestion").text(), " R&D && more");
+}
+
+TEST(MainWindow, SaysBesideTheButtonsOfTheStepsWhatTheyAreForWhileNoModuleIsOpen) {
+    WindowBench<> bench;
+    bench.start();
+    bench.window().show();
+    const auto wordsBeside = [&bench](Button button) {
+        const std::string& name = bench.form().buttons[button].image.name();
+        const QRect place = bench.widget(name).geometry();
+        const QRect beside(QPoint(place.right() + 20, place.top()), QSize(160, place.height()));
+        return writtenContrast(paintedAs(bench.window(), beside));
+    };
+    for (const HomeStep& step : homeSteps) EXPECT_GE(wordsBeside(step.button), 4.5) << step.words;
+    EXPECT_EQ(wordsBeside(Button::Overview), 1);
+    EXPECT_EQ(wordsBeside(Button::Quit), 1);
 }
 
 }  // namespace orvanta::test
