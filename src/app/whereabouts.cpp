@@ -10,11 +10,6 @@ namespace orvanta {
 
 namespace {
 
-std::string stepWords(std::size_t number, std::size_t count, std::string_view name) {
-    return "Step " + std::to_string(number) + " of " + std::to_string(count) + ": " +
-           std::string(name);
-}
-
 /// The kind whose questions are asked; none on the module choice screen.
 std::optional<StatementKind> askedKind(const FrmMain& form) {
     for (const StatementKind kind : statementKinds)
@@ -27,25 +22,36 @@ std::string questionWords(const Program& program, StatementKind kind) {
     const int number = program.frmMain.questionStep;
     const int count = program.questions.*bankListOf(kind).count;
     if (number < 1 || number > count) return {};
-    return ", question " + std::to_string(number) + " of " + std::to_string(count);
+    return "question " + std::to_string(number) + " of " + std::to_string(count);
 }
 
-std::string brainstormPlace(const Program& program) {
-    constexpr std::size_t stepCount = 1 + countOf<StatementKind>;
-    const auto kind = askedKind(program.frmMain);
-    if (!kind) return stepWords(1, stepCount, "Name and module");
-    return stepWords(static_cast<std::size_t>(*kind) + 2, stepCount, nameOfSeveral(*kind)) +
-           questionWords(program, *kind);
+Whereabouts brainstormPlace(const Program& program) {
+    constexpr int stepCount = 1 + static_cast<int>(countOf<StatementKind>);
+    Whereabouts place{.step = 1, .stepCount = stepCount, .stepName = "Name and module"};
+    place.kind = askedKind(program.frmMain);
+    if (!place.kind) return place;
+    place.step = static_cast<int>(*place.kind) + 2;
+    place.stepName = nameOfSeveral(*place.kind);
+    place.question = questionWords(program, *place.kind);
+    return place;
 }
 
-std::string analyzePlace(const FrmMain& form) {
+/// The kind that an Analyze step weeds or maps onto; none for the source files.
+std::optional<StatementKind> kindOf(const StepControls& step) {
+    if (step.side) return sideControls[*step.side].parentKind;
+    return step.kind;
+}
+
+Whereabouts analyzePlace(const FrmMain& form) {
     AnalyzeStep shown = AnalyzeStep::SourceFiles;
     for (const AnalyzeStep step : allOf<AnalyzeStep>)
         if (const auto panel = stepControls[step].panel;
             panel && form.analyzeSteps.top() == &(form.*panel))
             shown = step;
-    return stepWords(static_cast<std::size_t>(shown) + 1, countOf<AnalyzeStep>,
-                     stepControls[shown].name);
+    return {.step = static_cast<int>(shown) + 1,
+            .stepCount = static_cast<int>(countOf<AnalyzeStep>),
+            .stepName = std::string(stepControls[shown].name),
+            .kind = kindOf(stepControls[shown])};
 }
 
 PerKind<int> countsOf(const FrmMain& form, Session session) {
@@ -57,6 +63,13 @@ PerKind<int> countsOf(const FrmMain& form, Session session) {
 
 }  // namespace
 
+std::string placeInWords(const Whereabouts& whereabouts) {
+    if (whereabouts.step == 0) return {};
+    const std::string asked = whereabouts.question.empty() ? "" : ", " + whereabouts.question;
+    return "Step " + std::to_string(whereabouts.step) + " of " +
+           std::to_string(whereabouts.stepCount) + ": " + whereabouts.stepName + asked;
+}
+
 std::string countsInWords(const Whereabouts& whereabouts) {
     std::string words;
     for (const StatementKind kind : statementKinds) {
@@ -67,16 +80,17 @@ std::string countsInWords(const Whereabouts& whereabouts) {
 }
 
 std::string inWords(const Whereabouts& whereabouts) {
-    return whereabouts.place + ". " + countsInWords(whereabouts) + ".";
+    return placeInWords(whereabouts) + ". " + countsInWords(whereabouts) + ".";
 }
 
 Whereabouts whereaboutsOf(const Program& program) {
     const FrmMain& form = program.frmMain;
     const Panel* module = form.moduleScreens.top();
-    if (module == &form.fraBrainstorm)
-        return {brainstormPlace(program), countsOf(form, Session::Brainstorm)};
-    if (module == &form.fraAnalyze) return {analyzePlace(form), countsOf(form, Session::Analyze)};
-    return {};
+    if (!module) return {};
+    const bool brainstorming = module == &form.fraBrainstorm;
+    Whereabouts place = brainstorming ? brainstormPlace(program) : analyzePlace(form);
+    place.counts = countsOf(form, brainstorming ? Session::Brainstorm : Session::Analyze);
+    return place;
 }
 
 }  // namespace orvanta

@@ -77,9 +77,10 @@ void placeTopLevel(FrmMain& form) {
     form.imgBtnLDown.setArt(Art::LargeDown);
 }
 
-constexpr Bounds moduleArea = grid(200, 64, 760, 576);
-constexpr Bounds stepArea = grid(0, 0, 760, 516);
-constexpr double buttonRow = 520;
+// Above it the window tells the step of the wizard.
+constexpr Bounds moduleArea = grid(200, 100, 760, 540);
+constexpr Bounds stepArea = grid(0, 0, 760, 484);
+constexpr double buttonRow = 492;
 
 void placeModulePanels(FrmMain& form) {
     for (const SessionControls& session : sessionControls) {
@@ -105,7 +106,7 @@ void placeWizardButtons(FrmMain& form) {
     placeHeld(form.buttons[Button::AQuit], form.picAQuit, form.fraAnalyze,
               grid(24, buttonRow, smallWidth, smallHeight), left);
     placeHeld(form.buttons[Button::OAFile], form.picAOAFile, form.fraAnalyze,
-              grid(128, buttonRow - 4, largeWidth + 8, largeHeight), left);
+              grid(128, buttonRow, largeWidth + 8, smallHeight), left);
     placeHeld(form.buttons[Button::ABack], form.picABack, form.fraAnalyze,
               grid(552, buttonRow, smallWidth, smallHeight), right);
     placeHeld(form.buttons[Button::ANext], form.picANext, form.fraAnalyze,
@@ -142,9 +143,11 @@ void placeModuleChoice(FrmMain& form) {
 }
 
 constexpr double listWidth = 608, sideButtons = 648;
+constexpr double listTop = 120, listHeight = 356;  // on each step of both wizards
+constexpr double boxTop = 76, boxHeight = 32, headingTop = 12, listLabelHeight = 24;
 
 void placeHeading(Label& heading, Panel& panel) {
-    place(heading, &panel, grid(24, 20, 712, 56), wide);
+    place(heading, &panel, grid(24, headingTop, 712, 56), wide);
     heading.setFontSize({11.25});
     heading.setBold(true);
 }
@@ -154,11 +157,11 @@ void placeListScreen(FrmMain& form, Panel& panel, Label& heading, StatementKind 
     TextBox& box = form.*controls.box;
     StatementList& list = form.*controls.list;
     placeHeading(heading, panel);
-    place(box, &panel, grid(24, 88, listWidth, 32), wide);
-    placeSmall(form.buttons[controls.buttons.add], panel, sideButtons, 88, atRight);
-    place(list, &panel, grid(24, 136, listWidth, 372), whole);
-    placeSmall(form.buttons[controls.buttons.edit], panel, sideButtons, 136, atRight);
-    placeSmall(form.buttons[controls.buttons.remove], panel, sideButtons, 176, atRight);
+    place(box, &panel, grid(24, boxTop, listWidth, boxHeight), wide);
+    placeSmall(form.buttons[controls.buttons.add], panel, sideButtons, boxTop, atRight);
+    place(list, &panel, grid(24, listTop, listWidth, listHeight), whole);
+    placeSmall(form.buttons[controls.buttons.edit], panel, sideButtons, listTop, atRight);
+    placeSmall(form.buttons[controls.buttons.remove], panel, sideButtons, listTop + 40, atRight);
     box.setAccessibleName("New " + std::string(nameOf(kind)));
     list.setAccessibleName(std::string(nameOf(kind)) + " list");
 }
@@ -176,20 +179,23 @@ void placeHeadedList(Label& heading, StatementList& list, Panel& panel, Bounds a
     top.height = gridLength(20);
     place(heading, &panel, top, {stretch.left, stretch.top, stretch.right, stretch.top});
     heading.setBold(true);
-    place(list, &panel, area + grid(0, 24, 0, -24), stretch);
+    place(list, &panel, area + grid(0, listLabelHeight, 0, -listLabelHeight), stretch);
     list.setAccessibleName(heading.caption());
 }
 
 void placeMappingScreen(FrmMain& form, Panel& panel, Label& heading, const SideControls& side) {
     placeHeading(heading, panel);
-    const auto placeList = [&](const HeadedList& headed, Bounds area, Stretch stretch) {
+    const auto placeList = [&](const HeadedList& headed, double left, double width,
+                               Stretch stretch) {
+        const Bounds area =
+            grid(left, listTop - listLabelHeight, width, listHeight + listLabelHeight);
         placeHeadedList(form.*headed.heading, form.*headed.list, panel, area, stretch);
     };
     // Each over the whole height and the mapping list in the middle: no straight way from one
     // list to it leads over another, whose statement would be mapped then.
-    placeList(side.strengths, grid(24, 88, 216, 420), {0, 0, 0.31, 1});
-    placeList(side.mapping, grid(252, 88, 256, 420), {0.31, 0, 0.69, 1});
-    placeList(side.weaknesses, grid(520, 88, 216, 420), {0.69, 0, 1, 1});
+    placeList(side.strengths, 24, 216, {0, 0, 0.31, 1});
+    placeList(side.mapping, 252, 256, {0.31, 0, 0.69, 1});
+    placeList(side.weaknesses, 520, 216, {0.69, 0, 1, 1});
 }
 
 /// What the Analyze screens say until their texts have been loaded.
@@ -210,14 +216,12 @@ void placeAnalyzeStep(FrmMain& form, const StepControls& step) {
 
 void placeSourceFiles(FrmMain& form) {
     Panel& panel = form.fraAnalyze;
-    place(form.Label16, &panel, grid(24, 16, 608, 24), wide);
-    form.Label16.setFontSize({11.25});
-    form.Label16.setBold(true);
-    place(form.Label10, &panel, grid(24, 48, 608, 20), wide);
-    place(form.lstFiles, &panel, grid(24, 80, listWidth, 428), whole);
+    placeHeading(form.Label16, panel);
+    place(form.Label10, &panel, grid(24, listTop - listLabelHeight, listWidth, 20), wide);
+    place(form.lstFiles, &panel, grid(24, listTop, listWidth, listHeight), whole);
     form.lstFiles.setAccessibleName(form.Label16.caption());
-    placeSmall(form.buttons[Button::AFAdd], panel, sideButtons, 80, atRight);
-    placeSmall(form.buttons[Button::AFRemove], panel, sideButtons, 120, atRight);
+    placeSmall(form.buttons[Button::AFAdd], panel, sideButtons, listTop, atRight);
+    placeSmall(form.buttons[Button::AFRemove], panel, sideButtons, listTop + 40, atRight);
     for (Control* covered : std::initializer_list<Control*>{
              &form.Label16, &form.Label10, &form.lstFiles, &form.buttons[Button::AFAdd].image,
              &form.buttons[Button::AFAdd].label, &form.buttons[Button::AFRemove].image,

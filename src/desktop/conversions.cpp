@@ -2,12 +2,44 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTextLayout>
+#include <QTextOption>
+#include <QToolTip>
 #include <cmath>
 
 #include "view/path_text.h"
 #include "view/windows1252.h"
 
 namespace orvanta::desktop {
+
+namespace {
+
+QStringList linesOfToolTip(const QString& paragraph, int width) {
+    QTextLayout layout(paragraph, QToolTip::font());
+    layout.setTextOption(QTextOption());
+    QStringList lines;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        lines << paragraph.mid(line.textStart(), line.textLength()).trimmed();
+    }
+    layout.endLayout();
+    return lines;
+}
+
+/// In as few lines as can be, and these as even as the words allow.
+QString brokenEvenly(const QString& paragraph) {
+    constexpr int widest = 360;
+    const auto count = linesOfToolTip(paragraph, widest).size();
+    int tooNarrow = 0, wideEnough = widest;
+    while (count > 1 && wideEnough - tooNarrow > 1) {
+        const int width = (tooNarrow + wideEnough) / 2;
+        (linesOfToolTip(paragraph, width).size() > count ? tooNarrow : wideEnough) = width;
+    }
+    return linesOfToolTip(paragraph, wideEnough).join(u'\n');
+}
+
+}  // namespace
 
 QString fromCp1252(std::string_view text) { return QString::fromStdString(utf8From1252(text)); }
 
@@ -25,7 +57,10 @@ QString shownCaption(std::string_view caption) {
 
 QString shownToolTip(const QString& toolTip) {
     if (toolTip.isEmpty()) return {};
-    return QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>").arg(toolTip.toHtmlEscaped());
+    QStringList paragraphs = toolTip.split(u'\n');
+    for (QString& paragraph : paragraphs) paragraph = brokenEvenly(paragraph);
+    return QStringLiteral("<p style=\"white-space:pre; margin:0\">%1</p>")
+        .arg(paragraphs.join(u'\n').toHtmlEscaped());
 }
 
 int PixelGrid::pixels(Twips length) const { return static_cast<int>(std::lround(exact(length))); }

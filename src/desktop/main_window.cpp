@@ -7,7 +7,6 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QKeySequence>
-#include <QPainter>
 #include <QPushButton>
 #include <QTimer>
 #include <algorithm>
@@ -16,6 +15,7 @@
 #include <utility>
 #include <variant>
 
+#include "app/home_steps.h"
 #include "app/shortcuts.h"
 #include "core/design_grid.h"
 #include "desktop/art.h"
@@ -70,15 +70,42 @@ void drawBand(QPainter& painter, int width) {
                 QStringLiteral("wordmark"));
 }
 
-/// What stands in the place of the module panels while none is open: the mark of the product.
-void drawHome(QPainter& painter, const QRect& place) {
+QRect placeOf(const SkinnedButton& button, const QWidget& window) {
+    const auto* picture = window.findChild<QWidget*>(fromCp1252(button.image.name()));
+    assert(picture);
+    return picture->geometry();
+}
+
+/// Says beside the buttons what a person does with them; returns where the last one ends.
+int drawSteps(QPainter& painter, const QRect& home, const ControlArea& window,
+              const FrmMain& form) {
+    constexpr int margin = 24;
+    constexpr Points size{9.75};
+    painter.setFont(window.pixelGrid().font(size));
+    painter.setPen(window.palette().color(QPalette::PlaceholderText));
+    int end = home.top();
+    for (const HomeStep& step : homeSteps) {
+        const QRect button = placeOf(form.buttons[step.button], window);
+        const QRect room(home.left() + margin, button.top(), home.width() - 2 * margin,
+                         button.height());
+        painter.drawText(room,
+                         static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextWordWrap,
+                         fromCp1252(step.words));
+        end = button.bottom() + 1;
+    }
+    return end;
+}
+
+/// The mark of the product, smaller where there is little room.
+void drawEmblem(QPainter& painter, const QRect& room) {
     constexpr QSize splash(480, 300);
     constexpr QRect emblem(150, 36, 300, 228);  // mark and name, without the ornament beside them
-    painter.fillRect(place, theme::paper);
-    QRect shown = emblem;
-    shown.moveCenter(place.center());
+    const double scale = std::min(1.0, room.height() / static_cast<double>(emblem.height()));
+    QRect shown(QPoint(), emblem.size() * scale);
+    shown.moveCenter(room.center());
     painter.setClipRect(shown);
-    drawPicture(painter, {shown.topLeft() - emblem.topLeft(), splash}, QStringLiteral("splash"));
+    drawPicture(painter, {shown.topLeft() - emblem.topLeft() * scale, splash * scale},
+                QStringLiteral("splash"));
 }
 
 /// A button of the mouse or a key, but none that only goes with another: who turns to another
@@ -139,6 +166,8 @@ void MainWindow::makePanels() {
 void MainWindow::makePanel(Panel& panel) {
     m_panels[&panel] = new PanelView(panel, areaOf(panel));
     panel.changed.subscribe([this] { screenMayDiffer(); });
+    if (panel.stack() == &m_program.frmMain.moduleScreens)
+        panel.changed.subscribe([this] { update(); });
 }
 
 void MainWindow::makeButtons() {
@@ -210,18 +239,20 @@ void MainWindow::makeMergeLink() {
     makeLink(m_merge, LinkView::Ground::Plain, mergeChosen);
 }
 
-/// At the foot of the window, below the buttons of the wizards.
+/// Between the band and the module.
 void MainWindow::makeWhereabouts() {
     const FrmMain& form = m_program.frmMain;
-    m_whereabouts.setFontSize({8.25});
-    m_whereabouts.setStretch({0, 1, 1, 1});
+    constexpr double height = 36;
+    m_whereabouts.setFontSize({9.75});
+    m_whereabouts.setStretch({0, 0, 1, 0});
     m_whereaboutsView = new WhereaboutsView(m_program, m_whereabouts, pixelGrid(), this);
     mirrorControl(m_whereabouts, *m_whereaboutsView, *this);
     const auto follow = [this, &form] {
-        const Twips left = form.fraBrainstorm.bounds().left + gridLength(24);
-        m_whereabouts.setBounds({left, form.height - gridLength(19),
-                                 form.width - left - gridLength(24), gridLength(16)});
+        const Bounds& module = form.fraBrainstorm.bounds();
+        const Twips shown = module.top * (height / (bandHeight + height));
+        m_whereabouts.setBounds({module.left, module.top - shown, form.width - module.left, shown});
     };
+    m_program.frmMain.fraBrainstorm.changed.subscribe(follow);
     m_program.frmMain.sizeChanged.subscribe(follow);
     follow();
 }
@@ -371,7 +402,25 @@ void MainWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), theme::sideGround);
     drawBand(painter, width());
-    drawHome(painter, m_panels.at(&m_program.frmMain.fraBrainstorm)->geometry());
+    const FrmMain& form = m_program.frmMain;
+    drawModuleBar(painter);
+    const QRect home =
+        m_panels.at(&form.fraBrainstorm)->geometry().united(m_whereaboutsView->geometry());
+    painter.fillRect(home, theme::paper);
+    if (form.moduleScreens.hasVisible()) return;
+    QRect room = home;
+    room.setTop(drawSteps(painter, home, *this, form));
+    drawEmblem(painter, room);
+}
+
+/// Beside the button of the module that is open.
+void MainWindow::drawModuleBar(QPainter& painter) {
+    const FrmMain& form = m_program.frmMain;
+    const Panel* module = form.moduleScreens.top();
+    if (!module) return;
+    const Button opener = module == &form.fraBrainstorm ? Button::Brainstorm : Button::Analyze;
+    const QRect place = placeOf(form.buttons[opener], *this);
+    painter.fillRect(QRect(place.left() - 10, place.top(), 4, place.height()), theme::deepBlue);
 }
 
 }  // namespace orvanta::desktop

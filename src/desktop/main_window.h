@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPainter>
 #include <unordered_map>
 
 #include "core/session_state.h"
@@ -17,7 +18,7 @@ public:
     /// The program must outlive the window's use.
     explicit MainWindow(Program& program);
 
-    /// Tells of a save that failed in the line at the foot, until the next press in this window.
+    /// Tells of a save that failed in the line at the head, until the next press in this window.
     /// The saves must outlive the window's use.
     void tellOf(RescuedSaves& saves);
 
@@ -39,6 +40,7 @@ private:
     void makeLink(Label& label, LinkView::Ground ground, void (*clicked)(Program&));
     void makeMergeLink();
     void makeWhereabouts();
+    void drawModuleBar(QPainter& painter);
     void makeByKind(Control& control, ControlArea& area);
     void orderTabs();
     ControlArea& areaOf(const Control& control);

@@ -6,13 +6,28 @@
 
 #include "core/statement_lists.h"
 #include "desktop/art.h"
+#include "desktop/theme.h"
 #include "view/windows1252.h"
 
 namespace orvanta::desktop {
 
 namespace {
 
-constexpr int pictureSize = 12, gap = 4, groupGap = 16;
+constexpr int smallPicture = 12, numberGap = 4, countGap = 14;
+constexpr int kindPicture = 16, gap = 8, sideMargin = 24;
+constexpr int segmentHeight = 5, segmentGap = 4;
+constexpr int middleLine = static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextSingleLine;
+
+QRect pictureIn(const QRect& room, int left, int size) {
+    return {left, room.top() + (room.height() - size) / 2, size, size};
+}
+
+/// Draws words as far as there is room; returns where they end.
+int drawWords(QPainter& painter, const QRect& room, const QString& words) {
+    painter.drawText(room, middleLine,
+                     painter.fontMetrics().elidedText(words, Qt::ElideRight, room.width()));
+    return room.left() + painter.fontMetrics().horizontalAdvance(words);
+}
 
 }  // namespace
 
@@ -20,6 +35,7 @@ WhereaboutsView::WhereaboutsView(Program& program, Label& model, const PixelGrid
                                  QWidget* parent)
     : QLabel(parent), m_program(program), m_model(model) {
     setTextFormat(Qt::PlainText);
+    setContentsMargins(sideMargin, 0, sideMargin, 0);
     FrmMain& form = program.frmMain;
     for (const auto list : statementLists) (form.*list).watch(*this);
     for (Control* control : form.controls.all())
@@ -47,38 +63,69 @@ void WhereaboutsView::look() {
     m_failure = m_saves ? QString::fromStdString(m_saves->line()) : QString();
     const bool failed = !m_failure.isEmpty();
     m_model.setToolTip(failed ? windows1252From(m_saves->details()) : countsInWords(m_shown));
-    m_model.setVisible(failed || !m_shown.place.empty());
+    m_model.setVisible(failed || m_shown.step > 0);
     setText(failed ? m_failure : fromCp1252(inWords(m_shown)));
     update();
 }
 
 void WhereaboutsView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    painter.fillRect(rect(), theme::paper);
     if (m_failure.isEmpty()) return drawWhereabouts(painter);
-    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     fontMetrics().elidedText(m_failure, Qt::ElideMiddle, width()));
+    const QRect room = contentsRect();
+    painter.drawText(room, middleLine,
+                     fontMetrics().elidedText(m_failure, Qt::ElideMiddle, room.width()));
 }
 
 void WhereaboutsView::drawWhereabouts(QPainter& painter) const {
+    drawSegments(painter);
     painter.setPen(palette().color(QPalette::PlaceholderText));
-    int right = width();
+    QRect room = contentsRect().adjusted(0, 0, 0, -segmentHeight);
     for (auto kind = statementKinds.rbegin(); kind != statementKinds.rend(); ++kind)
-        right = drawCount(painter, right, *kind) - groupGap;
-    const QRect room(0, 0, right, height());
-    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     fontMetrics().elidedText(fromCp1252(m_shown.place), Qt::ElideRight, right));
+        room.setRight(drawCount(painter, room, *kind) - countGap);
+    drawPlace(painter, room);
 }
 
-/// Draws the picture and the number of a kind; returns where they begin.
-int WhereaboutsView::drawCount(QPainter& painter, int right, StatementKind kind) const {
+void WhereaboutsView::drawPlace(QPainter& painter, const QRect& room) const {
+    QRect left = room;
+    if (m_shown.kind) {
+        rowIcon(imageOf(*m_shown.kind)).paint(&painter, pictureIn(room, room.left(), kindPicture));
+        left.setLeft(room.left() + kindPicture + gap);
+    }
+    QFont bold = font();
+    bold.setBold(true);
+    painter.setFont(bold);
+    painter.setPen(theme::deepBlue);
+    left.setLeft(drawWords(painter, left, fromCp1252(m_shown.stepName)) + gap);
+    painter.setFont(font());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    drawWords(painter, left, fromCp1252(m_shown.question));
+}
+
+/// Draws the picture and the number of a kind at the right of the room; returns where they begin.
+int WhereaboutsView::drawCount(QPainter& painter, const QRect& room, StatementKind kind) const {
     const QString count = QString::number(m_shown.counts[kind]);
-    const int left = right - fontMetrics().horizontalAdvance(count);
-    painter.drawText(QRect(left, 0, right - left, height()), Qt::AlignRight | Qt::AlignVCenter,
-                     count);
-    const QRect picture(left - gap - pictureSize, (height() - pictureSize) / 2, pictureSize,
-                        pictureSize);
+    painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter, count);
+    const int left = room.right() - fontMetrics().horizontalAdvance(count) - numberGap;
+    const QRect picture = pictureIn(room, left - smallPicture, smallPicture);
     rowIcon(imageOf(kind)).paint(&painter, picture);
     return picture.left();
+}
+
+/// One for each step over the whole width; those that have been reached are filled.
+void WhereaboutsView::drawSegments(QPainter& painter) const {
+    const QRect room = contentsRect();
+    const auto edge = [&room, this](int step) {
+        return room.left() + (room.width() + segmentGap) * step / m_shown.stepCount;
+    };
+    for (int step = 0; step < m_shown.stepCount; ++step) {
+        const QRect segment(QPoint(edge(step), room.bottom() + 1 - segmentHeight),
+                            QPoint(edge(step + 1) - segmentGap - 1, room.bottom()));
+        const bool isReached = step < m_shown.step;
+        painter.setPen(isReached ? theme::deepBlue : palette().color(QPalette::Mid));
+        painter.setBrush(isReached ? theme::deepBlue : theme::paper);
+        painter.drawRect(segment.adjusted(0, 0, -1, -1));
+    }
 }
 
 }  // namespace orvanta::desktop

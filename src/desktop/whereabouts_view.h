@@ -8,8 +8,9 @@
 
 namespace orvanta::desktop {
 
-/// A quiet line at the foot of a module: the step of the wizard, and how many statements stand
-/// in each of its lists. In their place it says, of a save that failed, what is to be known.
+/// A line at the head of a module: the step of the wizard, a segment for each of its steps, and
+/// how many statements stand in each of its lists. In their place it says, of a save that failed,
+/// what is to be known.
 class WhereaboutsView : public QLabel, private StatementListObserver {
 public:
     /// `model`: tells the place; the view switches it on and off.
@@ -30,7 +31,9 @@ private:
     void cleared() override { mayDiffer(); }
     void look();
     void drawWhereabouts(QPainter& painter) const;
-    int drawCount(QPainter& painter, int right, StatementKind kind) const;
+    void drawPlace(QPainter& painter, const QRect& room) const;
+    int drawCount(QPainter& painter, const QRect& room, StatementKind kind) const;
+    void drawSegments(QPainter& painter) const;
 
     const Program& m_program;
     Label& m_model;

@@ -7,7 +7,7 @@
 namespace orvanta::test {
 namespace {
 
-std::string placeIn(Bench& bench) { return whereaboutsOf(bench.program()).place; }
+std::string placeIn(Bench& bench) { return placeInWords(whereaboutsOf(bench.program())); }
 
 using Counts = std::vector<int>;
 
@@ -63,6 +63,19 @@ TEST(Whereabouts, NumberTheStepsOfAnAnalysis) {
                              "Step 7 of 7: Mapping onto threats"}));
 }
 
+TEST(Whereabouts, TellTheKindThatEachStepOfAnAnalysisIsAbout) {
+    AnalysisBench bench;
+    std::vector<std::optional<StatementKind>> kinds;
+    for (int step = 0; step < 7; ++step) {
+        kinds.push_back(whereaboutsOf(bench.program()).kind);
+        if (step < 6) bench.next(1);
+    }
+    using enum StatementKind;
+    EXPECT_EQ(kinds,
+              (std::vector<std::optional<StatementKind>>{
+                  std::nullopt, Strength, Weakness, Opportunity, Threat, Opportunity, Threat}));
+}
+
 TEST(Whereabouts, CountTheStatementsOfTheModuleInSight) {
     AnalysisBench bench;
     bench.next(1);
@@ -76,11 +89,13 @@ TEST(Whereabouts, CountTheStatementsOfTheModuleInSight) {
 }
 
 TEST(Whereabouts, TellTheirCountsInWords) {
-    const Whereabouts whereabouts{"Step 3 of 5: Weaknesses",
-                                  {{{StatementKind::Strength, 2},
-                                    {StatementKind::Weakness, 0},
-                                    {StatementKind::Opportunity, 11},
-                                    {StatementKind::Threat, 1}}}};
+    const Whereabouts whereabouts{.step = 3,
+                                  .stepCount = 5,
+                                  .stepName = "Weaknesses",
+                                  .counts = {{{StatementKind::Strength, 2},
+                                              {StatementKind::Weakness, 0},
+                                              {StatementKind::Opportunity, 11},
+                                              {StatementKind::Threat, 1}}}};
     EXPECT_EQ(countsInWords(whereabouts), "Strengths 2, Weaknesses 0, Opportunities 11, Threats 1");
     EXPECT_EQ(inWords(whereabouts),
               "Step 3 of 5: Weaknesses. Strengths 2, Weaknesses 0, Opportunities 11, Threats 1.");

@@ -89,18 +89,21 @@ TEST(ScreenTexts, NameEachListOfTheMappingScreensFromAbove) {
     }
 }
 
-TEST(ScreenLists, EndAtOneLineOnAllScreensAndAreOfOneWidth) {
+TEST(ScreenLists, BeginAndEndAtOneLineOnAllScreensAndAreOfOneWidth) {
     Bench bench;
     FrmMain& form = bench.form();
     const auto endOf = [](const Control& list) {
         return list.bounds().top.value + list.bounds().height.value;
     };
     const double end = endOf(form.lstFiles);
-    for (const char* name : {"lvOpportunity", "lvThreat", "lvWeaknessOp", "lvWeaknessTh"})
+    for (const char* name : {"lvOpportunity", "lvThreat", "lvWeaknessOp", "lvWeaknessTh"}) {
         EXPECT_EQ(endOf(bench.list(name)), end) << name;
+        EXPECT_EQ(bench.list(name).bounds().top, form.lstFiles.bounds().top) << name;
+    }
     for (const char* name : {"lvBStrength", "lvBWeakness", "lvBOpportunity", "lvBThreat",
                              "lvAStrength", "lvAWeakness", "lvAOpportunity", "lvAThreat"}) {
         EXPECT_EQ(endOf(bench.list(name)), end) << name;
+        EXPECT_EQ(bench.list(name).bounds().top, form.lstFiles.bounds().top) << name;
         EXPECT_EQ(bench.list(name).bounds().left, form.lstFiles.bounds().left) << name;
         EXPECT_EQ(bench.list(name).bounds().width, form.lstFiles.bounds().width) << name;
     }

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QFontMetrics>
+#include <QTextDocument>
+#include <QToolTip>
+
 namespace orvanta::test {
 
 namespace {
@@ -38,6 +42,25 @@ TEST(ShownToolTip, IsNeverTakenForMarkup) {
     EXPECT_TRUE(
         shownToolTip("<b>a</b> & c").contains(QStringLiteral("&lt;b&gt;a&lt;/b&gt; &amp; c")));
     EXPECT_TRUE(shownToolTip("").isEmpty());
+}
+
+TEST(ShownToolTip, IsOneLineWhereItIsNotWide) {
+    EXPECT_FALSE(shownToolTip("Add this statement to the list below.").contains(u'\n'));
+}
+
+TEST(ShownToolTip, IsBrokenIntoFewLinesOfEvenWidth) {
+    const QString shown = shownToolTip(
+        "Click here to see an overview presentation that will instruct you on the SWOT analysis "
+        "process, from the first thought to the report.");
+    QTextDocument document;
+    document.setHtml(shown);
+    const QStringList lines = document.toPlainText().split(u'\n');
+    ASSERT_GE(lines.size(), 2) << shown.toStdString();
+    const QFontMetrics metrics(QToolTip::font());
+    for (const QString& line : lines) {
+        EXPECT_LE(metrics.horizontalAdvance(line), 360) << line.toStdString();
+        EXPECT_GE(metrics.horizontalAdvance(line), 200) << line.toStdString();
+    }
 }
 
 TEST(PixelGrid, CountsInTheTwipsOfItsScreenAndRoundsToWholePixels) {

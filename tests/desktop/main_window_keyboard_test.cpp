@@ -72,7 +72,7 @@ TEST_F(Keyboard, GoesThroughAListScreenAsTheEyeDoes) {
               (Texts{"chkMute", "imgBtnOverview", "imgBtnBrainstorm", "imgBtnAnalyze",
                      "imgBtnReport", "imgBtnAbout", "imgBtnQuit", "cmdUndo", "cmdRedo",
                      "txtAStrength", "imgBtnASAdd", "lvAStrength", "imgBtnASEdit", "imgBtnASRemove",
-                     "imgBtnOAFile", "imgBtnAQuit", "imgBtnABack", "imgBtnANext"}));
+                     "imgBtnAQuit", "imgBtnOAFile", "imgBtnABack", "imgBtnANext"}));
 }
 
 TEST_F(Keyboard, ShowsWhereItIsOnEveryScreenOfAnAnalysis) {

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QtTest>
 
+#include "app/home_steps.h"
+#include "painted_contrast.h"
 #include "window_bench.h"
 
 namespace orvanta::test {
@@ -156,6 +158,21 @@ TEST(MainWindow, ShowsTwoAmpersandsOfAButtonAsOne) {
     bench.form().buttons[Button::Brainstorm].label.setCaption("R && D");
     EXPECT_EQ(bench.widget<QLabel>("lblBtnBrainstorm").text(), "R & D");
     EXPECT_EQ(bench.widget("imgBtnBrainstorm").accessibleName(), "R & D");
+}
+
+TEST(MainWindow, SaysBesideTheButtonsOfTheStepsWhatTheyAreForWhileNoModuleIsOpen) {
+    WindowBench<> bench;
+    bench.start();
+    bench.window().show();
+    const auto wordsBeside = [&bench](Button button) {
+        const std::string& name = bench.form().buttons[button].image.name();
+        const QRect place = bench.widget(name).geometry();
+        const QRect beside(QPoint(place.right() + 20, place.top()), QSize(160, place.height()));
+        return writtenContrast(paintedAs(bench.window(), beside));
+    };
+    for (const HomeStep& step : homeSteps) EXPECT_GE(wordsBeside(step.button), 4.5) << step.words;
+    EXPECT_EQ(wordsBeside(Button::Overview), 1);
+    EXPECT_EQ(wordsBeside(Button::Quit), 1);
 }
 
 }  // namespace orvanta::test

@@ -4,6 +4,7 @@
 
 #include <QtTest>
 
+#include "desktop/theme.h"
 #include "painted_contrast.h"
 #include "window_bench.h"
 
@@ -28,6 +29,19 @@ protected:
     QRect placeInWindow(const char* name) {
         QWidget& widget = bench.widget(name);
         return {widget.mapTo(&bench.window(), QPoint()), widget.size()};
+    }
+
+    int filledSegments() {
+        told();
+        const QImage line = paintedAs(bench.widget("lblWhereabouts"));
+        int filled = 0;
+        for (int x = 1; x < line.width(); ++x) {
+            const auto isBlue = [&](int at) {
+                return line.pixelColor(at, line.height() - 3) == theme::deepBlue;
+            };
+            filled += isBlue(x) && !isBlue(x - 1);
+        }
+        return filled;
     }
 
     WindowBench<> bench;
@@ -75,19 +89,60 @@ TEST_F(WhereaboutsLine, CoversNothing) {
     }
 }
 
-TEST_F(WhereaboutsLine, KeepsAwayFromTheLargeButtonAboveIt) {
-    bench.click("Analyze");
-    told();
-    EXPECT_GT(placeInWindow("lblWhereabouts").top(), placeInWindow("imgBtnOAFile").bottom() + 1);
-}
-
-TEST_F(WhereaboutsLine, StaysAtTheFootOfAWindowThatGrows) {
+TEST_F(WhereaboutsLine, LiesAtTheHeadOfTheModuleAlsoInAWindowThatGrows) {
     bench.openBrainstorm();
     told();
-    const QWidget& line = bench.widget("lblWhereabouts");
-    const int below = bench.window().height() - line.geometry().bottom();
     bench.window().resize(bench.window().size() + QSize(100, 100));
-    EXPECT_EQ(bench.window().height() - line.geometry().bottom(), below);
+    const QRect line = placeInWindow("lblWhereabouts"), module = placeInWindow("fraBrainstorm");
+    EXPECT_EQ(line.bottom() + 1, module.top());
+    EXPECT_EQ(line.left(), module.left());
+    EXPECT_EQ(line.right(), module.right());
+}
+
+TEST_F(WhereaboutsLine, FillsASegmentForEachStepThatIsReached) {
+    bench.click("Brainstorm");
+    EXPECT_EQ(filledSegments(), 1);
+    bench.click("BQuit");
+    bench.openBrainstorm();
+    EXPECT_EQ(filledSegments(), 2);
+    for (int press = 0; press < 9; ++press) bench.click("BNext");
+    EXPECT_EQ(filledSegments(), 5);
+}
+
+TEST_F(WhereaboutsLine, ShowsThePictureOfTheKindThatTheStepIsAbout) {
+    bench.openBrainstorm();
+    told();
+    const QRect picture(24, 8, 16, 16);
+    const QImage strengths = paintedAs(bench.widget("lblWhereabouts"), picture);
+    for (int press = 0; press < 3; ++press) bench.click("BNext");
+    told();
+    EXPECT_NE(paintedAs(bench.widget("lblWhereabouts"), picture), strengths);
+}
+
+TEST_F(WhereaboutsLine, IsHelpedByABarBesideTheButtonOfTheModule) {
+    const auto barBeside = [this](const char* button) {
+        const QRect place = placeInWindow(button);
+        return paintedAs(bench.window()).pixelColor(place.left() - 8, place.center().y()) ==
+               theme::deepBlue;
+    };
+    told();
+    EXPECT_FALSE(barBeside("imgBtnBrainstorm"));
+    bench.click("Brainstorm");
+    EXPECT_TRUE(barBeside("imgBtnBrainstorm"));
+    EXPECT_FALSE(barBeside("imgBtnAnalyze"));
+    bench.click("BQuit");
+    bench.click("Analyze");
+    EXPECT_FALSE(barBeside("imgBtnBrainstorm"));
+    EXPECT_TRUE(barBeside("imgBtnAnalyze"));
+}
+
+TEST_F(WhereaboutsLine, LeavesTheButtonsAtTheFootOneHeight) {
+    bench.click("Analyze");
+    told();
+    for (const char* name : {"imgBtnOAFile", "imgBtnABack"}) {
+        EXPECT_EQ(placeInWindow(name).top(), placeInWindow("imgBtnAQuit").top()) << name;
+        EXPECT_EQ(placeInWindow(name).height(), placeInWindow("imgBtnAQuit").height()) << name;
+    }
 }
 
 TEST_F(WhereaboutsLine, StaysCheapWhileALongListFills) {
