@@ -1,6 +1,7 @@
 #include "app/list_commands.h"
 
 #include "analyze/mapping.h"
+#include "app/shortcuts.h"
 #include "app/window_events.h"
 #include "core/kind_controls.h"
 #include "core/list_ranking.h"
@@ -14,15 +15,10 @@ namespace {
 constexpr std::string_view editKey = "F2", removeKey = "Del", mapKey = "Ctrl+M", upKey = "Alt+Up",
                            downKey = "Alt+Down";
 
-void press(Program& program, Button button) {
-    buttonPressed(program, button);
-    buttonReleased(program, button);
-}
-
 ListCommand commandOf(Button button, std::string_view caption, std::string_view key,
                       bool isOffered) {
     return {std::string(caption), key, isOffered,
-            [button](Program& program) { press(program, button); }};
+            [button](Program& program) { clickButton(program, button); }};
 }
 
 /// A mapped row, or a parent row that its own list has lost. Any other parent row would be gone for

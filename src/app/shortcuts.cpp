@@ -7,17 +7,21 @@ namespace orvanta {
 namespace {
 
 template <Button button>
-void press(Program& program) {
-    buttonPressed(program, button);
-    buttonReleased(program, button);
+void click(Program& program) {
+    clickButton(program, button);
 }
 
 template <Button button>
 Shortcut shortcutOf(const FrmMain& form, std::string_view keys, bool goesOn = false) {
-    return {keys, &form.buttons[button].image, press<button>, goesOn};
+    return {keys, &form.buttons[button].image, click<button>, goesOn};
 }
 
 }  // namespace
+
+void clickButton(Program& program, Button button) {
+    buttonPressed(program, button);
+    buttonReleased(program, button);
+}
 
 std::vector<Shortcut> shortcutsOf(const FrmMain& form) {
     return {shortcutOf<Button::BNext>(form, "Ctrl+Return", true),

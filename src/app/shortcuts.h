@@ -7,6 +7,9 @@
 
 namespace orvanta {
 
+/// Presses a skinned button and lets it go, as a person does without the mouse.
+void clickButton(Program& program, Button button);
+
 /// A key that works wherever the keyboard is in the main window, unless what has it needs the key
 /// itself.
 struct Shortcut {

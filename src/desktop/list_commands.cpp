@@ -52,7 +52,7 @@ private:
     /// True if one of the commands has this key, offered or not.
     bool chooseByKey(const QKeySequence& key) {
         for (const ListCommand& command : commands()) {
-            if (command.key.empty() || keyOf(command) != key) continue;
+            if (command.key.empty() || keysFrom(command.key) != key) continue;
             if (command.isOffered) command.choose(m_program);
             return true;
         }
@@ -60,10 +60,6 @@ private:
     }
 
     std::vector<ListCommand> commands() const { return listCommandsOf(m_program.frmMain, m_list); }
-
-    static QKeySequence keyOf(const ListCommand& command) {
-        return QKeySequence::fromString(fromCp1252(command.key), QKeySequence::PortableText);
-    }
 
     void show(const QPoint& globalPlace) {
         auto* menu = new QMenu(&m_view);
@@ -85,7 +81,7 @@ private:
                                     .elidedText(lineOf(command.caption), Qt::ElideRight, widest)
                                     .replace(u'&', QLatin1String("&&"));
         if (command.key.empty()) return caption;
-        return caption + u'\t' + keyOf(command).toString(QKeySequence::NativeText);
+        return caption + u'\t' + keysFrom(command.key).toString(QKeySequence::NativeText);
     }
 
     Program& m_program;
@@ -94,6 +90,10 @@ private:
 };
 
 }  // namespace
+
+QKeySequence keysFrom(std::string_view keys) {
+    return QKeySequence::fromString(fromCp1252(keys), QKeySequence::PortableText);
+}
 
 void offerListCommands(Program& program, QWidget& window) {
     for (const Control* list : program.frmMain.controls.all()) {

@@ -118,10 +118,6 @@ bool isPress(const QEvent& event) {
     return std::ranges::find(companions, key) == companions.end();
 }
 
-QKeySequence keysOf(const Shortcut& shortcut) {
-    return QKeySequence::fromString(fromCp1252(shortcut.keys), QKeySequence::PortableText);
-}
-
 bool isFocusable(const QWidget* widget) { return widget->focusPolicy() & Qt::TabFocus; }
 
 }  // namespace
@@ -188,7 +184,7 @@ void MainWindow::tellShortcuts() {
     for (const Shortcut& shortcut : shortcutsOf(m_program.frmMain)) {
         auto* button = findChild<QAbstractButton*>(fromCp1252(shortcut.control->name()));
         assert(button);
-        const QString keys = keysOf(shortcut).toString(QKeySequence::NativeText);
+        const QString keys = keysFrom(shortcut.keys).toString(QKeySequence::NativeText);
         const QString told = button->property("keys").toString();
         button->setProperty("keys", told.isEmpty() ? keys : told + QLatin1String(", ") + keys);
         describe(*shortcut.control, *button);
@@ -341,9 +337,9 @@ void MainWindow::focusScreen() {
     const Panel* shown = screen();
     const bool isNew = std::exchange(m_focusedScreen, shown) != shown;
     if (!shown || !(std::exchange(m_wentOnByKey, false) || isNew)) return;
-    if (isNew)
+    if (isNew)  // lists open at their first row, whatever came while they were out of sight
         for (QWidget* widget : m_panels.at(shown)->findChildren<QWidget*>())
-            if (auto* list = dynamic_cast<StatementListView*>(widget)) list->openAtFirstRow();
+            if (auto* list = dynamic_cast<StatementListView*>(widget)) list->scrollToTop();
     const Control* first = firstStop(*shown);
     if (!first) return;
     auto* widget = findChild<QWidget*>(fromCp1252(first->name()));
@@ -365,7 +361,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
     const bool turnsPages = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
     if (turnsPages && qobject_cast<QAbstractItemView*>(focusWidget())) return;
     for (const Shortcut& shortcut : shortcutsOf(m_program.frmMain)) {
-        if (!shortcut.control->isReachable() || keysOf(shortcut) != pressed) continue;
+        if (!shortcut.control->isReachable() || keysFrom(shortcut.keys) != pressed) continue;
         shortcut.choose(m_program);
         m_whereaboutsView->mayDiffer();
         if (shortcut.goesOn) goOnByKey();

@@ -98,8 +98,6 @@ void StatementListView::selectionChanged(const QItemSelection& selected,
     m_list.select(chosen.isEmpty() ? 0 : chosen.front().row() + 1);
 }
 
-void StatementListView::openAtFirstRow() { scrollToTop(); }
-
 /// The first key in a list where nothing is chosen chooses its first row, which Qt would pass over.
 void StatementListView::keyPressEvent(QKeyEvent* event) {
     const bool moves = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;

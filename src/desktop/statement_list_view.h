@@ -32,8 +32,6 @@ public:
     /// True if the list lights up as a whole.
     bool isLit() const { return m_preview.target == DropTarget::WholeList; }
 
-    /// As a person finds the list who comes to its screen: at its first row.
-    void openAtFirstRow();
     /// The wheel, turned while a drag is under way. `angle`: 120 for a notch, above 0 away from the
     /// person.
     void scrollInDrag(int angle);
