@@ -15,6 +15,13 @@ namespace orvanta {
 
 namespace {
 
+/// The values of the shared dialog as it has them where a person chooses this path.
+void prepareDialog(FrmMain& form, const std::string& path) {
+    form.cd.filter = brainstormFilter;
+    form.cd.initialPath = form.lastPathBSM;
+    form.cd.fileName = path;
+}
+
 /// Copies are to have keys that count up from 1, and so have the rows that were just read.
 void copyRows(FrmMain& form, StatementKind kind) {
     const StatementList& source = listOf(form, Session::Analyze, kind);
@@ -23,11 +30,21 @@ void copyRows(FrmMain& form, StatementKind kind) {
 
 }  // namespace
 
-void addAnalyzeSourceFile(Program& program) {
-    FrmMain& form = program.frmMain;
+void addAnalyzeSourceFiles(Program& program) {
+    const FileDialog& cd = program.frmMain.cd;
+    prepareDialog(program.frmMain, {});
     const BestEffort step;
-    std::string path;
-    if (!step([&] { path = form.cd.askToOpen(brainstormFilter, form.lastPathBSM); })) return;
+    std::vector<std::string> paths;
+    step([&] {
+        paths = program.platform.fileDialogs.chooseSeveral(
+            {FileDialogMode::Open, cd.filter, cd.initialPath, cd.fileName});
+    });
+    for (const std::string& path : paths) addChosenSourceFile(program, path);
+}
+
+void addChosenSourceFile(Program& program, const std::string& path) {
+    FrmMain& form = program.frmMain;
+    prepareDialog(form, path);
     if (!fileExists(program, path)) return;
     // Ahead of the test for duplicates: a path that is refused below is remembered all the same.
     rememberPath(program, brainstormPath, path);

@@ -21,7 +21,7 @@ using Action = void (*)(Program&);
 constexpr PerButton<Action> actions{{
     {Button::ABack, analyzeBack},
     {Button::About, openAboutBox},
-    {Button::AFAdd, addAnalyzeSourceFile},
+    {Button::AFAdd, addAnalyzeSourceFiles},
     {Button::AFRemove, removeAnalyzeSourceFile},
     {Button::Analyze, openAnalyzeModule},
     {Button::ANext, analyzeNext},

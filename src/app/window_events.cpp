@@ -1,6 +1,7 @@
 #include "app/window_events.h"
 
 #include "analyze/mapping.h"
+#include "analyze/source_files.h"
 #include "analyze/statements.h"
 #include "app/button_actions.h"
 #include "app/shutdown.h"
@@ -117,6 +118,10 @@ DropPreview previewOfDrop(const Program& program, const StatementList& from,
 
 void hoveredOver(Program& program, StatementList& list, int position) {
     handle(program, [&] { showRowToolTip(program, list, position); });
+}
+
+void sourceFileDropped(Program& program, const std::string& path) {
+    handle(program, [&] { addChosenSourceFile(program, path); });
 }
 
 void autoSaveTicked(Program& program) {

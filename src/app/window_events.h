@@ -45,6 +45,9 @@ DropPreview previewOfDrop(const Program& program, const StatementList& from,
 /// The mouse moves over a list.
 void hoveredOver(Program& program, StatementList& list, int position);
 
+/// A person drops a file on the list of source files.
+void sourceFileDropped(Program& program, const std::string& path);
+
 void autoSaveTicked(Program& program);
 
 // Commands of the lists' menus.

@@ -148,8 +148,8 @@ ReportDialog::ReportDialog(Program& program, FrmReportType& form, QWidget* owner
     file->setBuddy(box);
     makePushButton(form.cmdBrowse, *m_area,
                    [this] { handle(m_program, [&] { browseForAnalyzeFile(m_program, m_form); }); });
+    makePushButton(form.CancelButton, *m_area, [this] { m_form.close(); });  // left of OK
     makePushButton(form.OKButton, *m_area, accept)->setDefault(true);
-    makePushButton(form.CancelButton, *m_area, [this] { m_form.close(); });
     const auto showEnabled = [this] { m_area->setEnabled(m_form.enabled); };  // the close box stays
     form.enabledChanged.subscribe(showEnabled);
     showEnabled();

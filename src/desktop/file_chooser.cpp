@@ -5,12 +5,13 @@
 #include <QFileSystemModel>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QListView>
 #include <QStandardPaths>
 #include <QTreeView>
+#include <algorithm>
 #include <cassert>
 
 #include "desktop/conversions.h"
-#include "desktop/message_box.h"
 
 namespace orvanta::desktop {
 
@@ -47,18 +48,27 @@ FileChooser::FileChooser(const FileDialogRequest& request, FileRules rules, QWid
     setOption(DontConfirmOverwrite);
     setFileMode(AnyFile);
     setAcceptMode(request.mode == FileDialogMode::Open ? AcceptOpen : AcceptSave);
-    auto* files = findChild<QTreeView*>(QStringLiteral("treeView"));
-    assert(files && nameBox() && "the toolkit's file dialog has other parts than this one knows");
-    QHeaderView& columns = *files->header();
+    assert(files() && nameBox() && "the toolkit's file dialog has other parts than this one knows");
+    QHeaderView& columns = *files()->header();
     columns.setStretchLastSection(false);
     columns.setSectionResizeMode(QHeaderView::ResizeToContents);
     columns.setSectionResizeMode(0, QHeaderView::Stretch);
     if (!request.fileName.empty()) selectFile(fromPath(request.fileName));
 }
 
+/// The toolkit's own mode for several files would turn off the button at a name without its ending.
+void FileChooser::takeSeveral() {
+    m_severalFiles = true;
+    files()->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    findChild<QListView*>(QStringLiteral("listView"))
+        ->setSelectionMode(QAbstractItemView::ExtendedSelection);
+}
+
 QLineEdit* FileChooser::nameBox() const {
     return findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
 }
+
+QTreeView* FileChooser::files() const { return findChild<QTreeView*>(QStringLiteral("treeView")); }
 
 void FileChooser::accept() {
     m_typed = nameBox()->text();
@@ -75,17 +85,27 @@ void FileChooser::accept() {
 bool FileChooser::follow(const QString& name) {
     if (name.isEmpty()) return false;
     m_place.folder = directory().absolutePath().toStdString();
-    const FileChoice choice = choiceOf(m_place, name.toStdString());
-    m_path = QString::fromStdString(choice.path);
+    m_paths.clear();
+    const std::string typed = name.toStdString();
+    const auto names = m_severalFiles ? namesIn(typed) : std::vector{typed};
+    return names.size() == 1 ? take(choiceOf(m_place, names.front())) : followSeveral(names);
+}
+
+bool FileChooser::followSeveral(const std::vector<std::string>& names) {
+    return std::ranges::all_of(
+        names, [this](const std::string& name) { return take(fileChoiceOf(m_place, name)); });
+}
+
+bool FileChooser::take(const FileChoice& choice) {
     switch (choice.act) {
         case FileChoiceAct::EnterFolder:
-            enter(m_path);
+            enter(QString::fromStdString(choice.path));
             return false;
         case FileChoiceAct::Refuse:
-            refuse(fromCp1252(choice.reason) + u'\n' + m_path);
+            refuse(choice);
             return false;
         case FileChoiceAct::TakeFile:
-            break;
+            m_paths.append(QString::fromStdString(choice.path));
     }
     return true;
 }
@@ -101,20 +121,24 @@ void FileChooser::enter(const QString& folder) {
     nameBox()->completer()->popup()->hide();
 }
 
-void FileChooser::refuse(const QString& reason) {
-    auto* box = new MessageBox({.text = {}, .icon = MessageIcon::Stop}, this);
-    box->setText(reason);
+void FileChooser::refuse(const FileChoice& choice) {
+    MessageBox* box = boxOfRefusal(choice, this).release();  // the dialog's child from here on
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
 }
 
 QString FileChooser::selectedFolder() const {
-    const auto* files = findChild<QTreeView*>(QStringLiteral("treeView"));
-    const QModelIndexList selected = files->selectionModel()->selectedRows();
+    const QModelIndexList selected = files()->selectionModel()->selectedRows();
     if (selected.size() != 1) return {};
     const QFileInfo file(selected.front().data(QFileSystemModel::FilePathRole).toString());
     const bool isShown = file.absolutePath() == directory().absolutePath();  // not the last folder
     return isShown && file.isDir() ? file.absoluteFilePath() : QString();
+}
+
+std::unique_ptr<MessageBox> boxOfRefusal(const FileChoice& choice, QWidget* owner) {
+    auto box = std::make_unique<MessageBox>(Message{.text = {}, .icon = MessageIcon::Stop}, owner);
+    box->setText(fromCp1252(choice.reason) + u'\n' + QString::fromStdString(choice.path));
+    return box;
 }
 
 }  // namespace orvanta::desktop

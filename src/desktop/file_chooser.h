@@ -1,10 +1,13 @@
 #pragma once
 
 #include <QFileDialog>
+#include <memory>
 
+#include "desktop/message_box.h"
 #include "view/file_choice.h"
 
 class QLineEdit;
+class QTreeView;
 
 namespace orvanta::desktop {
 
@@ -16,11 +19,14 @@ class FileChooser : public QFileDialog {
 public:
     FileChooser(const FileDialogRequest& request, FileRules rules, QWidget* owner);
 
+    /// Lets a person choose several files, by the rules.
+    void takeSeveral();
+
     QLineEdit* nameBox() const;
     /// What was typed or picked, as it stood in the name box.
     const QString& typed() const { return m_typed; }
-    /// The whole path that the rules made of it.
-    const QString& path() const { return m_path; }
+    /// The whole paths that the rules made of it: one, or several where several may be chosen.
+    const QStringList& paths() const { return m_paths; }
 
 protected:
     void accept() override;
@@ -28,14 +34,22 @@ protected:
 private:
     /// True once there is a path to give.
     bool follow(const QString& name);
+    bool followSeveral(const std::vector<std::string>& names);
+    bool take(const FileChoice& choice);
     void enter(const QString& folder);
-    void refuse(const QString& reason);
+    void refuse(const FileChoice& choice);
+    QTreeView* files() const;
     /// The folder that is selected among the files; empty if none is.
     QString selectedFolder() const;
 
     FileDialogPlace m_place;
     FileRules m_rules;
-    QString m_typed, m_path;
+    bool m_severalFiles = false;
+    QString m_typed;
+    QStringList m_paths;
 };
+
+/// The box that tells why a name can't be had.
+std::unique_ptr<MessageBox> boxOfRefusal(const FileChoice& choice, QWidget* owner);
 
 }  // namespace orvanta::desktop

@@ -201,7 +201,8 @@ void MainWindow::makeOthers() {
     redo->setIcon(pictureIcon(QStringLiteral("redo")));
     makeLink(form.lblDistribute, LinkView::Ground::Card, distributeClicked);
     makeMergeLink();
-    makeListBox(form.lstFiles, areaOf(form.lstFiles));
+    makeFileList(form.lstFiles, areaOf(form.lstFiles),
+                 [this](const std::string& path) { sourceFileDropped(m_program, path); });
     for (Control* control : form.controls.all()) {
         ControlArea& area = areaOf(*control);
         const QString name = fromCp1252(control->name());

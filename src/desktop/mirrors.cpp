@@ -3,16 +3,12 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QListWidget>
-#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <utility>
 
-#include "app/list_hints.h"
 #include "desktop/clicks.h"
-#include "desktop/statement_row_painter.h"
 
 namespace orvanta::desktop {
 
@@ -33,32 +29,6 @@ void showCaption(const CaptionedControl& model, QAbstractButton& widget, const C
     showFont(model, widget, area);
     widget.setText(fromCp1252(model.caption()));
     widget.setAccessibleName(shownCaption(model.caption()));
-}
-
-/// The list of files, which tells what comes there as long as it is empty.
-class FileListView : public QListWidget {
-public:
-    FileListView(const ListBox& model, QWidget* parent) : QListWidget(parent), m_model(model) {}
-
-protected:
-    void paintEvent(QPaintEvent* event) override {
-        QListWidget::paintEvent(event);
-        QPainter painter(viewport());
-        drawHint(painter, *viewport(), 0, fromCp1252(hintIn(m_model)));
-    }
-
-private:
-    const ListBox& m_model;
-};
-
-void showFiles(const ListBox& model, QListWidget& widget) {
-    const QSignalBlocker silence(widget);
-    widget.clear();
-    for (const std::string& path : model.items()) {
-        auto* item = new QListWidgetItem(fromPath(path), &widget);
-        item->setToolTip(shownToolTip(fromPath(path)));
-    }
-    widget.setCurrentRow(model.selectedIndex());
 }
 
 }  // namespace
@@ -150,17 +120,11 @@ QComboBox* makeComboBox(ComboBox& model, ControlArea& area) {
     return widget;
 }
 
-QListWidget* makeListBox(ListBox& model, ControlArea& area) {
-    auto* widget = new FileListView(model, &area);
-    widget->setTextElideMode(Qt::ElideMiddle);
-    widget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+FileListView* makeFileList(ListBox& model, ControlArea& area, FileListView::Dropped dropped) {
+    auto* widget = new FileListView(model, std::move(dropped), &area);
     follow(model, [&model, widget, &area] {
         showFont(model, *widget, area);
-        showFiles(model, *widget);
-    });
-    QObject::connect(widget, &QListWidget::itemSelectionChanged, widget, [&model, widget] {
-        const auto chosen = widget->selectedItems();
-        model.setSelectedIndex(chosen.isEmpty() ? -1 : widget->row(chosen.front()));
+        widget->showFiles();
     });
     mirrorControl(model, *widget, area);
     return widget;

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "desktop/control_area.h"
+#include "desktop/file_list_view.h"
 #include "desktop/skinned_button_view.h"
 #include "desktop/text_box_view.h"
 #include "view/control.h"
 
 class QCheckBox;
 class QComboBox;
-class QListWidget;
 class QPushButton;
 class QRadioButton;
 
@@ -31,7 +31,7 @@ QRadioButton* makeOption(Option& model, ControlArea& area);
 QCheckBox* makeCheckBox(CheckBox& model, ControlArea& area, std::function<void(bool on)> clicked);
 QPushButton* makePushButton(PushButton& model, ControlArea& area, std::function<void()> clicked);
 QComboBox* makeComboBox(ComboBox& model, ControlArea& area);
-QListWidget* makeListBox(ListBox& model, ControlArea& area);
+FileListView* makeFileList(ListBox& model, ControlArea& area, FileListView::Dropped dropped);
 void makeSkinnedButton(SkinnedButton& model, ControlArea& area, const ButtonActs& acts);
 
 }  // namespace orvanta::desktop

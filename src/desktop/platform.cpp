@@ -58,7 +58,16 @@ MessageAnswer DesktopMessageBoxes::show(const Message& message) {
 std::optional<std::string> DesktopFileDialogs::choose(const FileDialogRequest& request) {
     FileChooser chooser(request, FileRules::Heeded, owner());
     if (chooser.exec() != QDialog::Accepted) return std::nullopt;
-    return toPath(chooser.path());
+    return toPath(chooser.paths().front());
+}
+
+std::vector<std::string> DesktopFileDialogs::chooseSeveral(const FileDialogRequest& request) {
+    FileChooser chooser(request, FileRules::Heeded, owner());
+    chooser.takeSeveral();
+    if (chooser.exec() != QDialog::Accepted) return {};
+    std::vector<std::string> paths;
+    for (const QString& path : chooser.paths()) paths.push_back(toPath(path));
+    return paths;
 }
 
 std::string DesktopSettings::read(std::string_view section, std::string_view key) const {

@@ -8,7 +8,6 @@
 #include "desktop/player.h"
 #include "desktop/question_printer.h"
 #include "reports/document_writer.h"
-#include "view/platform.h"
 #ifdef _WIN32
 #include "reports/windows_word_processor.h"
 #endif
@@ -25,6 +24,7 @@ public:
 class DesktopFileDialogs : public FileDialogs {
 public:
     std::optional<std::string> choose(const FileDialogRequest& request) override;
+    std::vector<std::string> chooseSeveral(const FileDialogRequest& request) override;
 };
 
 /// One file for each user.

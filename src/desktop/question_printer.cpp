@@ -11,7 +11,9 @@
 #include <QPrinter>
 #include <QToolBar>
 
+#include "core/constants.h"
 #include "desktop/conversions.h"
+#include "desktop/message_box.h"
 #include "desktop/question_sheet_pages.h"
 #include "desktop/screen_room.h"
 #include "presentation/sheet_texts.h"
@@ -57,6 +59,13 @@ bool isWanted(const QPrinter& printer, int page) {
     return printer.printRange() != QPrinter::PageRange || printer.pageRanges().contains(page);
 }
 
+void tellWhatIsMissing(const QuestionSheets& sheets) {
+    MessageBox box({.text = {}, .icon = MessageIcon::Stop, .title = std::string(appTitle)},
+                   QApplication::activeWindow());
+    box.setText(fromCp1252(nothingToPrint) + u'\n' + fromPath(sheets.bankPath));
+    box.exec();
+}
+
 }  // namespace
 
 void printQuestionSheets(QPrinter& printer, const QuestionSheets& sheets) {
@@ -74,9 +83,10 @@ void printQuestionSheets(QPrinter& printer, const QuestionSheets& sheets) {
 }
 
 void PreviewingPrinter::print(const QuestionSheets& sheets) {
+    if (isEmpty(sheets)) return tellWhatIsMissing(sheets);
     const QString title = fromCp1252(sheets.title);
     QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(title);
+    printer.setDocName(fromCp1252(documentNameOf(sheets)));  // also that of a PDF file
     printer.setPageSize(QPageSize(usualPaper()));
     printer.setPageMargins({20, 16, 20, 12}, QPageLayout::Millimeter);
     QPrintPreviewDialog preview(&printer, QApplication::activeWindow());

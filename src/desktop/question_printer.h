@@ -11,7 +11,7 @@ namespace orvanta::desktop {
 void printQuestionSheets(QPrinter& printer, const QuestionSheets& sheets);
 
 /// Shows the sheets as they will be on paper, on A4 or Letter; printing, on a printer or into a
-/// PDF file, starts from there.
+/// PDF file, starts from there. Where there is no question it says which file should hold them.
 class PreviewingPrinter : public QuestionPrinter {
 public:
     void print(const QuestionSheets& sheets) override;

@@ -45,7 +45,7 @@ public:
     double questionSpacing() const { return millimetres(7); }
     double numberWidth() const { return millimetres(9); }
     double footHeight() const { return millimetres(9); }
-    double headHeight(bool opensKind) const { return millimetres(opensKind ? 48 : 25); }
+    double headHeight(bool opensKind) const { return millimetres(opensKind ? 48 : 29); }
 
 private:
     const QPaintDevice& m_device;
@@ -88,34 +88,63 @@ public:
 
     std::vector<SheetPage> pagesOf(const std::vector<Block>& blocks) {
         m_pages.clear();
-        openPage();
+        const std::size_t fewest = pagesTo(leastRules, blocks);
+        int rules = mostRules;
+        while (rules > leastRules && !fitEvenly(blocks, fewest, rules)) --rules;
+        const bool evenly = fitEvenly(blocks, fewest, rules);
         std::size_t next = 0;
-        while (next < blocks.size()) {
-            const std::size_t end = endOfPage(blocks, next, leastRules);
-            int rules = leastRules;
-            while (rules < mostRules && endOfPage(blocks, next, rules + 1) == end) ++rules;
+        for (std::size_t page = 0; next < blocks.size() || page == 0; ++page) {
+            openPage();
+            const std::size_t end = evenly ? next + shareOf(page, fewest, blocks.size())
+                                           : endOfPage(blocks, next, rules);
             for (; next < end; ++next) place(blocks[next], rules);
-            if (next < blocks.size()) openPage();
         }
         return std::move(m_pages);
     }
 
 private:
-    void openPage() {
-        m_pages.push_back({m_kind, m_pages.empty(), {}});
-        m_y = m_grid.headHeight(m_pages.back().opensKind);
+    double heightOf(const Block& block, int rules) const {
+        return block.height(rules, m_textHeight, m_grid);
     }
 
-    /// How far the blocks fill the page that is open; at least one goes on it.
+    /// How far the blocks fill a page; at least one goes on it.
     std::size_t endOfPage(const std::vector<Block>& blocks, std::size_t first, int rules) const {
-        double y = m_y;
+        double y = m_grid.headHeight(first == 0);
         std::size_t end = first;
         for (; end < blocks.size(); ++end) {
-            y += blocks[end].height(rules, m_textHeight, m_grid);
+            y += heightOf(blocks[end], rules);
             if (y > m_end && end > first) break;
             y += m_grid.questionSpacing();
         }
         return end;
+    }
+
+    std::size_t pagesTo(int rules, const std::vector<Block>& blocks) const {
+        std::size_t pages = 0;
+        for (std::size_t next = 0; next < blocks.size(); ++pages)
+            next = endOfPage(blocks, next, rules);
+        return pages;
+    }
+
+    /// How many blocks go on a page where all pages get equally many; one more go on the later
+    /// ones, whose heads are lower.
+    static std::size_t shareOf(std::size_t page, std::size_t pages, std::size_t blocks) {
+        return blocks == 0 ? 0 : blocks / pages + (page >= pages - blocks % pages ? 1 : 0);
+    }
+
+    bool fitEvenly(const std::vector<Block>& blocks, std::size_t pages, int rules) const {
+        std::size_t next = 0;
+        for (std::size_t page = 0; page < pages; ++page) {
+            const std::size_t end = next + shareOf(page, pages, blocks.size());
+            if (endOfPage(blocks, next, rules) < end) return false;
+            next = end;
+        }
+        return true;
+    }
+
+    void openPage() {
+        m_pages.push_back({m_kind, m_pages.empty(), {}});
+        m_y = m_grid.headHeight(m_pages.back().opensKind);
     }
 
     void place(const Block& block, int rules) {
@@ -139,20 +168,30 @@ private:
 
 QPen rulePen(const PaperGrid& grid) { return {theme::quietInk, grid.millimetres(0.2)}; }
 
-/// "Name" and "Date", each with a rule behind it.
-void paintPerson(QPainter& painter, double bottom, double width, const PaperGrid& grid) {
-    painter.setFont(PaperGrid::questionFont());
-    const double dateLeft = width * 0.68, gap = grid.millimetres(2);
-    const auto field = [&](double left, double right, std::string_view name) {
-        const QString caption = fromCp1252(name);
-        painter.setPen(theme::quietInk);
-        painter.drawText(QPointF(left, bottom - grid.millimetres(1)), caption);
-        left += grid.metrics(PaperGrid::questionFont()).horizontalAdvance(caption) + gap;
-        painter.setPen(rulePen(grid));
-        painter.drawLine(QPointF(left, bottom), QPointF(right, bottom));
+/// What the person fills in: its name with a rule behind it, as a line from left to right.
+void paintField(QPainter& painter, std::string_view name, const QLineF& line, const QFont& font,
+                const PaperGrid& grid) {
+    const QString caption = fromCp1252(name);
+    painter.setFont(font);
+    painter.setPen(theme::quietInk);
+    painter.drawText(line.p1() - QPointF(0, grid.millimetres(1)), caption);
+    const double written = grid.metrics(font).horizontalAdvance(caption) + grid.millimetres(2);
+    painter.setPen(rulePen(grid));
+    painter.drawLine(line.p1() + QPointF(written, 0), line.p2());
+}
+
+/// The name and the date where a kind begins. The name alone behind that, as pages may come apart.
+void paintPerson(QPainter& painter, const SheetPage& page, double width, const PaperGrid& grid) {
+    const auto line = [&](double left, double right, double bottom) {
+        return QLineF(left, grid.millimetres(bottom), right, grid.millimetres(bottom));
     };
-    field(0, dateLeft - 2 * gap, nameField);
-    field(dateLeft, width, dateField);
+    const QFont font = PaperGrid::questionFont();
+    if (!page.opensKind)
+        return paintField(painter, nameField, line(width * 0.62, width, 21), PaperGrid::font(8),
+                          grid);
+    const double dateLeft = width * 0.68;
+    paintField(painter, nameField, line(0, dateLeft - grid.millimetres(4), 24), font, grid);
+    paintField(painter, dateField, line(dateLeft, width, 24), font, grid);
 }
 
 void paintHead(QPainter& painter, const QuestionSheets& sheets, const SheetPage& page, double width,
@@ -166,15 +205,16 @@ void paintHead(QPainter& painter, const QuestionSheets& sheets, const SheetPage&
                      fromCp1252(sheets.title));
     painter.fillRect(QRectF(0, grid.millimetres(10), width, grid.millimetres(0.6)),
                      theme::deepBlue);
-    if (page.opensKind) paintPerson(painter, grid.millimetres(24), width, grid);
+    paintPerson(painter, page, width, grid);
 
-    const double top = page.opensKind ? 32 : 13.5, size = 6;
+    const double top = page.opensKind ? 32 : 15.5, size = 6;
     const QRectF icon(0, grid.millimetres(top), grid.millimetres(size), grid.millimetres(size));
     rowIcon(imageOf(page.kind)).paint(&painter, icon.toRect());
     painter.setPen(theme::ink);
     painter.setFont(PaperGrid::font(12, true));
     painter.drawText(at(top, size).adjusted(grid.numberWidth(), 0, 0, 0),
-                     Qt::AlignLeft | Qt::AlignVCenter, fromCp1252(nameOfSeveral(page.kind)));
+                     Qt::AlignLeft | Qt::AlignVCenter,
+                     fromCp1252(headingOf(page.kind, page.opensKind)));
 }
 
 void paintLine(QPainter& painter, const SheetLine& line, double width, const PaperGrid& grid) {

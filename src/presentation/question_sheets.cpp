@@ -1,5 +1,7 @@
 #include "presentation/question_sheets.h"
 
+#include <algorithm>
+
 #include "core/failures.h"
 #include "core/messages.h"
 #include "core/text.h"
@@ -8,15 +10,28 @@
 
 namespace orvanta {
 
+bool isEmpty(const QuestionSheets& sheets) {
+    return std::ranges::all_of(statementKinds,
+                               [&](StatementKind kind) { return sheets.questions[kind].empty(); });
+}
+
+std::string documentNameOf(const QuestionSheets& sheets) {
+    constexpr std::string_view separators = "/\\:*?\"<>|";
+    std::string name(trimBlanks(sheets.title));
+    std::ranges::replace_if(
+        name, [&](char character) { return separators.find(character) != separators.npos; }, '-');
+    return name;
+}
+
 QuestionSheets questionSheetsOf(const Program& program, const Module& module) {
     QuestionBanks banks;    // a copy of its own: the wizard's questions stay as they are
     const BestEffort step;  // what can be read of a damaged bank is printed all the same
-    step([&] {
-        loadQuestionBank(program.platform.disk, bankPath(program.appPath, module.code), banks);
-    });
+    const std::string bank = bankPath(program.appPath, module.code);
+    step([&] { loadQuestionBank(program.platform.disk, bank, banks); });
     QuestionSheets sheets{std::string(module.code),
                           replaceAll((program.frmMain.*module.option).caption(), "&&", "&"),
-                          {}};
+                          {},
+                          bank};
     for (const StatementKind kind : statementKinds) {
         const BankList list = bankListOf(kind);
         const auto count = static_cast<std::size_t>(banks.*list.count);

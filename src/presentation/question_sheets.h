@@ -14,7 +14,13 @@ struct QuestionSheets {
     std::string code;                             // of the module
     std::string title;                            // its name
     PerKind<std::vector<std::string>> questions;  // in bank order
+    std::string bankPath{};                       // the file that they come from
 };
+
+/// True if there is not one question.
+bool isEmpty(const QuestionSheets& sheets);
+/// The title as a file can be called in every system.
+std::string documentNameOf(const QuestionSheets& sheets);
 
 /// The questions of a module as its bank holds them; what can't be read of the bank is missing.
 QuestionSheets questionSheetsOf(const Program& program, const Module& module);

@@ -20,6 +20,7 @@ constexpr std::string_view noFolder = "This folder does not exist:",
                            lockedFile = "You may not change this file:",
                            folderOfThatName = "There is a folder of this name:",
                            noPlainFile = "No file can be saved under this name:",
+                           noFileButFolder = "This is a folder:",
                            unusable = "This name can't be used:";
 
 std::filesystem::path pathFrom(const std::string& utf8) {
@@ -128,6 +129,17 @@ FileChoice judged(const FileDialogPlace& place, const std::string& typed, const 
     return toSave(withFilterEnding(path, place.filter));
 }
 
+/// Where a name ends that begins behind a quote: at a quote that ends the text or has another one
+/// behind blanks, as a name may hold quotes.
+std::size_t endOfName(const std::string& typed, std::size_t start) {
+    for (auto quote = typed.find('"', start); quote != typed.npos;
+         quote = typed.find('"', quote + 1)) {
+        const auto next = typed.find_first_not_of(' ', quote + 1);
+        if (next == typed.npos || (typed[next] == '"' && next > quote + 1)) return quote;
+    }
+    return typed.size();
+}
+
 }  // namespace
 
 FileChoice choiceOf(const FileDialogPlace& place, const std::string& typed) {
@@ -137,6 +149,25 @@ FileChoice choiceOf(const FileDialogPlace& place, const std::string& typed) {
     } catch (const Failure& failure) {
         return refusalFor(failure, path);
     }
+}
+
+FileChoice fileChoiceOf(const FileDialogPlace& place, const std::string& typed) {
+    const FileChoice choice = choiceOf(place, typed);
+    return choice.act == FileChoiceAct::EnterFolder ? refusal(noFileButFolder, choice.path)
+                                                    : choice;
+}
+
+std::vector<std::string> namesIn(const std::string& typed) {
+    const auto first = typed.find_first_not_of(' '), last = typed.find_last_not_of(' ');
+    if (first == last || typed[first] != '"' || typed[last] != '"') return {typed};
+    std::vector<std::string> names;
+    for (auto start = first + 1; start <= last;) {
+        const auto end = endOfName(typed, start);
+        names.push_back(typed.substr(start, end - start));
+        start = typed.find('"', end + 1);
+        if (start != typed.npos) ++start;
+    }
+    return names;
 }
 
 }  // namespace orvanta

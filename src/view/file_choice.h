@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "view/platform.h"
 
@@ -35,5 +36,12 @@ struct FileChoice {
 /// looked for with the ending where there is none without. Refused is what could not be saved to
 /// or read.
 FileChoice choiceOf(const FileDialogPlace& place, const std::string& typed);
+
+/// The same for a name that can only be a file's: a folder is refused.
+FileChoice fileChoiceOf(const FileDialogPlace& place, const std::string& typed);
+
+/// The names in what was typed where several files can be chosen, as in: "ann.bsm" "bo.bsm". A
+/// text that does not begin and end with a quote is one name.
+std::vector<std::string> namesIn(const std::string& typed);
 
 }  // namespace orvanta

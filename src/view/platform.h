@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "view/failure.h"
 
@@ -99,6 +100,12 @@ public:
     virtual ~FileDialogs() = default;
     /// The chosen path as it is, whether or not it exists; none if the person cancelled.
     virtual std::optional<std::string> choose(const FileDialogRequest& request) = 0;
+    /// The same where several files to open can be chosen at once, in the order of the dialog; none
+    /// if the person cancelled. A dialog that can't give several gives one.
+    virtual std::vector<std::string> chooseSeveral(const FileDialogRequest& request) {
+        const auto chosen = choose(request);
+        return chosen ? std::vector{*chosen} : std::vector<std::string>{};
+    }
 };
 
 class Settings {

@@ -1,3 +1,5 @@
+#include "analyze/source_files.h"
+
 #include <gtest/gtest.h>
 
 #include "analysis_bench.h"
@@ -32,6 +34,13 @@ protected:
     std::string toolTip(const std::string& list, int row) {
         bench.play({{"do", "hover"}, {"list", list}, {"row", row}});
         return bench.list(list).toolTip();
+    }
+    /// What was said and stored since it was last asked.
+    Json told() {
+        Json told = Json::array();
+        for (const Json& event : bench.events())
+            if (event["event"] == "message" || event["event"] == "setting") told.push_back(event);
+        return told;
     }
     const Texts& listed() { return bench.form().lstFiles.items(); }
     Bench bench;
@@ -75,6 +84,54 @@ TEST_F(SourceFiles, RefuseTheSamePathTwiceButRememberIt) {
     EXPECT_EQ(bench.events("message"), Json::array({refusal("File already added.")}));
     EXPECT_EQ(listed(), (Texts{"docs/a.bsm", "docs/b.bsm"}));
     EXPECT_EQ(bench.form().lastPathBSM, "docs/a.bsm");
+}
+
+/// Gives these paths at once, and one by one what it is asked for alone.
+class SeveralFiles : public FileDialogs {
+public:
+    explicit SeveralFiles(Texts paths) : m_paths(std::move(paths)) {}
+    std::optional<std::string> choose(const FileDialogRequest& request) override {
+        requests.push_back(request);
+        return m_paths.at(m_next++);
+    }
+    std::vector<std::string> chooseSeveral(const FileDialogRequest& request) override {
+        requests.push_back(request);
+        return m_paths;
+    }
+    std::vector<FileDialogRequest> requests;
+
+private:
+    Texts m_paths;
+    std::size_t m_next = 0;
+};
+
+TEST_F(SourceFiles, ChosenTogetherAreAddedAsIfEachHadBeenChosenAlone) {
+    const Texts chosen{"docs/b.bsm", "docs/gone.bsm", "docs/a.bsm", "docs/b.bsm", "docs/c.bsm"};
+    for (const char* path : {"docs/a.bsm", "docs/b.bsm", "docs/c.bsm"}) bench.disk.files[path] = "";
+    for (const std::string& path : chosen) add(path);
+    bench.play({{"do", "state"}});
+    const Json alone = told();
+    const FileDialog& cd = bench.form().cd;
+    const Texts left{cd.filter, cd.initialPath, cd.fileName};
+    const Texts listedAlone = listed();
+
+    SeveralFiles dialogs(chosen);
+    const Platform& world = bench.program().platform;
+    Platform platform{world.disk,           world.messages,   dialogs,
+                      world.settings,       world.shell,      world.player,
+                      world.screen,         world.modalForms, world.questionPrinter,
+                      world.wordProcessors, world.lifetime,   world.folders};
+    Program program(platform, "app", "app");
+    addAnalyzeSourceFiles(program);
+    EXPECT_EQ(dialogs.requests.size(), 1u);
+    EXPECT_EQ(program.frmMain.lstFiles.items(), listedAlone);
+    EXPECT_EQ(listedAlone, (Texts{"docs/b.bsm", "docs/a.bsm", "docs/c.bsm"}));
+    EXPECT_EQ((Texts{program.frmMain.cd.filter, program.frmMain.cd.initialPath,
+                     program.frmMain.cd.fileName}),
+              left);
+    EXPECT_EQ(program.frmMain.lastPathBSM, "docs/c.bsm");
+    bench.play({{"do", "state"}});
+    EXPECT_EQ(told(), alone);
 }
 
 TEST_F(SourceFiles, TakeAPathInAnotherLetterCaseAsASecondEntryWithItsStatementsTwice) {

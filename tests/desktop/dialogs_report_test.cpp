@@ -34,23 +34,26 @@ protected:
         forms.setProgram(program);
     }
 
-    void makeDocument() {
+    enum class Ok { Clicked, EnterInTheTextBox };
+
+    void makeDocument(Ok ok = Ok::Clicked) {
         FrmReportType form;
         form.txtEdit.setText("docs/team.aze");
         bench.answerFile("docs/team.rtf");
-        QTimer::singleShot(0, [this] { pressOk(); });
+        QTimer::singleShot(0, [this, ok] { pressOk(ok); });
         forms.run(form);
     }
 
     Bench bench;
     Paintings paintings;  // of the wait text
     bool waitTextShown = false, buttonShown = true, enabled = true;
-    int painted = 0;
+    int painted = 0, documents = 0;
     std::optional<Qt::CursorShape> cursor;
     std::function<void()> whileMaking = [] {};
 
 private:
     WordObjectPtr createApplication() override {
+        ++documents;
         QWidget* dialog = QApplication::activeModalWidget();
         waitTextShown = widget("lblGenerating").isVisible();
         buttonShown = widget("OKButton").isVisible();
@@ -65,11 +68,14 @@ private:
         return *QApplication::activeModalWidget()->findChild<QWidget*>(QLatin1String(name));
     }
 
-    void pressOk() {
+    void pressOk(Ok ok) {
         // Nothing is painted in a window that is not on the screen yet.
         ASSERT_TRUE(QTest::qWaitForWindowExposed(QApplication::activeModalWidget()));
         widget("lblGenerating").installEventFilter(&paintings);
-        QTest::mouseClick(&widget("OKButton"), Qt::LeftButton);
+        if (ok == Ok::Clicked)
+            QTest::mouseClick(&widget("OKButton"), Qt::LeftButton);
+        else
+            QTest::keyClick(&widget("txtEdit"), Qt::Key_Return);
     }
 
     DocumentWriter m_writer{bench.disk};
@@ -99,6 +105,15 @@ TEST_F(ReportDialogView, ShowsTheWaitCursorWhileADocumentIsMadeAndNotAfterwards)
 
 TEST_F(ReportDialogView, ClosesBehindADocumentAndOpensIt) {
     makeDocument();
+    EXPECT_FALSE(QApplication::activeModalWidget());
+    bench.play({{"do", "state"}});
+    EXPECT_EQ(bench.events("open"),
+              Json::array({{{"event", "open"}, {"target", "docs/team.rtf"}}}));
+}
+
+TEST_F(ReportDialogView, TakesEnterInTheTextBoxForOkOnce) {
+    makeDocument(Ok::EnterInTheTextBox);
+    EXPECT_EQ(documents, 1);
     EXPECT_FALSE(QApplication::activeModalWidget());
     bench.play({{"do", "state"}});
     EXPECT_EQ(bench.events("open"),

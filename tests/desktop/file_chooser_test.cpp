@@ -48,6 +48,20 @@ protected:
         QApplication::setActiveWindow(m_chooser.get());  // also where no window manager does it
         nameBox().setFocus();
     }
+    /// Before a folder with two more files.
+    void showForSeveral() {
+        for (const char* name : {"ann.bsm", "bo.bsm"}) folder.write(name, "");
+        show(FileDialogMode::Open);
+        m_chooser->takeSeveral();
+        ASSERT_TRUE(QTest::qWaitFor([this] { return lastShown() == "team2.bsm"; }));
+    }
+    /// The last name of a list that shows all.
+    std::string lastShown() {
+        const auto& files = *m_chooser->findChild<QTreeView*>(QStringLiteral("treeView"));
+        const int rows = files.model()->rowCount(files.rootIndex());
+        if (rows != 6) return {};
+        return files.model()->index(rows - 1, 0, files.rootIndex()).data().toString().toStdString();
+    }
     /// Each key goes to whatever has the keyboard then.
     void type(const QString& text) {
         for (const QChar character : text)
@@ -58,7 +72,7 @@ protected:
         type(text);
         pressEnter();
     }
-    void click(const QString& name) {
+    void click(const QString& name, Qt::KeyboardModifiers modifiers = {}) {
         auto& files = *m_chooser->findChild<QTreeView*>(QStringLiteral("treeView"));
         const auto found = [&] {
             const QAbstractItemModel& model = *files.model();
@@ -66,7 +80,7 @@ protected:
         };
         ASSERT_TRUE(QTest::qWaitFor([&] { return !found().isEmpty(); }));
         const QRect place = files.visualRect(found().front());
-        QTest::mouseClick(files.viewport(), Qt::LeftButton, {}, place.center());
+        QTest::mouseClick(files.viewport(), Qt::LeftButton, modifiers, place.center());
     }
     QPushButton& button() {
         auto& buttons = *m_chooser->findChild<QDialogButtonBox*>();
@@ -82,7 +96,11 @@ protected:
         return fromHere(m_chooser->directory().absolutePath());
     }
     std::string taken() const {
-        return m_chooser->result() == QDialog::Accepted ? fromHere(m_chooser->path()) : "nothing";
+        if (m_chooser->result() != QDialog::Accepted) return "nothing";
+        std::string all;
+        for (const QString& path : m_chooser->paths())
+            all += (all.empty() ? "" : ", ") + fromHere(path);
+        return all;
     }
     /// What the box before the dialog says; empty without one. It is closed then.
     std::string refusal() {
@@ -268,6 +286,64 @@ TEST_F(ChooserOnScreen, ToOpenRefusesAFileThatIsMissing) {
     EXPECT_EQ(refusal(), "This file does not exist: gone");
     EXPECT_EQ(shown(), ".");
     EXPECT_EQ(typed(), "gone");
+}
+
+TEST_F(ChooserOnScreen, ToOpenTakesOneFileWhereItIsNotToTakeSeveral) {
+    folder.write("ann.bsm", "");
+    show(FileDialogMode::Open);
+    click("ann.bsm");
+    click("team2.bsm", Qt::ControlModifier);
+    pressButton();
+    EXPECT_EQ(taken(), "team2.bsm");
+}
+
+TEST_F(ChooserOnScreen, ForSeveralTakesTheClickedFilesInTheirOrder) {
+    showForSeveral();
+    click("team2.bsm");
+    click("ann.bsm", Qt::ControlModifier);
+    EXPECT_EQ(typed(), "\"team2.bsm\" \"ann.bsm\"");
+    pressButton();
+    EXPECT_EQ(taken(), "team2.bsm, ann.bsm");
+}
+
+TEST_F(ChooserOnScreen, ForSeveralTakesAllFilesFromOneToAnother) {
+    showForSeveral();
+    click("ann.bsm");
+    click("team2.bsm", Qt::ShiftModifier);
+    pressButton();
+    EXPECT_EQ(taken(), "ann.bsm, bo.bsm, team2.bsm");
+}
+
+TEST_F(ChooserOnScreen, ForSeveralTakesTypedNamesAlsoWithoutTheirEnding) {
+    showForSeveral();
+    enter("\"bo\" \"ann.bsm\"");
+    EXPECT_EQ(taken(), "bo.bsm, ann.bsm");
+}
+
+TEST_F(ChooserOnScreen, ForSeveralTakesOneNameAsEver) {
+    showForSeveral();
+    enter("Team");
+    EXPECT_EQ(shown(), "Team");
+    enter("../bo");
+    EXPECT_EQ(taken(), "bo.bsm");
+}
+
+TEST_F(ChooserOnScreen, ForSeveralTakesNoneWhereOneIsMissing) {
+    showForSeveral();
+    enter("\"bo\" \"gone\"");
+    EXPECT_EQ(refusal(), "This file does not exist: gone");
+    EXPECT_EQ(shown(), ".");
+    EXPECT_EQ(typed(), "\"bo\" \"gone\"");
+    nameBox().selectAll();
+    enter("\"ann\" \"bo\"");
+    EXPECT_EQ(taken(), "ann.bsm, bo.bsm");
+}
+
+TEST_F(ChooserOnScreen, ForSeveralRefusesAFolderAmongFiles) {
+    showForSeveral();
+    enter("\"bo.bsm\" \"Team\"");
+    EXPECT_EQ(refusal(), "This is a folder: Team");
+    EXPECT_EQ(shown(), ".");
 }
 
 }  // namespace orvanta::test

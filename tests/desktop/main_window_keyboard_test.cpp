@@ -30,6 +30,20 @@ Texts namesOf(const std::vector<QWidget*>& widgets) {
     return names;
 }
 
+/// That each stop lies below the former one or at its right.
+void expectReadingOrder(QWidget& window) {
+    const std::vector<QWidget*> stops = stopsOf(window);
+    for (std::size_t i = 1; i < stops.size(); ++i) {
+        const auto placeOf = [&](const QWidget& stop) {
+            return QRect(stop.mapTo(&window, QPoint()), stop.size());
+        };
+        const QRect former = placeOf(*stops[i - 1]), place = placeOf(*stops[i]);
+        EXPECT_TRUE(place.top() > former.bottom() || place.left() > former.right())
+            << stops[i - 1]->objectName().toStdString() << " before "
+            << stops[i]->objectName().toStdString();
+    }
+}
+
 /// That each control looks different while it has the keyboard.
 void expectVisibleFocus(QWidget& window) {
     QApplication::setActiveWindow(&window);
@@ -73,6 +87,31 @@ TEST_F(Keyboard, GoesThroughAListScreenAsTheEyeDoes) {
                      "imgBtnReport", "imgBtnAbout", "imgBtnQuit", "cmdUndo", "cmdRedo",
                      "txtAStrength", "imgBtnASAdd", "lvAStrength", "imgBtnASEdit", "imgBtnASRemove",
                      "imgBtnAQuit", "imgBtnOAFile", "imgBtnABack", "imgBtnANext"}));
+}
+
+TEST_F(Keyboard, GoesThroughAMappingScreenColumnByColumn) {
+    analysis.next(5);
+    QCoreApplication::processEvents();
+    const Texts stops = namesOf(stopsOf(analysis.window()));
+    const auto strengths = std::ranges::find(stops, "lvStrengthOp");
+    ASSERT_GE(stops.end() - strengths, 3);
+    EXPECT_EQ(Texts(strengths, strengths + 3),
+              (Texts{"lvStrengthOp", "lvOpportunity", "lvWeaknessOp"}));
+}
+
+TEST_F(Keyboard, GoesThroughTheDialogsAsTheEyeDoes) {
+    FrmEdit edit;
+    EditDialog editDialog(analysis.program(), edit, nullptr);
+    FrmReportType report;
+    ReportDialog reportDialog(analysis.program(), report, nullptr);
+    FrmAbout about;
+    AboutDialog aboutDialog(analysis.program(), about, nullptr);
+    for (QDialog* dialog :
+         std::initializer_list<QDialog*>{&editDialog, &reportDialog, &aboutDialog}) {
+        dialog->show();
+        expectReadingOrder(*dialog);
+        dialog->hide();
+    }
 }
 
 TEST_F(Keyboard, ShowsWhereItIsOnEveryScreenOfAnAnalysis) {

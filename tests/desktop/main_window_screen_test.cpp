@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "desktop/question_printer.h"
+#include "printed_sheets.h"
 #include "window_bench.h"
 
 namespace orvanta::test {
@@ -133,7 +134,7 @@ TEST(AnyScreen, HoldsThePrintPreview) {
         looked = true;
         preview->reject();
     });
-    PreviewingPrinter().print({});
+    PreviewingPrinter().print(sheetsWith(1));
     EXPECT_TRUE(looked);
 }
 

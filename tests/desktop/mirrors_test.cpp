@@ -110,7 +110,7 @@ TEST_F(Mirrors, FollowTheFontsOfAllThatShowsText) {
         {&option, makeOption(option, area)},
         {&box, makeTextBox(box, area, [](char) { return true; })},
         {&items, makeComboBox(items, area)},
-        {&list, makeListBox(list, area)}};
+        {&list, makeFileList(list, area, [](const std::string&) {})}};
     for (const auto& [model, widget] : shown) {
         EXPECT_DOUBLE_EQ(fontSizeOf(*widget), 9) << model->name();
         EXPECT_FALSE(widget->font().bold()) << model->name();

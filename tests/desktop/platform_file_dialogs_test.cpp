@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTimer>
+#include <QTreeView>
 #include <QtTest>
 #include <functional>
 
@@ -100,6 +103,17 @@ protected:
     Program program{m_platform, folder.path(), folder.path()};
 };
 
+/// Clicks a row of an open dialog once it shows so many.
+void clickOn(FileChooser& chooser, int row, int rows, Qt::KeyboardModifiers modifiers) {
+    auto& files = *chooser.findChild<QTreeView*>(QStringLiteral("treeView"));
+    const auto all = [&] { return files.model()->rowCount(files.rootIndex()); };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return all() == rows; }));
+    const QModelIndex index = files.model()->index(row, 0, files.rootIndex());
+    files.scrollTo(index);
+    QTest::mouseClick(files.viewport(), Qt::LeftButton, modifiers,
+                      files.visualRect(index).center());
+}
+
 }  // namespace
 
 TEST_F(FileDialogsOfAPerson, KeepTheSessionWhenSavingIsRefusedAndGivenUp) {
@@ -148,9 +162,29 @@ TEST_F(FileDialogsOfAPerson, RememberNoFileThatIsMissing) {
 TEST_F(FileDialogsOfAPerson, AddTheSourceFileThatWasMeant) {
     folder.write("dana.bsm", "");
     answer({"lee", "dana"});
-    addAnalyzeSourceFile(program);
+    addAnalyzeSourceFiles(program);
     EXPECT_EQ(refusals, (Texts{"This file does not exist:"}));
     EXPECT_EQ(program.frmMain.lstFiles.items(), Texts{folder / "dana.bsm"});
+}
+
+TEST_F(FileDialogsOfAPerson, AddFortyFilesWithFourClicks) {
+    for (int i = 10; i < 50; ++i) folder.write("member" + std::to_string(i) + ".bsm", "");
+    program.frmMain.editFlag = program.frmMain.editAFlag = false;
+    MainWindow window(program);
+    openAnalyzeModule(program);
+    window.show();
+    QTimer::singleShot(0, [] {
+        auto& chooser = dynamic_cast<FileChooser&>(*QApplication::activeModalWidget());
+        clickOn(chooser, 0, 40, Qt::NoModifier);
+        clickOn(chooser, 39, 40, Qt::ShiftModifier);
+        auto* buttons = chooser.findChild<QDialogButtonBox*>();
+        QTest::mouseClick(buttons->button(QDialogButtonBox::Open), Qt::LeftButton);
+        if (chooser.isVisible()) QTest::keyClick(&chooser, Qt::Key_Escape);
+    });
+    QTest::mouseClick(window.findChild<QWidget*>(QStringLiteral("imgBtnAFAdd")), Qt::LeftButton);
+    const Texts& added = program.frmMain.lstFiles.items();
+    ASSERT_EQ(added.size(), 40u);
+    EXPECT_EQ(program.frmMain.lastPathBSM, added.back());
 }
 
 TEST_F(FileDialogsOfAPerson, MergeIntoNoMissingFolder) {

@@ -4,8 +4,12 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QLineEdit>
 #include <QLocale>
+#include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
@@ -14,6 +18,7 @@
 #include <QTimer>
 #include <functional>
 
+#include "desktop/message_box.h"
 #include "printed_sheets.h"
 
 namespace orvanta::test {
@@ -27,7 +32,8 @@ class PrintPreview : public testing::Test {
 protected:
     ~PrintPreview() override { QLocale::setDefault(QLocale::system()); }
 
-    void show(const std::function<void(QPrintPreviewDialog&)>& look) {
+    void show(const std::function<void(QPrintPreviewDialog&)>& look,
+              const std::string& title = "Sales & Business Development") {
         bool shown = false;
         QTimer::singleShot(0, [&] {
             auto* preview = dynamic_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
@@ -36,7 +42,7 @@ protected:
             shown = true;
             preview->reject();
         });
-        QuestionSheets sheets{"sbd", "Sales & Business Development", {}};
+        QuestionSheets sheets{"sbd", title, {}};
         for (const StatementKind kind : statementKinds)
             sheets.questions[kind] = {std::string(nameOf(kind)) + "?"};
         PreviewingPrinter().print(sheets);
@@ -108,6 +114,33 @@ TEST_F(PrintPreview, TakesTheOtherPaperFromItsChoice) {
     });
 }
 
+TEST_F(PrintPreview, OffersANameThatAPdfFileCanHave) {
+    const auto look = [](QPrintPreviewDialog& preview) {
+        preview.printer()->setOutputFormat(QPrinter::PdfFormat);
+        QPrintDialog dialog(preview.printer());
+        const auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
+        ASSERT_TRUE(name);
+        const QFileInfo offered(name->text());
+        EXPECT_EQ(offered.fileName(), QStringLiteral("Product-Service.pdf"));
+        EXPECT_TRUE(offered.absoluteDir().exists()) << name->text().toStdString();
+    };
+    show(look, "Product/Service");
+}
+
+TEST_F(PrintPreview, GivesWayToTheFileThatShouldHoldTheQuestionsWhereThereAreNone) {
+    QString said;
+    QTimer::singleShot(0, [&said] {
+        QWidget* shown = QApplication::activeModalWidget();
+        if (auto* box = dynamic_cast<MessageBox*>(shown)) said = box->text();
+        shown->close();
+    });
+    QuestionSheets sheets = sheetsWith(0);
+    sheets.bankPath = "app/mpquestions.txt";
+    PreviewingPrinter().print(sheets);
+    EXPECT_EQ(said, QStringLiteral("There are no questions to print. They should be in this "
+                                   "file:\napp/mpquestions.txt"));
+}
+
 TEST_F(QuestionSheetPdf, HoldsTheModuleTheKindsTheQuestionsAndThePageNumbers) {
     const QString text = printed(sheetsWith(8));
     const auto pages = text.count('\f');
@@ -116,6 +149,16 @@ TEST_F(QuestionSheetPdf, HoldsTheModuleTheKindsTheQuestionsAndThePageNumbers) {
                                  "S1: What do we do well?", "T8: What do we do well?"})
         EXPECT_TRUE(text.contains(QLatin1String(expected))) << expected;
     EXPECT_TRUE(text.contains(QStringLiteral("page %1 of %1").arg(pages)));
+}
+
+TEST_F(QuestionSheetPdf, SaysOnEachPageWhoseItIsAndWhereAKindGoesOn) {
+    const QStringList pages = printed(sheetsWith(12)).split('\f', Qt::SkipEmptyParts);
+    ASSERT_GT(pages.size(), 4);
+    for (const QString& page : pages) {
+        EXPECT_TRUE(page.contains(QStringLiteral("Name"))) << page.toStdString();
+        EXPECT_NE(page.contains(QStringLiteral("continued")), page.contains(QStringLiteral("Date")))
+            << page.toStdString();
+    }
 }
 
 TEST_F(QuestionSheetPdf, HoldsThePagesThatWereAskedFor) {

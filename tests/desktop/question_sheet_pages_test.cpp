@@ -4,7 +4,8 @@
 
 #include <QImage>
 #include <QPainter>
-#include <set>
+#include <algorithm>
+#include <map>
 
 #include "printed_sheets.h"
 
@@ -54,6 +55,30 @@ TEST_P(Paper, KeepsEachQuestionTogetherWithThreeRulesOrMore) {
             if (line.isRule()) ++rules;
         }
         EXPECT_GE(rules, 3);
+    }
+}
+
+TEST_P(Paper, SharesTheQuestionsOutEvenlyAmongThePagesOfAKind) {
+    for (int questions = 1; questions <= 24; ++questions) {
+        PerKind<std::vector<int>> shares{};
+        for (const SheetPage& page : pagesOf(sheetsWith(questions), GetParam()))
+            shares[page.kind].push_back(static_cast<int>(std::ranges::count_if(
+                page.lines, [](const SheetLine& line) { return !line.number.isEmpty(); })));
+        for (const StatementKind kind : statementKinds) {
+            const auto [fewest, most] = std::ranges::minmax(shares[kind]);
+            EXPECT_LE(most - fewest, 1) << questions;
+        }
+    }
+}
+
+TEST_P(Paper, GivesAllQuestionsOfAKindEquallyManyRules) {
+    std::map<StatementKind, long> first;
+    for (const SheetPage& page : pagesOf(sheetsWith(11), GetParam())) {
+        const auto rules = std::ranges::count_if(page.lines, &SheetLine::isRule);
+        const auto questions = std::ranges::count_if(
+            page.lines, [](const SheetLine& line) { return !line.number.isEmpty(); });
+        EXPECT_EQ(rules / questions, first.try_emplace(page.kind, rules / questions).first->second);
+        EXPECT_EQ(rules % questions, 0);
     }
 }
 

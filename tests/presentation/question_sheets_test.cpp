@@ -70,5 +70,23 @@ TEST(QuestionSheets, HoldTheQuestionsOfTheBankAndLeaveTheWizardsAlone) {
     EXPECT_EQ(bench.program().questions.strengthQuestions, before);
 }
 
+TEST(QuestionSheets, AreEmptyWhereTheBankHasGoneAndTellItsFile) {
+    Bench bench;
+    bench.start();
+    bench.disk.files.erase("app/mpquestions.txt");
+    const QuestionSheets sheets = questionSheetsOf(bench.program(), modules[ModuleId::MP]);
+    EXPECT_TRUE(isEmpty(sheets));
+    EXPECT_EQ(sheets.bankPath, "app/mpquestions.txt");
+    EXPECT_FALSE(isEmpty(questionSheetsOf(bench.program(), modules[ModuleId::GBS])));
+}
+
+TEST(QuestionSheets, HaveANameThatAFileCanHave) {
+    for (const auto& [title, name] : std::initializer_list<std::pair<std::string, std::string>>{
+             {"Marketing", "Marketing"},
+             {"Product / Service Development", "Product - Service Development"},
+             {" a\\b:c*d?e\"f<g>h|i ", "a-b-c-d-e-f-g-h-i"}})
+        EXPECT_EQ(documentNameOf({"mp", title, {}}), name);
+}
+
 }  // namespace
 }  // namespace orvanta::test

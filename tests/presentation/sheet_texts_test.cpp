@@ -7,5 +7,10 @@ namespace {
 
 TEST(QuestionSheet, TellsItsPageAndHowManyThereAre) { EXPECT_EQ(pageOf(2, 13), "page 2 of 13"); }
 
+TEST(QuestionSheet, SaysWhereAKindGoesOn) {
+    EXPECT_EQ(headingOf(StatementKind::Threat, true), "Threats");
+    EXPECT_EQ(headingOf(StatementKind::Threat, false), "Threats, continued");
+}
+
 }  // namespace
 }  // namespace orvanta::test

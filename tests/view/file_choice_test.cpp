@@ -183,5 +183,20 @@ INSTANTIATE_TEST_SUITE_P(
               "You may not look into this folder: $/here/closed"}),
     called);
 
+TEST(NamesInATypedText, AreThoseInQuotesOrElseTheWholeText) {
+    using Names = std::vector<std::string>;
+    for (const auto& [typed, names] : std::initializer_list<std::pair<std::string, Names>>{
+             {"ann", {"ann"}},
+             {"ann bo", {"ann bo"}},
+             {"\"ann\"", {"ann"}},
+             {" \"ann.bsm\"  \"bo 2.bsm\" ", {"ann.bsm", "bo 2.bsm"}},
+             {"\"a\"b\" \"c\"", {"a\"b", "c"}},
+             {"\"ann", {"\"ann"}},
+             {"an\"n", {"an\"n"}},
+             {"\"", {"\""}},
+             {"", {""}}})
+        EXPECT_EQ(namesIn(typed), names) << typed;
+}
+
 }  // namespace
 }  // namespace orvanta::test
