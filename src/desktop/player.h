@@ -13,7 +13,7 @@ public:
     virtual bool end() = 0;
 };
 
-/// The voice; silent where the program was built without sound.
+/// The voice; silent where the sound's module is not there.
 std::unique_ptr<DesktopPlayer> makePlayer();
 
 }  // namespace orvanta::desktop

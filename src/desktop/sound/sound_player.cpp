@@ -26,17 +26,11 @@ QByteArray bytesOf(const std::string& path) {
     return movie.open(QIODevice::ReadOnly) ? movie.readAll() : QByteArray();
 }
 
-Samples samplesOfFile(const std::string& path) {
-    const QByteArray bytes = bytesOf(path);
-    return samplesOfMovie({reinterpret_cast<const std::uint8_t*>(bytes.constData()),
-                           static_cast<std::size_t>(bytes.size())});
-}
-
 }  // namespace
 
 class SoundPlayer::Worker : public QObject {
 public:
-    explicit Worker(SpeakerMaker makeSpeaker) : m_makeSpeaker(std::move(makeSpeaker)) {}
+    explicit Worker(SoundModuleLoader load) : m_load(std::move(load)) {}
 
     /// Called from any thread.
     void order(const std::string& path) {
@@ -70,19 +64,28 @@ private:
         if (m_speaker) m_speaker->stop();
         Samples samples = samplesOfFile(order.path);
         if (samples.empty() || order.number != m_newest) return;
-        if (!m_speaker) m_speaker = m_makeSpeaker();
+        if (!m_speaker) m_speaker = m_module->makeSpeaker();
         m_speaker->start(std::move(samples));
     }
 
-    SpeakerMaker m_makeSpeaker;
+    Samples samplesOfFile(const std::string& path) {
+        const QByteArray bytes = bytesOf(path);
+        if (bytes.isEmpty()) return {};
+        if (!m_module) m_module = m_load();
+        return m_module->samplesOf({reinterpret_cast<const std::uint8_t*>(bytes.constData()),
+                                    static_cast<std::size_t>(bytes.size())});
+    }
+
+    SoundModuleLoader m_load;
+    std::optional<SoundModule> m_module;
     std::atomic<unsigned> m_newest = 0;
     std::optional<Order> m_waiting;
     bool m_busy = false;
     std::unique_ptr<Speaker> m_speaker;  // its end, too, may handle events: it goes first
 };
 
-SoundPlayer::SoundPlayer(SpeakerMaker makeSpeaker)
-    : m_thread(new QThread), m_worker(new Worker(std::move(makeSpeaker))) {
+SoundPlayer::SoundPlayer(SoundModuleLoader load)
+    : m_thread(new QThread), m_worker(new Worker(std::move(load))) {
     m_worker->moveToThread(m_thread);
     QObject::connect(m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
     m_thread->start();
@@ -114,7 +117,7 @@ bool SoundPlayer::end() {
 namespace orvanta::desktop {
 
 std::unique_ptr<DesktopPlayer> makePlayer() {
-    return std::make_unique<sound::SoundPlayer>(sound::makeSystemSpeaker);
+    return std::make_unique<sound::SoundPlayer>(sound::loadSoundModule);
 }
 
 }  // namespace orvanta::desktop

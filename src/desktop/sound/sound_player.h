@@ -3,7 +3,7 @@
 #include <string>
 
 #include "desktop/player.h"
-#include "desktop/sound/speaker.h"
+#include "desktop/sound/sound_module.h"
 
 class QThread;
 
@@ -13,8 +13,8 @@ namespace orvanta::sound {
 /// it. A call only leaves word there; a newer one makes an older one void.
 class SoundPlayer : public desktop::DesktopPlayer {
 public:
-    /// The speaker is made on the thread of the sound, with the first movie that is heard.
-    explicit SoundPlayer(SpeakerMaker makeSpeaker);
+    /// The module is loaded on the thread of the sound, with the first movie that there is.
+    explicit SoundPlayer(SoundModuleLoader load);
     ~SoundPlayer() override;
     SoundPlayer(const SoundPlayer&) = delete;
     SoundPlayer& operator=(const SoundPlayer&) = delete;

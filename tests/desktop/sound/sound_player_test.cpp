@@ -8,6 +8,7 @@
 #include <QSemaphore>
 #include <QTemporaryDir>
 #include <QThread>
+#include <atomic>
 #include <mutex>
 #include <set>
 #include <string>
@@ -108,7 +109,12 @@ protected:
     }
 
     SpeakerLog log;
-    SoundPlayer player{[this] { return std::make_unique<RecordingSpeaker>(log); }};
+    std::atomic<int> modulesLoaded = 0;
+    SoundPlayer player{[this] {
+        ++modulesLoaded;
+        return SoundModule{samplesOfMovie,
+                           [this] { return std::make_unique<RecordingSpeaker>(log); }};
+    }};
 
 private:
     QTemporaryDir m_folder;
@@ -197,6 +203,29 @@ TEST_F(SoundPlayerTest, MakesNoSpeakerForSilence) {
     play("STOP");
     play(clip("mp_S1.swf", 100));
     EXPECT_EQ(log.await(2), (Calls{"made", "start 100"}));
+}
+
+TEST_F(SoundPlayerTest, LoadsItsModuleWithTheFirstClipAlone) {
+    play("STOP");
+    play(folder());
+    play(clip("mp_S1.swf", 100));
+    log.await(2);
+    EXPECT_EQ(modulesLoaded, 1);
+    play(clip("mp_S2.swf", 200));
+    EXPECT_EQ(log.await(4), (Calls{"made", "start 100", "stop", "start 200"}));
+    EXPECT_EQ(modulesLoaded, 1);
+}
+
+TEST_F(SoundPlayerTest, IsSilentWithoutItsModule) {
+    QSemaphore loaded;
+    SoundPlayer silent([&] {
+        loaded.release();
+        return SoundModule();
+    });
+    silent.setMovie(clip("mp_S1.swf", 100));
+    silent.play();
+    EXPECT_TRUE(loaded.tryAcquire(1, 10000));
+    EXPECT_TRUE(silent.end());
 }
 
 TEST_F(SoundPlayerTest, PassesByWhatWasReplacedBeforeItsTurn) {

@@ -136,8 +136,10 @@ TEST_F(RealSound, PlaysAClipThatBeginsAmidTheEndOfAnother) {
 // The last one: the thread that hangs is left behind.
 TEST_F(RealSound, ThatHangsHoldsUpNobody) {
     QSemaphore starting;
-    player = std::make_unique<SoundPlayer>(
-        [&] { return std::make_unique<AnnouncingSpeaker>(makeSystemSpeaker(), starting); });
+    const auto announcing = [&] {
+        return std::make_unique<AnnouncingSpeaker>(makeSystemSpeaker(), starting);
+    };
+    player = std::make_unique<SoundPlayer>([&] { return SoundModule{samplesOfMovie, announcing}; });
     server->freeze();
     QElapsedTimer timer;
     timer.start();
