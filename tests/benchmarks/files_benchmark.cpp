@@ -55,13 +55,10 @@ BENCHMARK(consolidateFilesOf100StatementsFloor)->Arg(500)->Arg(1000)->Unit(bench
 /// What a statement with its companions takes beside the bytes of its text.
 void memoryOfConsolidatedStatements(benchmark::State& state) {
     Team team(static_cast<int>(state.range(0)));
-    std::size_t texts = 0, bytes = 0;
-    for (auto _ : state) {
-        clearAnalye(team.program());
-        const std::size_t before = mallinfo2().uordblks;
-        consolidateSourceFiles(team.program());
-        bytes = mallinfo2().uordblks - before;
-    }
+    std::size_t texts = 0;
+    const std::size_t before = mallinfo2().uordblks;
+    for (auto _ : state) consolidateSourceFiles(team.program());
+    const std::size_t bytes = mallinfo2().uordblks - before;
     const StatementList& strengths = team.form().lvAStrength;
     for (int position = 1; position <= strengths.count(); ++position)
         texts += strengths.row(position).text.size();
