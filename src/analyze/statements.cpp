@@ -26,13 +26,14 @@ void addStatement(Program& program, StatementKind kind) {
     const auto text = answerIn(program, box, kind);
     if (!text) return;
     form.editAFlag = true;
-    const Row row{.key = getNextKey(program, kind),
-                  .text = *text,
-                  .image = imageOf(kind),
-                  .largeImage = imageOf(kind)};
+    Row added{.key = getNextKey(program, kind),
+              .text = *text,
+              .image = imageOf(kind),
+              .largeImage = imageOf(kind)};
     const std::int16_t position = recordedPosition(list.count() + 1);
-    list.add(row);
-    forEachCompanion(form, kind, [&](StatementList& companion) { companion.add(row); });
+    list.add(std::move(added));
+    forEachCompanion(form, kind, [&](StatementList& companion) { companion.addLastOf(list); });
+    const Row& row = list.row(list.count());
     recordAdded(program, Session::Analyze, kind, {position, row.key, row.text});
     emptyForNextAnswer(box);
 }

@@ -1,5 +1,6 @@
 #include "core/text.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace orvanta {
@@ -21,6 +22,18 @@ std::vector<std::string_view> splitAt(std::string_view text, std::string_view de
     return parts;
 }
 
+bool splitInto(std::span<std::string_view> parts, std::string_view text,
+               std::string_view delimiter) {
+    for (std::string_view& part : parts.first(parts.size() - 1)) {
+        const auto at = text.find(delimiter);
+        if (at == std::string_view::npos) return false;
+        part = text.substr(0, at);
+        text.remove_prefix(at + delimiter.size());
+    }
+    parts.back() = text;
+    return text.find(delimiter) == std::string_view::npos;
+}
+
 std::string replaceAll(std::string_view text, std::string_view from, std::string_view to) {
     std::string result;
     std::size_t start = 0;
@@ -40,15 +53,15 @@ std::optional<int> positionFrom(std::string_view text) {
 }
 
 std::optional<std::string_view> LineSource::next() {
-    if (m_rest.empty()) return std::nullopt;
-    const auto end = m_rest.find_first_of("\r\n");
-    const std::string_view line = m_rest.substr(0, end);
-    if (end == std::string_view::npos) {
-        m_rest = {};
-        return line;
-    }
-    const bool pair = m_rest.substr(end, 2) == "\r\n";
-    m_rest.remove_prefix(end + (pair ? 2 : 1));
+    if (m_at == m_text.size()) return std::nullopt;
+    // Looked for once each: a file whose lines end in CR may hold none up to its far end.
+    if (m_at == 0 || m_lineFeed < m_at)
+        m_lineFeed = std::min(m_text.find('\n', m_at), m_text.size());
+    std::string_view line = m_text.substr(m_at, m_lineFeed - m_at);
+    line = line.substr(0, line.find('\r'));
+    m_at += line.size();
+    const bool pair = m_text.substr(m_at, 2) == "\r\n";
+    m_at = std::min(m_at + (pair ? 2 : 1), m_text.size());
     return line;
 }
 

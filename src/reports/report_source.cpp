@@ -46,15 +46,18 @@ const ReportSection* sectionRead(Section section, ReportScope scope) {
 }
 
 std::string textOf(const ReportSection& section, std::string_view field) {
-    if (!section.dropsMarks) return std::string(trimBlanks(field));
+    if (!section.dropsMarks || field.find('[') == std::string_view::npos)
+        return std::string(trimBlanks(field));
     return std::string(trimBlanks(replaceAll(replaceAll(field, "[+]", ""), "[-]", "")));
 }
 
 void takeRow(const ReportSection& section, std::string_view line, ReportLists& lists) {
-    const auto fields = splitAt(line, rowFieldDelimiter);
-    if (fields.size() != 3) return;
-    std::string entry(fields[0]);
-    entry.append(rowFieldDelimiter).append(textOf(section, fields[2]));
+    const auto fields = partsOf<3>(line, rowFieldDelimiter);
+    if (!fields) return;
+    const auto& [key, sourceLabel, text] = *fields;
+    std::string entry;
+    entry.reserve(line.size());
+    entry.append(key).append(rowFieldDelimiter).append(textOf(section, text));
     (lists.*section.list).add(std::move(entry));
 }
 
@@ -89,13 +92,14 @@ void readReportSource(std::string_view bytes, ReportScope scope, ReportLists& li
 }
 
 bool classifyEntry(std::string_view entry, ReportRow& row) {
-    const auto parts = splitAt(entry, rowFieldDelimiter);
-    if (parts.size() != 2) return false;
-    row.text = parts[1];
+    const auto parts = partsOf<2>(entry, rowFieldDelimiter);
+    if (!parts) return false;
+    const auto& [key, text] = *parts;
+    row.text = text;
     row.kind = ReportRowKind::Parent;
-    if (mappingKeyFrom(parts[0]).isMapped)
-        row.kind = mappedKindOf(parts[0]) == StatementKind::Strength ? ReportRowKind::Strength
-                                                                     : ReportRowKind::Weakness;
+    if (mappingKeyFrom(key).isMapped)
+        row.kind = mappedKindOf(key) == StatementKind::Strength ? ReportRowKind::Strength
+                                                                : ReportRowKind::Weakness;
     return true;
 }
 

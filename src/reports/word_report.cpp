@@ -405,8 +405,8 @@ private:
         m_tableRow = 1;
         const auto& entries = (m_lists.*table.entries).entries();
         for (std::size_t slot = 0; slot < entries.size(); ++slot) {
-            const auto parts = splitAt(entries[slot], rowFieldDelimiter);
-            if (parts.size() == 2) writeListRow(std::string(parts[1]), slot + 1);
+            if (const auto parts = partsOf<2>(entries[slot], rowFieldDelimiter))
+                writeListRow(std::string(parts->back()), slot + 1);
         }
         m_step([&] { row(1).put("HeadingFormat", true); });
         putHeavyEdges();

@@ -37,10 +37,8 @@ void writeRows(SectionWriter& writer, Section section, const StatementList& list
     writer.open(section);
     for (int position = 1; position <= list.count(); ++position) {
         const Row& row = list.row(position);
-        std::string line = row.key;
-        line.append(rowFieldDelimiter).append(row.subItem);
-        line.append(rowFieldDelimiter).append(trimBlanks(row.text));
-        writer.line(line);
+        writer.line(row.key, rowFieldDelimiter, row.subItem, rowFieldDelimiter,
+                    trimBlanks(row.text));
     }
     writer.close(section);
 }
@@ -50,9 +48,10 @@ struct RowFields {
 };
 
 std::optional<RowFields> rowFieldsFrom(std::string_view line) {
-    const auto fields = splitAt(line, rowFieldDelimiter);
-    if (fields.size() != 3) return std::nullopt;
-    return RowFields{fields[0], fields[1], trimBlanks(fields[2])};
+    const auto fields = partsOf<3>(line, rowFieldDelimiter);
+    if (!fields) return std::nullopt;
+    const auto& [key, sourceLabel, text] = *fields;
+    return RowFields{key, sourceLabel, trimBlanks(text)};
 }
 
 /// The number that a text begins with; 0 if it begins with none.
@@ -90,15 +89,15 @@ public:
 
 private:
     void addStatement(StatementKind kind, const RowFields& fields) {
-        const Row row{.key = std::string(fields.key),
-                      .text = std::string(fields.text),
-                      .image = imageOf(kind),
-                      .largeImage = imageOf(kind),
-                      .subItem = std::string(fields.sourceLabel)};
-        listOf(m_form, Session::Analyze, kind).add(row);
+        StatementList& main = listOf(m_form, Session::Analyze, kind);
+        main.add({.key = std::string(fields.key),
+                  .text = std::string(fields.text),
+                  .image = imageOf(kind),
+                  .largeImage = imageOf(kind),
+                  .subItem = std::string(fields.sourceLabel)});
         // Opportunities and threats have mapping sections of their own.
         if (isMappable(kind))
-            forEachCompanion(m_form, kind, [&](StatementList& list) { list.add(row); });
+            forEachCompanion(m_form, kind, [&](StatementList& list) { list.addLastOf(main); });
         if (fields.key.empty()) return;
         const double number = leadingNumber(fields.key.substr(1));
         std::int32_t& count = keyCount(m_form, kind);

@@ -11,9 +11,14 @@ namespace orvanta {
 /// Builds the bytes of a session file. Each line ends in CR LF, the last one too.
 class SectionWriter {
 public:
-    void line(std::string_view text) { m_bytes.append(text).append("\r\n"); }
-    void open(Section section) { line("<" + std::string(wordOf(section)) + ">"); }
-    void close(Section section) { line("</" + std::string(wordOf(section)) + ">"); }
+    /// A line that is joined from these.
+    template <class... Texts>
+    void line(const Texts&... texts) {
+        (m_bytes.append(texts), ...);
+        m_bytes.append("\r\n");
+    }
+    void open(Section section) { line("<", wordOf(section), ">"); }
+    void close(Section section) { line("</", wordOf(section), ">"); }
 
     /// A section of one line.
     void section(Section section, std::string_view text) {

@@ -52,12 +52,6 @@ void StatementList::refuseTakenKey(std::string_view key) const {
     if (!key.empty() && m_byKey.contains(key)) throw Failure(ErrorNumber::KeyNotUnique);
 }
 
-/// For one more row and its key.
-void StatementList::makeRoom() {
-    if (m_rows.size() == m_rows.capacity()) m_rows.reserve(2 * m_rows.size() + 1);
-    if (m_byKey.size() >= m_byKey.max_load()) m_byKey.reserve(2 * (m_byKey.size() + 1));
-}
-
 void StatementList::forgetKey(Entry& entry) {
     if (!entry.row->key.empty()) m_byKey.erase(&entry);
 }
@@ -82,12 +76,12 @@ Row& StatementList::Entry::own() {
 
 void StatementList::insertEntry(int position, std::shared_ptr<Row> row) {
     if (position < 1 || position > count() + 1) throw Failure(ErrorNumber::IndexOutOfBounds);
-    refuseTakenKey(row->key);
     // All memory is asked for before the list changes, and before anybody is told that it will.
     auto entry = std::make_unique<Entry>(Entry{std::move(row), rankFor(position)});
-    makeRoom();
+    if (m_rows.size() == m_rows.capacity()) m_rows.reserve(2 * m_rows.size() + 1);
+    if (!entry->row->key.empty() && !m_byKey.insert(entry.get()).second)
+        throw Failure(ErrorNumber::KeyNotUnique);
     tell(&StatementListObserver::rowAboutToBeInserted, position);
-    if (!entry->row->key.empty()) m_byKey.insert(entry.get());
     m_rows.insert(m_rows.begin() + (position - 1), std::move(entry));
     tell(&StatementListObserver::rowInserted, position);
 }

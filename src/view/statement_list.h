@@ -75,6 +75,11 @@ public:
     /// already; the rows ahead of that one are in.
     void addAll(const StatementList& other);
 
+    /// Adds the last row of another list, held in common like those. Fails with KeyNotUnique.
+    void addLastOf(const StatementList& other) {
+        insertEntry(count() + 1, other.entry(other.count()).row);
+    }
+
     /// Adds a row at a position from 1 to count() + 1. Fails with IndexOutOfBounds or
     /// KeyNotUnique, the list unchanged.
     void insert(int position, Row row) {
@@ -131,7 +136,6 @@ private:
     int positionOf(const Entry& entry) const;
     std::uint64_t rankFor(int position);
     void refuseTakenKey(std::string_view key) const;
-    void makeRoom();
     void forgetKey(Entry& entry);
     template <class Change>
     void changeRow(int position, Change change);

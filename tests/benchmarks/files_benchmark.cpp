@@ -1,9 +1,11 @@
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
 #include "analyses.h"
 #include "analyze/source_files.h"
 #include "bench.h"
 #include "core/text.h"
+#include "floors.h"
 #include "sessionfiles/analyze_file.h"
 #include "sessionfiles/merging.h"
 
@@ -38,6 +40,32 @@ void consolidateFilesOf100Statements(benchmark::State& state) {
     if (team.form().lvAStrength.count() != 25 * state.range(0)) state.SkipWithError("rows missing");
 }
 BENCHMARK(consolidateFilesOf100Statements)->Arg(500)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+void consolidateFilesOf100StatementsFloor(benchmark::State& state) {
+    const Team team(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        FloorLists lists;
+        for (const auto& [path, bytes] : team.disk.files)
+            if (path.ends_with(".bsm")) readBrainstormFile(std::string(bytes), lists);
+        benchmark::DoNotOptimize(lists);
+    }
+}
+BENCHMARK(consolidateFilesOf100StatementsFloor)->Arg(500)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+/// What a statement with its companions takes beside the bytes of its text.
+void memoryOfConsolidatedStatements(benchmark::State& state) {
+    Team team(static_cast<int>(state.range(0)));
+    std::size_t texts = 0;
+    const std::size_t before = mallinfo2().uordblks;
+    for (auto _ : state) consolidateSourceFiles(team.program());
+    const std::size_t bytes = mallinfo2().uordblks - before;
+    const StatementList& strengths = team.form().lvAStrength;
+    for (int position = 1; position <= strengths.count(); ++position)
+        texts += strengths.row(position).text.size();
+    const double statements = 4.0 * strengths.count();
+    state.counters["bytes"] = static_cast<double>(bytes - 4 * texts) / statements;
+}
+BENCHMARK(memoryOfConsolidatedStatements)->Arg(1000)->Unit(benchmark::kMillisecond);
 
 /// A brainstorm file of so many strengths of one letter each.
 std::string shortStatements(int count) {
@@ -94,6 +122,12 @@ void loadAnalysis(benchmark::State& state) {
 }
 BENCHMARK(loadAnalysis)->Arg(50'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
 
+void loadAnalysisFloor(benchmark::State& state) {
+    const std::string bytes = analysisOf(static_cast<int>(state.range(0)));
+    for (auto _ : state) benchmark::DoNotOptimize(readAnalysis(std::string(bytes)));
+}
+BENCHMARK(loadAnalysisFloor)->Arg(50'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
+
 void saveAnalysis(benchmark::State& state) {
     test::Bench bench;
     bench.start();
@@ -104,6 +138,14 @@ void saveAnalysis(benchmark::State& state) {
         state.SkipWithError("the saved file is another");
 }
 BENCHMARK(saveAnalysis)->Arg(50'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
+
+void saveAnalysisFloor(benchmark::State& state) {
+    const FloorLists lists = readAnalysis(analysisOf(static_cast<int>(state.range(0))));
+    std::string file;
+    for (auto _ : state) file = std::string_view(writtenAnalysis(lists));  // the disk's own bytes
+    benchmark::DoNotOptimize(file);
+}
+BENCHMARK(saveAnalysisFloor)->Arg(50'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

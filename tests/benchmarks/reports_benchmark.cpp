@@ -2,6 +2,7 @@
 
 #include "analyses.h"
 #include "bench.h"
+#include "floors.h"
 #include "reports/html_report.h"
 #include "reports/word_report.h"
 
@@ -18,6 +19,14 @@ void makeWebPage(benchmark::State& state) {
         state.SkipWithError("no page");
 }
 BENCHMARK(makeWebPage)->Arg(50'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
+
+void makeWebPageFloor(benchmark::State& state) {
+    const std::string bytes = analysisOf(static_cast<int>(state.range(0)));
+    std::string page;
+    for (auto _ : state) page = std::string_view(writtenPage(readAnalysis(std::string(bytes))));
+    benchmark::DoNotOptimize(page);
+}
+BENCHMARK(makeWebPageFloor)->Arg(50'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
 
 void makeDocument(benchmark::State& state) {
     test::Bench bench;

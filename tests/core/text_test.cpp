@@ -7,7 +7,7 @@
 namespace orvanta::test {
 namespace {
 
-Texts partsOf(std::string_view text, std::string_view delimiter) {
+Texts splitTexts(std::string_view text, std::string_view delimiter) {
     Texts result;
     for (const std::string_view part : splitAt(text, delimiter)) result.emplace_back(part);
     return result;
@@ -35,17 +35,27 @@ TEST(Trimming, TakesNoOtherWhiteSpace) {
 }
 
 TEST(Splitting, GivesOnePartMoreThanThereAreDelimiters) {
-    EXPECT_EQ(partsOf("a--b--c", "--"), (Texts{"a", "b", "c"}));
-    EXPECT_EQ(partsOf("a", "--"), Texts{"a"});
+    EXPECT_EQ(splitTexts("a--b--c", "--"), (Texts{"a", "b", "c"}));
+    EXPECT_EQ(splitTexts("a", "--"), Texts{"a"});
 }
 
 TEST(Splitting, KeepsEmptyParts) {
-    EXPECT_EQ(partsOf("--a----", "--"), (Texts{"", "a", "", ""}));
-    EXPECT_EQ(partsOf("", "--"), Texts{""});
+    EXPECT_EQ(splitTexts("--a----", "--"), (Texts{"", "a", "", ""}));
+    EXPECT_EQ(splitTexts("", "--"), Texts{""});
 }
 
 TEST(Splitting, TakesDelimitersFromTheLeft) {
-    EXPECT_EQ(partsOf("a---b", "--"), (Texts{"a", "-b"}));
+    EXPECT_EQ(splitTexts("a---b", "--"), (Texts{"a", "-b"}));
+}
+
+TEST(Splitting, IntoSoManyPartsRefusesMoreAndFewer) {
+    using Pair = std::array<std::string_view, 2>;
+    EXPECT_EQ(partsOf<2>("a, b", ", "), (Pair{"a", "b"}));
+    EXPECT_EQ(partsOf<2>(", ", ", "), (Pair{"", ""}));
+    EXPECT_EQ(partsOf<2>("a", ", "), std::nullopt);
+    EXPECT_EQ(partsOf<2>("a, b, ", ", "), std::nullopt);
+    EXPECT_EQ(partsOf<1>("a", ", "), (std::array<std::string_view, 1>{"a"}));
+    EXPECT_EQ(partsOf<1>("a, ", ", "), std::nullopt);
 }
 
 TEST(Replacing, ReachesEveryPlace) {
@@ -76,6 +86,10 @@ TEST(Lines, EndInAnyOfTheThreeWays) {
 }
 
 TEST(Lines, NeedNoEndBehindTheLast) { EXPECT_EQ(linesOf("a\r\nb"), (Texts{"a", "b"})); }
+
+TEST(Lines, EndWhereTheirOwnEndIsWhateverComesFurtherDown) {
+    EXPECT_EQ(linesOf("a\rb\n\rc\r\rd\n\r\ne\r"), (Texts{"a", "b", "", "c", "", "d", "", "e"}));
+}
 
 TEST(Lines, MayBeEmpty) {
     EXPECT_EQ(linesOf("\r\n\r\n"), (Texts{"", ""}));

@@ -192,6 +192,17 @@ TEST_F(StatementListOfThree, RefusesAllRowsOfAnotherFromTheFirstKeyOnThatItHolds
     EXPECT_EQ(rowsOf(other), (ShownRows{{"S2", "of S2"}, {"S1", "of S1"}}));
 }
 
+TEST_F(StatementListOfThree, AddsTheLastRowOfAnother) {
+    StatementList other(controls, "other");
+    other.addLastOf(list);
+    EXPECT_EQ(rowsOf(other), (ShownRows{{"S3", "of S3"}}));
+    EXPECT_EQ(failureOf([&] { other.addLastOf(list); }), keyNotUnique);
+    list.setText(3, "New");
+    other.setColour(1, {1, 2, 3});
+    EXPECT_EQ(rowsOf(other), (ShownRows{{"S3", "of S3"}}));
+    EXPECT_EQ(list.row(3).colour, std::nullopt);
+}
+
 TEST_F(StatementListOfThree, KeepsItsRowsWhenTheListTheyCameFromChanges) {
     StatementList other(controls, "other");
     other.addAll(list);
