@@ -12,6 +12,8 @@
 #include <cassert>
 
 #include "desktop/conversions.h"
+#include "desktop/enlargement.h"
+#include "desktop/screen_room.h"
 
 namespace orvanta::desktop {
 
@@ -53,6 +55,7 @@ FileChooser::FileChooser(const FileDialogRequest& request, FileRules rules, QWid
     columns.setStretchLastSection(false);
     columns.setSectionResizeMode(QHeaderView::ResizeToContents);
     columns.setSectionResizeMode(0, QHeaderView::Stretch);
+    resize(enlarged(size()).boundedTo(roomForWindow()));
     if (!request.fileName.empty()) selectFile(fromPath(request.fileName));
 }
 

@@ -13,6 +13,7 @@
 
 #include "core/constants.h"
 #include "desktop/conversions.h"
+#include "desktop/enlargement.h"
 #include "desktop/message_box.h"
 #include "desktop/question_sheet_pages.h"
 #include "desktop/screen_room.h"
@@ -92,7 +93,7 @@ void PreviewingPrinter::print(const QuestionSheets& sheets) {
     QPrintPreviewDialog preview(&printer, QApplication::activeWindow());
     preview.setWindowTitle(title);
     constexpr QSize roomy{900, 760};
-    preview.resize(roomy.boundedTo(roomForWindow()));
+    preview.resize(enlarged(roomy).boundedTo(roomForWindow()));
     nameBoxes(preview);
     addPaperChoice(preview, printer);
     QObject::connect(&preview, &QPrintPreviewDialog::paintRequested,
