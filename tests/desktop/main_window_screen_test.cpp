@@ -24,7 +24,7 @@
 #include "desktop/question_printer.h"
 #include "desktop/screen_room.h"
 #include "desktop/skinned_button_view.h"
-#include "desktop/theme.h"
+#include "letters.h"
 #include "printed_sheets.h"
 #include "window_bench.h"
 
@@ -160,26 +160,6 @@ void walkAnalyzing(WindowBench<AnalysisBench>& bench) {
         bench.next(1);
     }
 }
-
-/// The program on a desktop with letters of another size.
-class Letters {
-public:
-    explicit Letters(double points) {
-        QFont font = QApplication::font();
-        font.setPointSizeF(points);
-        QApplication::setFont(font);
-        applyTheme(*qApp);
-    }
-    ~Letters() {
-        QApplication::setFont(m_former);
-        applyTheme(*qApp);
-    }
-    Letters(const Letters&) = delete;
-    Letters& operator=(const Letters&) = delete;
-
-private:
-    QFont m_former = QApplication::font();
-};
 
 std::vector<std::pair<std::string, Bounds>> boundsOf(Bench& bench) {
     std::vector<std::pair<std::string, Bounds>> bounds;
