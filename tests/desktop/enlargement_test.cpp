@@ -86,6 +86,7 @@ TEST(Enlargement, KnowsLettersThatTheDesktopTellsInPixels) {
 }
 
 TEST(Enlargement, HoldsForRowsBoxesAndPictures) {
+    const Letters usual(9);
     const int row = rowHeight(QFontMetrics(QApplication::font()));
     const Letters letters(13.5);
     EXPECT_EQ(RowLengths().picture, 24);
