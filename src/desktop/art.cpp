@@ -46,6 +46,20 @@ QImage drawn(const QString& name, QSize size) {
     return image;
 }
 
+using RowIcons = std::array<QIcon, 5>;
+
+RowIcons rowIcons(const QString& ending) {
+    return {QIcon(), pictureIcon(QStringLiteral("row_strength") + ending),
+            pictureIcon(QStringLiteral("row_weakness") + ending),
+            pictureIcon(QStringLiteral("row_opportunity") + ending),
+            pictureIcon(QStringLiteral("row_threat") + ending)};
+}
+
+const QIcon& iconIn(const RowIcons& icons, int image) {
+    const auto number = static_cast<std::size_t>(image);
+    return icons[number < icons.size() ? number : 0];
+}
+
 }  // namespace
 
 QPixmap picture(const QString& name, QSize size, qreal pixelRatio) {
@@ -85,12 +99,13 @@ QString artName(Art art) {
 }
 
 const QIcon& rowIcon(int image) {
-    static const std::array<QIcon, 5> icons{QIcon(), pictureIcon(QStringLiteral("row_strength")),
-                                            pictureIcon(QStringLiteral("row_weakness")),
-                                            pictureIcon(QStringLiteral("row_opportunity")),
-                                            pictureIcon(QStringLiteral("row_threat"))};
-    const auto number = static_cast<std::size_t>(image);
-    return icons[number < icons.size() ? number : 0];
+    static const RowIcons icons = rowIcons(QString());
+    return iconIn(icons, image);
+}
+
+const QIcon& smallRowIcon(int image) {
+    static const RowIcons icons = rowIcons(QStringLiteral("_small"));
+    return iconIn(icons, image);
 }
 
 }  // namespace orvanta::desktop

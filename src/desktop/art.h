@@ -27,5 +27,7 @@ QString artName(Art art);
 
 /// The picture of a row by its number, 1 to 4; a null icon for any other.
 const QIcon& rowIcon(int image);
+/// The same drawn for 12 pixels.
+const QIcon& smallRowIcon(int image);
 
 }  // namespace orvanta::desktop

@@ -14,18 +14,22 @@ namespace orvanta::desktop {
 
 namespace {
 
-constexpr int pictureSize = 16, leftMargin = 10, gap = 8, indentStep = 16, edgeWidth = 4;
+constexpr int pictureSize = 16, leftMargin = 10, gap = 8, indentStep = 16;
+constexpr int edgeWidth = 4, quietEdgeWidth = 2;
 
 QColor inkOf(const Row& row) {
     if (!row.colour) return theme::ink;
     return QColor(row.colour->red, row.colour->green, row.colour->blue);
 }
 
-void drawGround(QPainter& painter, const QStyleOptionViewItem& option) {
+/// The chosen row is strong where the keyboard is, and quiet in the other lists.
+void drawGround(QPainter& painter, const QStyleOptionViewItem& option, bool hasKeyboard) {
     const QRect& place = option.rect;
     if (option.state & QStyle::State_Selected) {
-        painter.fillRect(place, theme::selection);
-        painter.fillRect(QRect(place.topLeft(), QSize(edgeWidth, place.height())), theme::deepBlue);
+        const int edge = hasKeyboard ? edgeWidth : quietEdgeWidth;
+        painter.fillRect(place, hasKeyboard ? theme::selection : theme::sideGround);
+        painter.fillRect(QRect(place.topLeft(), QSize(edge, place.height())),
+                         hasKeyboard ? theme::deepBlue : option.palette.color(QPalette::Mid));
     } else if (option.state & QStyle::State_MouseOver) {
         painter.fillRect(place, theme::sideGround);
     }
@@ -95,7 +99,7 @@ int drawCounts(QPainter& painter, const QStyleOptionViewItem& option,
         painter.drawText(QRect(right - width, place.top(), width, place.height()),
                          Qt::AlignLeft | Qt::AlignVCenter, QString::number(number));
         right -= width + numberGap + smallPicture;
-        rowIcon(imageOf(kind))
+        smallRowIcon(imageOf(kind))
             .paint(&painter, QRect(right, place.top() + (place.height() - smallPicture) / 2,
                                    smallPicture, smallPicture));
         right -= gap;
@@ -153,7 +157,7 @@ void StatementRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& o
     if (m_view.litRow() == index.row() + 1)
         drawDropGround(*painter, option.rect);
     else if (!m_view.isLit())
-        drawGround(*painter, option);
+        drawGround(*painter, option, m_view.hasFocus());
     const Row& row = m_list.row(index.row() + 1);
     QRect room = option.rect;
     const MappingCounts* counts = m_view.mappingCounts();

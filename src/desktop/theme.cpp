@@ -147,6 +147,9 @@ QListView { background: @paper; border: 1px solid @outline; border-radius: 4px; 
 QListView:focus { border: 2px solid @deepBlue; padding: 1px; }
 QListWidget::item { padding: 6px 8px; border-bottom: 1px solid @hairline; color: @ink; }
 QListWidget::item:selected {
+    background: @sideGround; border-left: 2px solid @outline; padding-left: 6px;
+}
+QListWidget::item:selected:active {
     background: @selection; border-left: 4px solid @deepBlue; padding-left: 4px;
 }
 

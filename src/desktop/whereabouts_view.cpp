@@ -108,7 +108,7 @@ int WhereaboutsView::drawCount(QPainter& painter, const QRect& room, StatementKi
     painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter, count);
     const int left = room.right() - fontMetrics().horizontalAdvance(count) - numberGap;
     const QRect picture = pictureIn(room, left - smallPicture, smallPicture);
-    rowIcon(imageOf(kind)).paint(&painter, picture);
+    smallRowIcon(imageOf(kind)).paint(&painter, picture);
     return picture.left();
 }
 

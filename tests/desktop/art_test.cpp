@@ -17,6 +17,21 @@ TEST(Pictures, AreThereForEachArtOfAButton) {
 TEST(Pictures, OfRowsAreFourAndNoneBesideThem) {
     for (int image = 1; image <= 4; ++image) EXPECT_FALSE(rowIcon(image).isNull()) << image;
     for (const int image : {-1, 0, 5}) EXPECT_TRUE(rowIcon(image).isNull()) << image;
+    EXPECT_TRUE(smallRowIcon(5).isNull());
+}
+
+TEST(Pictures, OfRowsAreDrawnAnewForTheSmallSize) {
+    const auto drawn = [](const QIcon& icon) { return icon.pixmap(QSize(12, 12), 1).toImage(); };
+    for (int image = 1; image <= 4; ++image)
+        EXPECT_NE(drawn(smallRowIcon(image)), drawn(rowIcon(image))) << image;
+}
+
+/// A picture that is made for its size has its straight edges between pixels, none across one.
+TEST(Pictures, OfAStrengthAreSharpAtTheSmallSize) {
+    const QImage drawn = smallRowIcon(1).pixmap(QSize(12, 12), 1).toImage();
+    const QRgb ground = drawn.pixel(6, 0), sign = drawn.pixel(6, 6);
+    for (int x = 0; x < 12; ++x)
+        EXPECT_TRUE(drawn.pixel(x, 6) == ground || drawn.pixel(x, 6) == sign) << x;
 }
 
 TEST(Pictures, AreDrawnInThePixelsOfTheirScreen) {
