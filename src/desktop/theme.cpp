@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "desktop/art.h"
+#include "desktop/file_pictures.h"
 
 namespace orvanta::desktop {
 
@@ -56,7 +57,9 @@ QPalette lightPalette(const QPalette& desktop) {
     palette.setColor(QPalette::ToolTipBase, theme::paper);
     palette.setColor(QPalette::ToolTipText, theme::ink);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, quietInk);
+        palette.setColor(QPalette::Disabled, role, theme::quietInk);
+    palette.setColor(QPalette::Disabled, QPalette::Mid, theme::outline);
+    palette.setColor(QPalette::Disabled, QPalette::Base, theme::sideGround);
     return palette;
 }
 
@@ -90,6 +93,23 @@ void drawTickBox(QPainter& painter, const QStyleOption& option) {
     painter.restore();
 }
 
+/// As a text box, with an arrow. On blue ground too the keyboard is told by an edge within.
+void drawDropDown(QPainter& painter, const QStyleOption& option) {
+    constexpr int fromRight = 13, reach = 4;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(option.palette.color(QPalette::Mid));
+    painter.setBrush(option.palette.base());
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+    painter.setPen(QPen(option.palette.color(QPalette::Text), 1.5));
+    const QPointF tip(option.rect.right() - fromRight, option.rect.center().y() + reach / 2.0 + 1);
+    painter.drawPolyline(
+        QPolygonF{tip + QPointF(-reach, -reach), tip, tip + QPointF(reach, -reach)});
+    painter.restore();
+    if (option.state & QStyle::State_HasFocus)
+        drawFocusEdge(painter, option.rect.adjusted(2, 2, -2, -2));
+}
+
 /// Fusion, light whatever colours the desktop asks for, with flat signs in its message boxes.
 class FlatStyle : public QProxyStyle {
 public:
@@ -114,13 +134,22 @@ public:
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                             QPainter* painter, const QWidget* widget) const override {
+        if (control == CC_ComboBox) return drawDropDown(*painter, *option);
         QProxyStyle::drawComplexControl(control, option, painter, widget);
-        if (control == CC_ComboBox && option->state & State_HasFocus)
-            drawFocusEdge(*painter, option->rect.adjusted(2, 2, -2, -2));  // on blue ground too
+    }
+
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override {
+        constexpr int margin = 7, arrow = 20;  // the text stands as in a text box
+        if (control == CC_ComboBox && part == SC_ComboBoxEditField)
+            return option->rect.adjusted(margin, 1, -arrow, -1);
+        return QProxyStyle::subControlRect(control, option, part, widget);
     }
 
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
                        const QWidget* widget) const override {
+        const QString picture = fileDialogPicture(icon);
+        if (!picture.isEmpty()) return pictureIcon(picture);
         switch (icon) {
             case SP_MessageBoxCritical:
                 return discIcon(theme::alarm, u'!');
@@ -141,10 +170,26 @@ private:
 constexpr auto flatLook = R"(
 QLineEdit { background: @paper; border: 1px solid @outline; border-radius: 4px; padding: 0 8px; }
 QLineEdit:focus { border: 2px solid @deepBlue; padding: 0 7px; }
+QLineEdit:disabled { background: @sideGround; border: 1px dashed @disabledEdge; }
 QFileDialog QLineEdit { min-height: 22px; }
+QComboBox QLineEdit, QComboBox QLineEdit:focus { background: transparent; border: none; padding: 0; }
 
-QListView { background: @paper; border: 1px solid @outline; border-radius: 4px; padding: 2px; }
-QListView:focus { border: 2px solid @deepBlue; padding: 1px; }
+QListView, QTreeView {
+    background: @paper; border: 1px solid @outline; border-radius: 4px; padding: 2px;
+}
+QListView:focus, QTreeView:focus { border: 2px solid @deepBlue; padding: 1px; }
+QComboBox QListView, QComboBox QListView:focus {
+    border: 1px solid @outline; border-radius: 0; padding: 0;
+}
+QFileDialog QTreeView::item { padding: 3px 0; }
+QFileDialog QListView::item:selected, QFileDialog QTreeView::item:selected {
+    background: @selection; color: @ink;
+}
+QHeaderView { background: @paper; }
+QHeaderView::section {
+    background: @paper; color: @ink; border: none; border-bottom: 1px solid @outline;
+    padding: 2px 6px;
+}
 QListWidget::item { padding: 6px 8px; border-bottom: 1px solid @hairline; color: @ink; }
 QListWidget::item:selected {
     background: @sideGround; border-left: 2px solid @outline; padding-left: 6px;
@@ -164,7 +209,9 @@ QPushButton:default { background: @deepBlue; color: @paper; border-color: @deepB
 QPushButton:default:hover { background: #0b409f; }
 QPushButton:default:focus, #frmEdit QLineEdit:focus, #frmReportType QLineEdit:focus,
 #frmReportType #cmdBrowse:focus { border: 2px solid #8fb0f0; }
-QPushButton:disabled { color: @quietInk; background: @sideGround; border-color: @hairline; }
+QPushButton:disabled {
+    color: @disabledInk; background: @sideGround; border: 1px dashed @disabledEdge; padding: 3px;
+}
 QMessageBox QPushButton, QFileDialog QPushButton, QPrintPreviewDialog QPushButton {
     min-width: 72px; min-height: 22px;
 }
@@ -174,7 +221,19 @@ QRadioButton::indicator {
     width: 14px; height: 14px; border: 1px solid @outline; border-radius: 8px; background: @paper;
 }
 QRadioButton::indicator:hover { border-color: @deepBlue; }
+QRadioButton::indicator:disabled { border: 1px dashed @disabledEdge; background: @sideGround; }
 QRadioButton::indicator:checked { width: 6px; height: 6px; border: 5px solid @deepBlue; }
+QRadioButton::indicator:checked:disabled { border-color: @disabledInk; }
+
+QToolBar {
+    background: @sideGround; border: none; border-bottom: 1px solid @hairline; padding: 4px;
+    spacing: 2px;
+}
+QToolButton { border: 1px solid transparent; border-radius: 4px; padding: 3px; }
+QToolButton:hover { background: @paper; border-color: @outline; }
+QToolButton:checked, QToolButton:pressed { background: @selection; border-color: @deepBlue; }
+QToolButton:focus { border: 2px solid @deepBlue; padding: 2px; }
+QToolButton:disabled { background: transparent; border-color: transparent; }
 
 QToolTip { background: @paper; color: @ink; border: 1px solid @outline; padding: 4px; }
 
@@ -193,7 +252,8 @@ QString sheetFor(const QPalette& colours) {
          {std::pair("@paper", theme::paper), std::pair("@ink", theme::ink),
           std::pair("@deepBlue", theme::deepBlue), std::pair("@sideGround", theme::sideGround),
           std::pair("@selection", theme::selection),
-          std::pair("@quietInk", colours.color(QPalette::PlaceholderText)),
+          std::pair("@disabledEdge", colours.color(QPalette::Disabled, QPalette::Mid)),
+          std::pair("@disabledInk", colours.color(QPalette::Disabled, QPalette::ButtonText)),
           std::pair("@outline", colours.color(QPalette::Mid)),
           std::pair("@hairline", colours.color(QPalette::Midlight))})
         sheet.replace(QLatin1String(name), colour.name());

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace orvanta::test {
 
 namespace {
@@ -32,6 +34,21 @@ TEST(Pictures, OfAStrengthAreSharpAtTheSmallSize) {
     const QRgb ground = drawn.pixel(6, 0), sign = drawn.pixel(6, 6);
     for (int x = 0; x < 12; ++x)
         EXPECT_TRUE(drawn.pixel(x, 6) == ground || drawn.pixel(x, 6) == sign) << x;
+}
+
+TEST(Pictures, ArePaleWhereTheirButtonIsDisabled) {
+    const auto strongest = [](QIcon::Mode mode) {
+        const QImage drawn =
+            pictureIcon(QStringLiteral("undo")).pixmap(QSize(20, 20), 1, mode).toImage();
+        int most = 0;
+        for (int y = 0; y < drawn.height(); ++y)
+            for (int x = 0; x < drawn.width(); ++x)
+                most = std::max(most, qAlpha(drawn.pixel(x, y)));
+        return most;
+    };
+    EXPECT_EQ(strongest(QIcon::Normal), 255);
+    EXPECT_GT(strongest(QIcon::Disabled), 0);
+    EXPECT_LT(strongest(QIcon::Disabled), 128);
 }
 
 TEST(Pictures, AreDrawnInThePixelsOfTheirScreen) {
