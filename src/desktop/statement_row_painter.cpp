@@ -19,12 +19,15 @@ QColor inkOf(const Row& row) {
     return QColor(row.colour->red, row.colour->green, row.colour->blue);
 }
 
-void drawGround(QPainter& painter, const QStyleOptionViewItem& option) {
+/// The chosen row is strong where the keyboard is, and quiet in the other lists.
+void drawGround(QPainter& painter, const QStyleOptionViewItem& option, bool hasKeyboard) {
     const QRect& place = option.rect;
     if (option.state & QStyle::State_Selected) {
-        painter.fillRect(place, theme::selection);
-        painter.fillRect(QRect(place.topLeft(), QSize(RowLengths().edge, place.height())),
-                         theme::deepBlue);
+        const RowLengths lengths;
+        const int edge = hasKeyboard ? lengths.edge : lengths.quietEdge;
+        painter.fillRect(place, hasKeyboard ? theme::selection : theme::sideGround);
+        painter.fillRect(QRect(place.topLeft(), QSize(edge, place.height())),
+                         hasKeyboard ? theme::deepBlue : option.palette.color(QPalette::Mid));
     } else if (option.state & QStyle::State_MouseOver) {
         painter.fillRect(place, theme::sideGround);
     }
@@ -93,7 +96,7 @@ int drawCounts(QPainter& painter, const QStyleOptionViewItem& option,
                          Qt::AlignLeft | Qt::AlignVCenter, QString::number(number));
         const int size = lengths.smallPicture;
         right -= width + lengths.numberGap + size;
-        rowIcon(imageOf(kind))
+        smallRowIcon(imageOf(kind))
             .paint(&painter, QRect(right, place.top() + (place.height() - size) / 2, size, size));
         right -= lengths.gap;
     }
@@ -154,7 +157,7 @@ void StatementRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& o
     if (m_view.litRow() == index.row() + 1)
         drawDropGround(*painter, option.rect);
     else if (!m_view.isLit())
-        drawGround(*painter, option);
+        drawGround(*painter, option, m_view.hasFocus());
     const Row& row = m_list.row(index.row() + 1);
     QRect room = option.rect;
     const MappingCounts* counts = m_view.mappingCounts();

@@ -30,7 +30,8 @@ private:
 struct RowLengths {
     int picture = enlarged(16), smallPicture = enlarged(12);
     int leftMargin = enlarged(10), gap = enlarged(8), numberGap = enlarged(4);
-    int indentStep = enlarged(16), edge = enlarged(4), aboveAndBelow = enlarged(12);
+    int indentStep = enlarged(16), aboveAndBelow = enlarged(12);
+    int edge = enlarged(4), quietEdge = enlarged(2);
 
     int textLeft(const Row& row) const {
         return leftMargin + row.indent * indentStep + picture + gap;

@@ -17,6 +17,7 @@
 
 #include "desktop/art.h"
 #include "desktop/enlargement.h"
+#include "desktop/file_pictures.h"
 #include "desktop/screen_room.h"
 
 namespace orvanta::desktop {
@@ -62,7 +63,9 @@ QPalette lightPalette(const QPalette& desktop) {
     palette.setColor(QPalette::ToolTipBase, theme::paper);
     palette.setColor(QPalette::ToolTipText, theme::ink);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, quietInk);
+        palette.setColor(QPalette::Disabled, role, theme::quietInk);
+    palette.setColor(QPalette::Disabled, QPalette::Mid, theme::outline);
+    palette.setColor(QPalette::Disabled, QPalette::Base, theme::sideGround);
     return palette;
 }
 
@@ -90,10 +93,28 @@ void drawTickBox(QPainter& painter, const QStyleOption& option) {
         const auto at = [&box](double x, double y) {
             return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
         };
-        painter.setPen(QPen(theme::paper, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setPen(
+            QPen(theme::paper, 2 * enlargement(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter.drawPolyline(QPolygonF{at(0.22, 0.52), at(0.42, 0.72), at(0.78, 0.3)});
     }
     painter.restore();
+}
+
+/// As a text box, with an arrow. On blue ground too the keyboard is told by an edge within.
+void drawDropDown(QPainter& painter, const QStyleOption& option) {
+    const double radius = enlarged(4), fromRight = enlarged(13), reach = enlarged(4);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(option.palette.color(QPalette::Mid));
+    painter.setBrush(option.palette.base());
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter.setPen(QPen(option.palette.color(QPalette::Text), 1.5 * enlargement()));
+    const QPointF tip(option.rect.right() - fromRight, option.rect.center().y() + reach / 2 + 1);
+    painter.drawPolyline(
+        QPolygonF{tip + QPointF(-reach, -reach), tip, tip + QPointF(reach, -reach)});
+    painter.restore();
+    if (option.state & QStyle::State_HasFocus)
+        drawFocusEdge(painter, option.rect.adjusted(2, 2, -2, -2));
 }
 
 /// True for what would look small beside larger letters: pictures, boxes to tick, gaps.
@@ -151,9 +172,16 @@ public:
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                             QPainter* painter, const QWidget* widget) const override {
+        if (control == CC_ComboBox) return drawDropDown(*painter, *option);
         QProxyStyle::drawComplexControl(control, option, painter, widget);
-        if (control == CC_ComboBox && option->state & State_HasFocus)
-            drawFocusEdge(*painter, option->rect.adjusted(2, 2, -2, -2));  // on blue ground too
+    }
+
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override {
+        const int margin = enlarged(7), arrow = enlarged(20);  // the text stands as in a text box
+        if (control == CC_ComboBox && part == SC_ComboBoxEditField)
+            return option->rect.adjusted(margin, 1, -arrow, -1);
+        return QProxyStyle::subControlRect(control, option, part, widget);
     }
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -173,6 +201,8 @@ public:
 
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
                        const QWidget* widget) const override {
+        const QString picture = fileDialogPicture(icon);
+        if (!picture.isEmpty()) return pictureIcon(picture);
         switch (icon) {
             case SP_MessageBoxCritical:
                 return discIcon(theme::alarm, u'!');
@@ -194,12 +224,31 @@ private:
 constexpr auto flatLook = R"(
 QLineEdit { background: @paper; border: 1px solid @outline; border-radius: 4u; padding: 0 9u-1px; }
 QLineEdit:focus { border: 2px solid @deepBlue; padding: 0 9u-2px; }
+QLineEdit:disabled { background: @sideGround; border: 1px dashed @disabledEdge; }
 QFileDialog QLineEdit { min-height: 22u; }
+QComboBox QLineEdit, QComboBox QLineEdit:focus { background: transparent; border: none; padding: 0; }
 
-QListView { background: @paper; border: 1px solid @outline; border-radius: 4u; padding: 3u-1px; }
-QListView:focus { border: 2px solid @deepBlue; padding: 3u-2px; }
+QListView, QTreeView {
+    background: @paper; border: 1px solid @outline; border-radius: 4u; padding: 3u-1px;
+}
+QListView:focus, QTreeView:focus { border: 2px solid @deepBlue; padding: 3u-2px; }
+QComboBox QListView, QComboBox QListView:focus {
+    border: 1px solid @outline; border-radius: 0; padding: 0;
+}
+QFileDialog QTreeView::item { padding: 3u 0; }
+QFileDialog QListView::item:selected, QFileDialog QTreeView::item:selected {
+    background: @selection; color: @ink;
+}
+QHeaderView { background: @paper; }
+QHeaderView::section {
+    background: @paper; color: @ink; border: none; border-bottom: 1px solid @outline;
+    padding: 2u 6u;
+}
 QListWidget::item { padding: 6u 8u; border-bottom: 1px solid @hairline; color: @ink; }
 QListWidget::item:selected {
+    background: @sideGround; border-left: 2u solid @outline; padding-left: 8u-2u;
+}
+QListWidget::item:selected:active {
     background: @selection; border-left: 4u solid @deepBlue; padding-left: 8u-4u;
 }
 
@@ -214,7 +263,9 @@ QPushButton:default { background: @deepBlue; color: @paper; border-color: @deepB
 QPushButton:default:hover { background: #0b409f; }
 QPushButton:default:focus, #frmEdit QLineEdit:focus, #frmReportType QLineEdit:focus,
 #frmReportType #cmdBrowse:focus { border: 2px solid #8fb0f0; }
-QPushButton:disabled { color: @quietInk; background: @sideGround; border-color: @hairline; }
+QPushButton:disabled {
+    color: @disabledInk; background: @sideGround; border: 1px dashed @disabledEdge; padding: 4u-1px;
+}
 QMessageBox QPushButton, QFileDialog QPushButton, QPrintPreviewDialog QPushButton {
     min-width: 72u; min-height: 22u;
 }
@@ -224,9 +275,21 @@ QRadioButton::indicator {
     width: 16u-2px; height: 16u-2px; border: 1px solid @outline; border-radius: 8u; background: @paper;
 }
 QRadioButton::indicator:hover { border-color: @deepBlue; }
+QRadioButton::indicator:disabled { border: 1px dashed @disabledEdge; background: @sideGround; }
 QRadioButton::indicator:checked {
     width: 16u-5u-5u; height: 16u-5u-5u; border: 5u solid @deepBlue;
 }
+QRadioButton::indicator:checked:disabled { border-color: @disabledInk; }
+
+QToolBar {
+    background: @sideGround; border: none; border-bottom: 1px solid @hairline; padding: 4u;
+    spacing: 2u;
+}
+QToolButton { border: 1px solid transparent; border-radius: 4u; padding: 4u-1px; }
+QToolButton:hover { background: @paper; border-color: @outline; }
+QToolButton:checked, QToolButton:pressed { background: @selection; border-color: @deepBlue; }
+QToolButton:focus { border: 2px solid @deepBlue; padding: 4u-2px; }
+QToolButton:disabled { background: transparent; border-color: transparent; }
 
 QToolTip { background: @paper; color: @ink; border: 1px solid @outline; padding: 4u; }
 
@@ -265,7 +328,8 @@ QString sheetFor(const QPalette& colours) {
          {std::pair("@paper", theme::paper), std::pair("@ink", theme::ink),
           std::pair("@deepBlue", theme::deepBlue), std::pair("@sideGround", theme::sideGround),
           std::pair("@selection", theme::selection),
-          std::pair("@quietInk", colours.color(QPalette::PlaceholderText)),
+          std::pair("@disabledEdge", colours.color(QPalette::Disabled, QPalette::Mid)),
+          std::pair("@disabledInk", colours.color(QPalette::Disabled, QPalette::ButtonText)),
           std::pair("@outline", colours.color(QPalette::Mid)),
           std::pair("@hairline", colours.color(QPalette::Midlight))})
         sheet.replace(QLatin1String(name), colour.name());

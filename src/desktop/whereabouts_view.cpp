@@ -119,7 +119,7 @@ int WhereaboutsView::drawCount(QPainter& painter, const QRect& room, StatementKi
     const int left = room.right() - fontMetrics().horizontalAdvance(count) - lengths.numberGap;
     const int size = lengths.smallPicture;
     const QRect picture = pictureIn(room, left - size, size);
-    rowIcon(imageOf(kind)).paint(&painter, picture);
+    smallRowIcon(imageOf(kind)).paint(&painter, picture);
     return picture.left();
 }
 

@@ -76,7 +76,8 @@ bool isOfAnArea(const QWidget& widget) {
 
 /// The room that a label needs for its text; none for one that cuts its own.
 QSize neededBy(const QLabel& label) {
-    if (dynamic_cast<const WhereaboutsView*>(&label)) return {0, label.fontMetrics().height() + enlarged(5)};
+    if (dynamic_cast<const WhereaboutsView*>(&label))
+        return {0, label.fontMetrics().height() + enlarged(5)};
     if (label.wordWrap()) return {0, label.heightForWidth(label.width())};
     return label.fontMetrics().size(0, label.text());
 }
