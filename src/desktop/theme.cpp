@@ -134,6 +134,7 @@ bool growsWithLetters(QStyle::PixelMetric metric) {
         case QStyle::PM_LargeIconSize:
         case QStyle::PM_ButtonIconSize:
         case QStyle::PM_ToolBarIconSize:
+        case QStyle::PM_ToolBarExtensionExtent:
         case QStyle::PM_ListViewIconSize:
         case QStyle::PM_MessageBoxIconSize:
         case QStyle::PM_LayoutLeftMargin:
@@ -289,6 +290,7 @@ QToolButton { border: 1px solid transparent; border-radius: 4u; padding: 4u-1px;
 QToolButton:hover { background: @paper; border-color: @outline; }
 QToolButton:checked, QToolButton:pressed { background: @selection; border-color: @deepBlue; }
 QToolButton:focus { border: 2px solid @deepBlue; padding: 4u-2px; }
+#qt_toolbar_ext_button { padding: 0; }
 QToolButton:disabled { background: transparent; border-color: transparent; }
 
 QToolTip { background: @paper; color: @ink; border: 1px solid @outline; padding: 4u; }
