@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Makes a picture of every screen and dialog: at 1x and 2x, on a light, a dark and a high-contrast
-# desktop. They lie in build/screens/THEME-SCALEx/ then.
+# desktop, and on one with larger letters. They lie in build/screens/THEME-SCALEx/ and
+# build/screens/THEME-SCALEx-POINTSpt/ then.
 set -euo pipefail
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 
@@ -28,10 +29,27 @@ declare -A schemes=(
 )
 
 if [[ ${1:-} == inside ]]; then
-    read -r -a colours <<<"${schemes[$2]}"
-    scheme "${colours[@]}" >"$XDG_CONFIG_HOME/kdeglobals"
-    exec "$root/build/dev/bin/orvanta_screens" "$screens/$2-$3x"
+    read -r -a colours <<<"${schemes[$3]}"
+    {
+        scheme "${colours[@]}"
+        printf '[General]\nfont=DejaVu Sans,%s,-1,5,50,0,0,0,0,0\n' "$5"
+    } >"$XDG_CONFIG_HOME/kdeglobals"
+    exec "$root/build/dev/bin/orvanta_screens" "$screens/$2"
 fi
+
+# take FOLDER THEME SCALE POINTS
+take() {
+    local runtime
+    mkdir -p "$screens/$1"
+    runtime=$(mktemp -d)
+    mkdir -m 700 -- "$runtime/Dana"
+    # The generic desktop of Qt that reads its colours and letters from a file is that of KDE.
+    XDG_RUNTIME_DIR=$runtime XDG_CONFIG_HOME=$runtime HOME=$runtime/Dana \
+        QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME=kde KDE_SESSION_VERSION=5 \
+        QT_SCALE_FACTOR=$3 \
+        xvfb-run -a -s "-screen 0 2560x2048x24" scripts/screens.sh inside "$@"
+    rm -rf -- "$runtime"
+}
 
 scripts/install.sh test
 if command -v ccache >/dev/null; then export CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
@@ -39,15 +57,6 @@ cmake --preset dev
 cmake --build --preset dev --target orvanta_screens
 rm -rf -- "$screens"
 for theme in light dark contrast; do
-    for scale in 1 2; do
-        mkdir -p "$screens/$theme-${scale}x"
-        runtime=$(mktemp -d)
-        mkdir -m 700 -- "$runtime/Dana"
-        # The generic desktop of Qt that reads its colours from a file is that of KDE.
-        XDG_RUNTIME_DIR=$runtime XDG_CONFIG_HOME=$runtime HOME=$runtime/Dana \
-            QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME=kde KDE_SESSION_VERSION=5 \
-            QT_SCALE_FACTOR=$scale \
-            xvfb-run -a -s "-screen 0 2560x2048x24" scripts/screens.sh inside "$theme" "$scale"
-        rm -rf -- "$runtime"
-    done
+    for scale in 1 2; do take "$theme-${scale}x" "$theme" "$scale" 9; done
 done
+for points in 11.25 13.5 18; do take "light-1x-${points}pt" light 1 "$points"; done

@@ -20,18 +20,37 @@ QString fileOf(const QString& name) {
     return file;
 }
 
+double opacityOf(QIcon::Mode mode) {
+    constexpr double disabled = 0.35;
+    return mode == QIcon::Disabled ? disabled : 1;
+}
+
+QPixmap faded(const QPixmap& full) {
+    QPixmap pale(full.size());
+    pale.fill(Qt::transparent);
+    QPainter painter(&pale);
+    painter.setOpacity(opacityOf(QIcon::Disabled));
+    painter.drawPixmap(0, 0, full);
+    return pale;
+}
+
 /// Draws a picture at each size that is asked for. The toolkit's own engine for such files is a
 /// plugin, and where that is missing an icon is empty and nothing says so.
 class PictureEngine : public QIconEngine {
 public:
     explicit PictureEngine(QString name) : m_name(std::move(name)) {}
 
-    void paint(QPainter* painter, const QRect& place, QIcon::Mode, QIcon::State) override {
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
+        const double former = painter->opacity();
+        painter->setOpacity(former * opacityOf(mode));
         drawPicture(*painter, place, m_name);
+        painter->setOpacity(former);
     }
-    QPixmap pixmap(const QSize& size, QIcon::Mode, QIcon::State) override {
-        return picture(m_name, size, 1);
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
+        const QPixmap full = picture(m_name, size, 1);
+        return mode == QIcon::Disabled ? faded(full) : full;
     }
+    QString iconName() override { return m_name; }
     QIconEngine* clone() const override { return new PictureEngine(m_name); }
 
 private:
@@ -44,6 +63,20 @@ QImage drawn(const QString& name, QSize size) {
     QPainter painter(&image);
     QSvgRenderer(fileOf(name)).render(&painter, QRectF(image.rect()));
     return image;
+}
+
+using RowIcons = std::array<QIcon, 5>;
+
+RowIcons rowIcons(const QString& ending) {
+    return {QIcon(), pictureIcon(QStringLiteral("row_strength") + ending),
+            pictureIcon(QStringLiteral("row_weakness") + ending),
+            pictureIcon(QStringLiteral("row_opportunity") + ending),
+            pictureIcon(QStringLiteral("row_threat") + ending)};
+}
+
+const QIcon& iconIn(const RowIcons& icons, int image) {
+    const auto number = static_cast<std::size_t>(image);
+    return icons[number < icons.size() ? number : 0];
 }
 
 }  // namespace
@@ -85,12 +118,13 @@ QString artName(Art art) {
 }
 
 const QIcon& rowIcon(int image) {
-    static const std::array<QIcon, 5> icons{QIcon(), pictureIcon(QStringLiteral("row_strength")),
-                                            pictureIcon(QStringLiteral("row_weakness")),
-                                            pictureIcon(QStringLiteral("row_opportunity")),
-                                            pictureIcon(QStringLiteral("row_threat"))};
-    const auto number = static_cast<std::size_t>(image);
-    return icons[number < icons.size() ? number : 0];
+    static const RowIcons icons = rowIcons(QString());
+    return iconIn(icons, image);
+}
+
+const QIcon& smallRowIcon(int image) {
+    static const RowIcons icons = rowIcons(QStringLiteral("_small"));
+    return iconIn(icons, image);
 }
 
 }  // namespace orvanta::desktop

@@ -20,6 +20,7 @@ QPixmap picture(const QString& name, QSize size, qreal pixelRatio);
 /// Draws a picture over a rectangle, stretched to fill it.
 void drawPicture(QPainter& painter, const QRect& target, const QString& name);
 
+/// The picture as an icon of that name; pale where it is shown disabled.
 QIcon pictureIcon(const QString& name);
 
 /// The file behind the art of a button; empty for none.
@@ -27,5 +28,7 @@ QString artName(Art art);
 
 /// The picture of a row by its number, 1 to 4; a null icon for any other.
 const QIcon& rowIcon(int image);
+/// The same drawn for 12 pixels.
+const QIcon& smallRowIcon(int image);
 
 }  // namespace orvanta::desktop

@@ -4,6 +4,8 @@
 #include <cassert>
 #include <cmath>
 
+#include "desktop/enlargement.h"
+
 namespace orvanta::desktop {
 
 namespace {
@@ -21,7 +23,7 @@ Span stretched(double from, double length, double fromShare, double toShare, dou
 
 /// Where an area has shrunk, what stays in its place as the area grows moves up to its edge.
 Span keptInside(Span span, int designExtent, int extent) {
-    constexpr int margin = 8;
+    const int margin = enlarged(8);
     const int end = span.from + span.length;
     if (extent >= designExtent || end > designExtent) return span;
     const int lastEnd = extent - std::min(margin, designExtent - end);

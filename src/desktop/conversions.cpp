@@ -7,6 +7,7 @@
 #include <QToolTip>
 #include <cmath>
 
+#include "desktop/enlargement.h"
 #include "view/path_text.h"
 #include "view/windows1252.h"
 
@@ -29,7 +30,7 @@ QStringList linesOfToolTip(const QString& paragraph, int width) {
 
 /// In as few lines as can be, and these as even as the words allow.
 QString brokenEvenly(const QString& paragraph) {
-    constexpr int widest = 360;
+    const int widest = enlarged(360);
     const auto count = linesOfToolTip(paragraph, widest).size();
     int tooNarrow = 0, wideEnough = widest;
     while (count > 1 && wideEnough - tooNarrow > 1) {
@@ -61,6 +62,10 @@ QString shownToolTip(const QString& toolTip) {
     for (QString& paragraph : paragraphs) paragraph = brokenEvenly(paragraph);
     return QStringLiteral("<p style=\"white-space:pre; margin:0\">%1</p>")
         .arg(paragraphs.join(u'\n').toHtmlEscaped());
+}
+
+double PixelGrid::exact(Twips length) const {
+    return length.value / m_screen.twipsPerPixel() * enlargement();
 }
 
 int PixelGrid::pixels(Twips length) const { return static_cast<int>(std::lround(exact(length))); }

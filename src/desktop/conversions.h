@@ -28,7 +28,7 @@ QString shownCaption(std::string_view caption);
 /// A tool tip that wraps and is never taken for markup.
 QString shownToolTip(const QString& toolTip);
 
-/// Lengths and type sizes of a layout, in pixels of this screen.
+/// Lengths and type sizes of a layout, in pixels of this screen, enlarged with the letters.
 class PixelGrid {
 public:
     /// The screen must outlive the grid.
@@ -36,7 +36,7 @@ public:
         assert(screen.twipsPerPixel() > 0);
     }
 
-    double exact(Twips length) const { return length.value / m_screen.twipsPerPixel(); }
+    double exact(Twips length) const;
     int pixels(Twips length) const;
     QFont font(Points size, bool bold = false) const;
 

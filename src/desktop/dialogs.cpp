@@ -12,6 +12,7 @@
 #include "core/failures.h"
 #include "desktop/art.h"
 #include "desktop/clicks.h"
+#include "desktop/enlargement.h"
 #include "desktop/label_view.h"
 #include "desktop/mirrors.h"
 #include "desktop/theme.h"
@@ -33,7 +34,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override {
-        constexpr int aboveButton = 13;
+        const int aboveButton = enlarged(13);
         QPainter painter(this);
         painter.fillRect(rect(), m_footButton ? theme::sideGround : theme::paper);
         if (!m_footButton) return;

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "desktop/enlargement.h"
 #include "desktop/statement_row_painter.h"
 #include "desktop/theme.h"
 
@@ -10,7 +11,7 @@ namespace orvanta::desktop {
 
 namespace {
 
-constexpr int margin = 10, gap = 3, widest = 280;
+constexpr int designMargin = 10, gap = 3, widest = 280;
 /// Below the pointer, so that the row that takes the drop stays in sight.
 constexpr QPoint besidePointer{14, 6};
 
@@ -48,10 +49,11 @@ void DragPicture::fit() {
     QSize size = m_card.isNull() ? QSize() : m_card.deviceIndependentSize().toSize();
     if (!m_lines.isEmpty()) {
         const QFontMetrics metrics = fontMetrics();
+        const int margin = enlarged(designMargin);
         int width = 0;
         for (const QString& line : m_lines)
             width = std::max(width, metrics.horizontalAdvance(line) + 2 * margin + 1);
-        size = {std::max(size.width(), std::min(widest, width)),
+        size = {std::max(size.width(), std::min(enlarged(widest), width)),
                 size.height() + gap + static_cast<int>(m_lines.size()) * metrics.height() + margin};
     }
     const QSize window = parentWidget()->size();
@@ -73,6 +75,7 @@ void DragPicture::paintEvent(QPaintEvent*) {
     const int top = m_card.deviceIndependentSize().toSize().height() + gap;
     painter.drawRoundedRect(rect().adjusted(0, top, 0, 0), 6, 6);
     painter.setPen(theme::paper);
+    const int margin = enlarged(designMargin);
     QRect room(margin, top + margin / 2, width() - 2 * margin, fontMetrics().height());
     for (const QString& line : m_lines) {
         painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,

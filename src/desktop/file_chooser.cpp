@@ -1,6 +1,7 @@
 #include "desktop/file_chooser.h"
 
 #include <QAbstractItemView>
+#include <QComboBox>
 #include <QCompleter>
 #include <QFileSystemModel>
 #include <QHeaderView>
@@ -12,6 +13,9 @@
 #include <cassert>
 
 #include "desktop/conversions.h"
+#include "desktop/enlargement.h"
+#include "desktop/file_pictures.h"
+#include "desktop/screen_room.h"
 
 namespace orvanta::desktop {
 
@@ -49,11 +53,20 @@ FileChooser::FileChooser(const FileDialogRequest& request, FileRules rules, QWid
     setFileMode(AnyFile);
     setAcceptMode(request.mode == FileDialogMode::Open ? AcceptOpen : AcceptSave);
     assert(files() && nameBox() && "the toolkit's file dialog has other parts than this one knows");
+    showOwnPictures();
     QHeaderView& columns = *files()->header();
     columns.setStretchLastSection(false);
     columns.setSectionResizeMode(QHeaderView::ResizeToContents);
     columns.setSectionResizeMode(0, QHeaderView::Stretch);
+    resize(enlarged(size()).boundedTo(roomForWindow()));
     if (!request.fileName.empty()) selectFile(fromPath(request.fileName));
+}
+
+/// The dialog has opened its first folder by now, with the desktop's picture of it.
+void FileChooser::showOwnPictures() {
+    setIconProvider(&FilePictures::shared());
+    auto& folders = *findChild<QComboBox*>(QStringLiteral("lookInCombo"));
+    folders.setItemIcon(folders.currentIndex(), FilePictures::shared().icon(FilePictures::Folder));
 }
 
 /// The toolkit's own mode for several files would turn off the button at a name without its ending.

@@ -32,6 +32,7 @@ protected:
     void accept() override;
 
 private:
+    void showOwnPictures();
     /// True once there is a path to give.
     bool follow(const QString& name);
     bool followSeveral(const std::vector<std::string>& names);

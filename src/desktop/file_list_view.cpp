@@ -36,7 +36,8 @@ void takeFiles(QDropEvent& event) {
     event.setAccepted(taken);
 }
 
-/// The toolkit draws a frame around the row that the keys begin at, which would look chosen.
+/// The toolkit draws a frame around the row that the keys begin at, which would look chosen. A
+/// chosen row is active, as the style sheet has it, while its list has the keyboard.
 class FileRows : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -45,6 +46,7 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
         QStyledItemDelegate::initStyleOption(option, index);
         option->state.setFlag(QStyle::State_HasFocus, false);
+        option->state.setFlag(QStyle::State_Active, option->widget->hasFocus());
     }
 };
 

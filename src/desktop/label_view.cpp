@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "desktop/enlargement.h"
 #include "desktop/theme.h"
 
 namespace orvanta::desktop {
@@ -62,7 +63,7 @@ void LinkView::paintEvent(QPaintEvent*) {
     if (onCard) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(theme::deepBlue);
-        painter.drawRoundedRect(rect(), 4, 4);
+        painter.drawRoundedRect(rect(), enlarged(4), enlarged(4));
     }
     QFont linkFont = font();
     linkFont.setUnderline(true);

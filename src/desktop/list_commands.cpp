@@ -10,6 +10,7 @@
 
 #include "app/list_commands.h"
 #include "desktop/conversions.h"
+#include "desktop/enlargement.h"
 #include "desktop/statement_row_painter.h"
 
 namespace orvanta::desktop {
@@ -76,7 +77,7 @@ private:
     }
 
     static QString lineOfMenu(const ListCommand& command) {
-        constexpr int widest = 300;
+        const int widest = enlarged(300);
         const QString caption = QFontMetrics(QApplication::font())
                                     .elidedText(lineOf(command.caption), Qt::ElideRight, widest)
                                     .replace(u'&', QLatin1String("&&"));

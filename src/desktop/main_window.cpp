@@ -20,6 +20,7 @@
 #include "core/design_grid.h"
 #include "desktop/art.h"
 #include "desktop/clicks.h"
+#include "desktop/enlargement.h"
 #include "desktop/list_commands.h"
 #include "desktop/mirrors.h"
 #include "desktop/screen_room.h"
@@ -61,12 +62,12 @@ public:
 };
 
 void drawBand(QPainter& painter, int width) {
-    constexpr QSize pattern(320, bandHeight), wordmark(160, 32);
-    constexpr int left = 20;
-    drawPicture(painter, {0, 0, width, bandHeight}, QStringLiteral("banner_fill"));
+    const QSize pattern = enlarged({320, bandHeight}), wordmark = enlarged({160, 32});
+    const int left = enlarged(20), height = pattern.height();
+    drawPicture(painter, {0, 0, width, height}, QStringLiteral("banner_fill"));
     drawPicture(painter, {QPoint(width - pattern.width(), 0), pattern},
                 QStringLiteral("banner_pattern"));
-    drawPicture(painter, {QPoint(left, (bandHeight - wordmark.height()) / 2), wordmark},
+    drawPicture(painter, {QPoint(left, (height - wordmark.height()) / 2), wordmark},
                 QStringLiteral("wordmark"));
 }
 
@@ -79,7 +80,7 @@ QRect placeOf(const SkinnedButton& button, const QWidget& window) {
 /// Says beside the buttons what a person does with them; returns where the last one ends.
 int drawSteps(QPainter& painter, const QRect& home, const ControlArea& window,
               const FrmMain& form) {
-    constexpr int margin = 24;
+    const int margin = enlarged(24);
     constexpr Points size{9.75};
     painter.setFont(window.pixelGrid().font(size));
     painter.setPen(window.palette().color(QPalette::PlaceholderText));
@@ -100,7 +101,8 @@ int drawSteps(QPainter& painter, const QRect& home, const ControlArea& window,
 void drawEmblem(QPainter& painter, const QRect& room) {
     constexpr QSize splash(480, 300);
     constexpr QRect emblem(150, 36, 300, 228);  // mark and name, without the ornament beside them
-    const double scale = std::min(1.0, room.height() / static_cast<double>(emblem.height()));
+    const double scale =
+        std::min(enlargement(), room.height() / static_cast<double>(emblem.height()));
     QRect shown(QPoint(), emblem.size() * scale);
     shown.moveCenter(room.center());
     painter.setClipRect(shown);
@@ -296,7 +298,7 @@ void MainWindow::orderTabs() {
 void MainWindow::showSize() {
     const FrmMain& form = m_program.frmMain;
     setDesignSize(form.width, form.height);
-    setMinimumSize(leastWindow.boundedTo(designSize()));
+    setMinimumSize(leastWindow().boundedTo(designSize()));
     resize(designSize().boundedTo(roomForWindow()));
     placeAll();
 }
@@ -417,7 +419,8 @@ void MainWindow::drawModuleBar(QPainter& painter) {
     if (!module) return;
     const Button opener = module == &form.fraBrainstorm ? Button::Brainstorm : Button::Analyze;
     const QRect place = placeOf(form.buttons[opener], *this);
-    painter.fillRect(QRect(place.left() - 10, place.top(), 4, place.height()), theme::deepBlue);
+    painter.fillRect(QRect(place.left() - enlarged(10), place.top(), enlarged(4), place.height()),
+                     theme::deepBlue);
 }
 
 }  // namespace orvanta::desktop

@@ -4,11 +4,14 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
+#include <QStyle>
 #include <array>
 #include <cassert>
 
 #include "core/messages.h"
 #include "desktop/conversions.h"
+#include "desktop/enlargement.h"
 
 namespace orvanta::desktop {
 
@@ -43,6 +46,7 @@ MessageBox::MessageBox(const Message& message, QWidget* owner)
     setTextFormat(Qt::PlainText);
     setText(fromCp1252(message.text));
     setIcon(iconFor(message.icon));
+    giveRoom();
     if (auto* picture = findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label")))
         picture->setAccessibleName(fromCp1252(nameOf(message.icon)));
     StandardButtons buttons;
@@ -53,6 +57,16 @@ MessageBox::MessageBox(const Message& message, QWidget* owner)
     setDefaultButton(standardButtonFor(message.defaultAnswer));
     setWindowTitle(message.title ? fromCp1252(*message.title)
                                  : QCoreApplication::applicationName());
+}
+
+/// The toolkit fits the box to its text, so that a short one stands small above its icon's middle.
+void MessageBox::giveRoom() {
+    const int narrowest = enlarged(320);
+    auto* words = findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    assert(words);
+    const QMargins margins = layout()->contentsMargins();
+    words->setMinimumSize(narrowest - margins.left() - margins.right(),
+                          style()->pixelMetric(QStyle::PM_MessageBoxIconSize));
 }
 
 void MessageBox::keyPressEvent(QKeyEvent* event) {

@@ -21,6 +21,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void giveRoom();
+
     /// Yes or No alone has to be answered: Escape and the close box mean neither.
     bool m_mustBeAnswered;
 };

@@ -1,7 +1,10 @@
 #include "desktop/question_printer.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QGraphicsScene>
+#include <QGraphicsView>
 #include <QLineEdit>
 #include <QLocale>
 #include <QPageRanges>
@@ -10,12 +13,16 @@
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QToolBar>
+#include <utility>
 
 #include "core/constants.h"
+#include "desktop/art.h"
 #include "desktop/conversions.h"
+#include "desktop/enlargement.h"
 #include "desktop/message_box.h"
 #include "desktop/question_sheet_pages.h"
 #include "desktop/screen_room.h"
+#include "desktop/theme.h"
 #include "presentation/sheet_texts.h"
 
 namespace orvanta::desktop {
@@ -52,6 +59,34 @@ void nameBoxes(QPrintPreviewDialog& preview) {
         const bool isZoom = qobject_cast<QComboBox*>(box->parentWidget());
         box->setAccessibleName(fromCp1252(isZoom ? zoomBox : pageBox));
     }
+}
+
+/// The program's own pictures in place of the toolkit's, which are made for one size, and a ground
+/// of the window's colours.
+void dress(QPrintPreviewDialog& preview) {
+    constexpr std::pair<const char*, const char*> pictures[] = {
+        {"Fit width", "fit_width"},
+        {"Fit page", "fit_page"},
+        {"Zoom in", "zoom_in"},
+        {"Zoom out", "zoom_out"},
+        {"Portrait", "portrait"},
+        {"Landscape", "landscape"},
+        {"First page", "page_first"},
+        {"Previous page", "page_previous"},
+        {"Next page", "page_next"},
+        {"Last page", "page_last"},
+        {"Show single page", "pages_single"},
+        {"Show facing pages", "pages_facing"},
+        {"Show overview of all pages", "pages_all"},
+        {"Page setup", "page_setup"},
+        {"Print", "print"},
+    };
+    for (QAction* action : preview.findChildren<QAction*>())
+        for (const auto& [words, name] : pictures)
+            if (action->text() == QPrintPreviewDialog::tr(words))
+                action->setIcon(pictureIcon(QLatin1String(name)));
+    for (QGraphicsView* pages : preview.findChildren<QGraphicsView*>())
+        pages->scene()->setBackgroundBrush(theme::hairline);
 }
 
 /// False for a page, from 1, that the person has left out in the print dialog.
@@ -92,7 +127,8 @@ void PreviewingPrinter::print(const QuestionSheets& sheets) {
     QPrintPreviewDialog preview(&printer, QApplication::activeWindow());
     preview.setWindowTitle(title);
     constexpr QSize roomy{900, 760};
-    preview.resize(roomy.boundedTo(roomForWindow()));
+    preview.resize(enlarged(roomy).boundedTo(roomForWindow()));
+    dress(preview);
     nameBoxes(preview);
     addPaperChoice(preview, printer);
     QObject::connect(&preview, &QPrintPreviewDialog::paintRequested,

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "desktop/statement_row_painter.h"
-
 namespace orvanta::desktop {
 
 namespace {
@@ -26,7 +24,8 @@ bool RowFit::include(int position) {
     if (!m_letters) return false;
     const Row& row = m_list.row(position);
     const double width = m_letters->of(row.text);
-    const double lines = width / std::max(1, textRoom(row, m_rowWidth, m_counts, *m_metrics));
+    const double lines =
+        width / std::max(1, textRoom(row, m_rowWidth, m_counts, *m_metrics, m_lengths));
     const bool differs = (lines > 1 && m_most <= 1) || width > m_widest;
     m_most = std::max(m_most, lines);
     m_widest = std::max(m_widest, width);

@@ -4,6 +4,7 @@
 
 #include "analyze/mapping_counts.h"
 #include "desktop/letter_widths.h"
+#include "desktop/statement_row_painter.h"
 #include "view/statement_list.h"
 
 namespace orvanta::desktop {
@@ -30,6 +31,7 @@ private:
     const MappingCounts* m_counts;
     std::optional<QFontMetrics> m_metrics;
     std::optional<LetterWidths> m_letters;
+    RowLengths m_lengths;
     int m_rowWidth = 0;
     double m_most = 0;    // the most lines that a text needs in its row
     double m_widest = 0;  // pixels of the longest text

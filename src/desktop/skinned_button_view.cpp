@@ -78,6 +78,7 @@ ButtonCaptionView::ButtonCaptionView(SkinnedButton& model, ButtonActs acts,
     const auto showModel = [this, &label = model.label, pixelGrid] {
         setFont(pixelGrid.font(label.fontSize(), label.isBold()));
         setText(shownCaption(label.caption()));
+        setMinimumWidth(fontMetrics().size(0, text()).width());  // its place may be narrower
         setAccessibleName(text());
     };
     model.label.changed.subscribe(showModel);

@@ -17,14 +17,15 @@
 #include "analyze/row_description.h"
 #include "app/list_hints.h"
 #include "desktop/conversions.h"
+#include "desktop/enlargement.h"
 #include "desktop/statement_row_painter.h"
 
 namespace orvanta::desktop {
 
 namespace {
 
-constexpr int wholeMargin = 8;
-constexpr int edge = 24;  // pixels from the upper or lower end in which a drag scrolls
+constexpr int designWholeMargin = 8;
+constexpr int designEdge = 24;  // from the upper or lower end in which a drag scrolls
 
 }  // namespace
 
@@ -41,7 +42,7 @@ StatementListView::StatementListView(Program& program, StatementList& list, QWid
     m_whole->setTextFormat(Qt::PlainText);
     m_whole->setWordWrap(true);
     m_whole->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_whole->setMargin(wholeMargin);
+    m_whole->setMargin(enlarged(designWholeMargin));
     m_whole->setAutoFillBackground(true);
     m_model.describe = [this](int position) {
         return describeRow(m_list, position, m_mappingCounts.get());
@@ -126,6 +127,7 @@ void StatementListView::measureRows() {
 /// Gives the rows their height, and the whole statement below them room for any of theirs.
 void StatementListView::layOutRows() {
     constexpr double mostOfTheList = 0.4;
+    const int wholeMargin = enlarged(designWholeMargin);
     const QFontMetrics metrics = fontMetrics();
     const int lines = m_fit->linesToRead(contentsRect().width() - 2 * wholeMargin);
     const int height = lines == 0
@@ -238,6 +240,7 @@ Drop StatementListView::dropAt(const StatementList& from, const QPoint& point) {
 /// Scrolls on while a drag rests at the upper or lower edge: the longer and the nearer, the faster.
 void StatementListView::scrollAtEdge(const QPoint& point) {
     constexpr int milliseconds = 10;
+    const int edge = enlarged(designEdge);
     const int above = edge - point.y(), below = point.y() - (viewport()->height() - edge);
     m_edgeCloseness = std::min(std::max(above, below), edge) / static_cast<double>(edge);
     if (m_edgeCloseness <= 0) return m_edgeTimer.stop();

@@ -14,26 +14,26 @@ namespace orvanta::desktop {
 
 namespace {
 
-constexpr int pictureSize = 16, leftMargin = 10, gap = 8, indentStep = 16, edgeWidth = 4;
-
 QColor inkOf(const Row& row) {
     if (!row.colour) return theme::ink;
     return QColor(row.colour->red, row.colour->green, row.colour->blue);
 }
 
-void drawGround(QPainter& painter, const QStyleOptionViewItem& option) {
+/// The chosen row is strong where the keyboard is, and quiet in the other lists.
+void drawGround(QPainter& painter, const QStyleOptionViewItem& option, bool hasKeyboard) {
     const QRect& place = option.rect;
     if (option.state & QStyle::State_Selected) {
-        painter.fillRect(place, theme::selection);
-        painter.fillRect(QRect(place.topLeft(), QSize(edgeWidth, place.height())), theme::deepBlue);
+        const RowLengths lengths;
+        const int edge = hasKeyboard ? lengths.edge : lengths.quietEdge;
+        painter.fillRect(place, hasKeyboard ? theme::selection : theme::sideGround);
+        painter.fillRect(QRect(place.topLeft(), QSize(edge, place.height())),
+                         hasKeyboard ? theme::deepBlue : option.palette.color(QPalette::Mid));
     } else if (option.state & QStyle::State_MouseOver) {
         painter.fillRect(place, theme::sideGround);
     }
     painter.fillRect(QRect(place.left(), place.bottom(), place.width(), 1),
                      option.palette.color(QPalette::Midlight));
 }
-
-int textLeft(const Row& row) { return leftMargin + row.indent * indentStep + pictureSize + gap; }
 
 /// The text in as many lines as it needs; the last one that there may be is cut.
 QStringList brokenAt(const QString& text, const QFont& font, int width, int mostLines) {
@@ -53,10 +53,11 @@ QStringList brokenAt(const QString& text, const QFont& font, int width, int most
 
 void drawContent(QPainter& painter, const QRect& place, const Row& row, const QFont& font,
                  int mostLines) {
-    const QRect room = place.adjusted(textLeft(row), 0, -gap, 0);
-    rowIcon(row.image).paint(&painter, QRect(room.left() - gap - pictureSize,
-                                             place.top() + (place.height() - pictureSize) / 2,
-                                             pictureSize, pictureSize));
+    const RowLengths lengths;
+    const QRect room = place.adjusted(lengths.textLeft(row), 0, -lengths.gap, 0);
+    rowIcon(row.image).paint(&painter, QRect(room.left() - lengths.gap - lengths.picture,
+                                             place.top() + (place.height() - lengths.picture) / 2,
+                                             lengths.picture, lengths.picture));
     painter.setFont(font);
     painter.setPen(inkOf(row));
     const QStringList lines = brokenAt(lineOf(row.text), font, room.width(), mostLines);
@@ -68,8 +69,6 @@ void drawContent(QPainter& painter, const QRect& place, const Row& row, const QF
         line.translate(0, height);
     }
 }
-
-constexpr int smallPicture = 12, numberGap = 4;
 
 /// Wide enough for two digits, so that the numbers of all rows stand below each other.
 int numberWidth(int number, const QFontMetrics& metrics) {
@@ -86,19 +85,20 @@ int drawCounts(QPainter& painter, const QStyleOptionViewItem& option,
                const MappingCounts::Count& count) {
     const QRect& place = option.rect;
     const QFontMetrics metrics(option.font);
+    const RowLengths lengths;
     painter.setFont(option.font);
     painter.setPen(option.palette.color(QPalette::PlaceholderText));
-    int right = place.right() - gap;
+    int right = place.right() - lengths.gap;
     for (const auto& [kind, number] : {std::pair(StatementKind::Weakness, count.weaknesses),
                                        std::pair(StatementKind::Strength, count.strengths)}) {
         const int width = numberWidth(number, metrics);
         painter.drawText(QRect(right - width, place.top(), width, place.height()),
                          Qt::AlignLeft | Qt::AlignVCenter, QString::number(number));
-        right -= width + numberGap + smallPicture;
-        rowIcon(imageOf(kind))
-            .paint(&painter, QRect(right, place.top() + (place.height() - smallPicture) / 2,
-                                   smallPicture, smallPicture));
-        right -= gap;
+        const int size = lengths.smallPicture;
+        right -= width + lengths.numberGap + size;
+        smallRowIcon(imageOf(kind))
+            .paint(&painter, QRect(right, place.top() + (place.height() - size) / 2, size, size));
+        right -= lengths.gap;
     }
     return right;
 }
@@ -106,21 +106,23 @@ int drawCounts(QPainter& painter, const QStyleOptionViewItem& option,
 }  // namespace
 
 int rowHeight(const QFontMetrics& metrics, int lines) {
-    return std::max(pictureSize, metrics.height() * lines) + 12;
+    const RowLengths lengths;
+    return std::max(lengths.picture, metrics.height() * lines) + lengths.aboveAndBelow;
 }
 
-int textRoom(const Row& row, int rowWidth, const MappingCounts* counts,
-             const QFontMetrics& metrics) {
-    int room = rowWidth - textLeft(row) - gap;
+int textRoom(const Row& row, int rowWidth, const MappingCounts* counts, const QFontMetrics& metrics,
+             const RowLengths& lengths) {
+    int room = rowWidth - lengths.textLeft(row) - lengths.gap;
     if (!hasCounts(row, counts)) return room;
     const MappingCounts::Count count = counts->of(row.key);
     for (const int number : {count.strengths, count.weaknesses})
-        room -= numberWidth(number, metrics) + numberGap + smallPicture + gap;
-    return room - gap;
+        room -=
+            numberWidth(number, metrics) + lengths.numberGap + lengths.smallPicture + lengths.gap;
+    return room - lengths.gap;
 }
 
 void drawHint(QPainter& painter, const QWidget& viewport, int top, const QString& hint) {
-    constexpr int margin = 16;
+    const int margin = enlarged(16);
     painter.setPen(viewport.palette().color(QPalette::PlaceholderText));
     painter.drawText(viewport.rect().adjusted(margin, top + margin, -margin, 0),
                      static_cast<int>(Qt::AlignLeft | Qt::AlignTop) | Qt::TextWordWrap, hint);
@@ -144,7 +146,9 @@ StatementRowPainter::StatementRowPainter(const StatementList& list, StatementLis
     : QStyledItemDelegate(&view), m_list(list), m_view(view) {}
 
 QSize StatementRowPainter::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
-    return {leftMargin + pictureSize + gap, rowHeight(option.fontMetrics, m_view.linesPerRow())};
+    const RowLengths lengths;
+    return {lengths.leftMargin + lengths.picture + lengths.gap,
+            rowHeight(option.fontMetrics, m_view.linesPerRow())};
 }
 
 void StatementRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -153,7 +157,7 @@ void StatementRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& o
     if (m_view.litRow() == index.row() + 1)
         drawDropGround(*painter, option.rect);
     else if (!m_view.isLit())
-        drawGround(*painter, option);
+        drawGround(*painter, option, m_view.hasFocus());
     const Row& row = m_list.row(index.row() + 1);
     QRect room = option.rect;
     const MappingCounts* counts = m_view.mappingCounts();
@@ -163,10 +167,11 @@ void StatementRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& o
 }
 
 QPixmap dragCard(const Row& row, const QFont& font, qreal pixelRatio) {
-    constexpr int widest = 280;
+    const RowLengths lengths;
     const QFontMetrics metrics(font);
-    const int width = std::min(widest, leftMargin + pictureSize + 2 * gap + 4 +
-                                           metrics.horizontalAdvance(lineOf(row.text)));
+    const int width =
+        std::min(enlarged(280), lengths.leftMargin + lengths.picture + 2 * lengths.gap +
+                                    enlarged(4) + metrics.horizontalAdvance(lineOf(row.text)));
     const QSize size(width, rowHeight(metrics));
     QPixmap card(size * pixelRatio);
     card.setDevicePixelRatio(pixelRatio);

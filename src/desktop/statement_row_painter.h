@@ -5,6 +5,7 @@
 #include <QStyledItemDelegate>
 
 #include "analyze/mapping_counts.h"
+#include "desktop/enlargement.h"
 #include "view/statement_list.h"
 
 namespace orvanta::desktop {
@@ -25,11 +26,23 @@ private:
     const StatementListView& m_view;
 };
 
+/// The lengths of which rows are made, in logical pixels.
+struct RowLengths {
+    int picture = enlarged(16), smallPicture = enlarged(12);
+    int leftMargin = enlarged(10), gap = enlarged(8), numberGap = enlarged(4);
+    int indentStep = enlarged(16), aboveAndBelow = enlarged(12);
+    int edge = enlarged(4), quietEdge = enlarged(2);
+
+    int textLeft(const Row& row) const {
+        return leftMargin + row.indent * indentStep + picture + gap;
+    }
+};
+
 /// Of a row whose text has so many lines.
 int rowHeight(const QFontMetrics& metrics, int lines = 1);
 /// The width that a row of a list has for its text. `counts`: as in the list's view.
-int textRoom(const Row& row, int rowWidth, const MappingCounts* counts,
-             const QFontMetrics& metrics);
+int textRoom(const Row& row, int rowWidth, const MappingCounts* counts, const QFontMetrics& metrics,
+             const RowLengths& lengths = {});
 
 /// What a list says below its rows, from `top` of its viewport down.
 void drawHint(QPainter& painter, const QWidget& viewport, int top, const QString& hint);

@@ -3,9 +3,12 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFont>
+#include <QFontInfo>
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QRegularExpression>
+#include <QScreen>
 #include <QStyleOption>
 #include <QWidget>
 #include <algorithm>
@@ -13,6 +16,9 @@
 #include <utility>
 
 #include "desktop/art.h"
+#include "desktop/enlargement.h"
+#include "desktop/file_pictures.h"
+#include "desktop/screen_room.h"
 
 namespace orvanta::desktop {
 
@@ -20,14 +26,15 @@ namespace {
 
 /// A sign in a disc, for message boxes.
 QIcon discIcon(const QColor& disc, QChar sign) {
-    constexpr int size = 160;  // more than any screen shows; Qt scales it down
+    const int size = enlarged(160);  // more than any screen shows; Qt scales it down
     QPixmap drawn(size, size);
     drawn.fill(Qt::transparent);
     QPainter painter(&drawn);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(disc);
-    painter.drawEllipse(drawn.rect().adjusted(8, 8, -8, -8));
+    const int margin = size / 20;
+    painter.drawEllipse(drawn.rect().adjusted(margin, margin, -margin, -margin));
     QFont font = QApplication::font();
     font.setPixelSize(size * 5 / 8);
     font.setBold(true);
@@ -56,7 +63,9 @@ QPalette lightPalette(const QPalette& desktop) {
     palette.setColor(QPalette::ToolTipBase, theme::paper);
     palette.setColor(QPalette::ToolTipText, theme::ink);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, quietInk);
+        palette.setColor(QPalette::Disabled, role, theme::quietInk);
+    palette.setColor(QPalette::Disabled, QPalette::Mid, theme::outline);
+    palette.setColor(QPalette::Disabled, QPalette::Base, theme::sideGround);
     return palette;
 }
 
@@ -84,10 +93,60 @@ void drawTickBox(QPainter& painter, const QStyleOption& option) {
         const auto at = [&box](double x, double y) {
             return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
         };
-        painter.setPen(QPen(theme::paper, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setPen(
+            QPen(theme::paper, 2 * enlargement(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter.drawPolyline(QPolygonF{at(0.22, 0.52), at(0.42, 0.72), at(0.78, 0.3)});
     }
     painter.restore();
+}
+
+/// As a text box, with an arrow. On blue ground too the keyboard is told by an edge within.
+void drawDropDown(QPainter& painter, const QStyleOption& option) {
+    const double radius = enlarged(4), fromRight = enlarged(13), reach = enlarged(4);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(option.palette.color(QPalette::Mid));
+    painter.setBrush(option.palette.base());
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter.setPen(QPen(option.palette.color(QPalette::Text), 1.5 * enlargement()));
+    const QPointF tip(option.rect.right() - fromRight, option.rect.center().y() + reach / 2 + 1);
+    painter.drawPolyline(
+        QPolygonF{tip + QPointF(-reach, -reach), tip, tip + QPointF(reach, -reach)});
+    painter.restore();
+    if (option.state & QStyle::State_HasFocus)
+        drawFocusEdge(painter, option.rect.adjusted(2, 2, -2, -2));
+}
+
+/// True for what would look small beside larger letters: pictures, boxes to tick, gaps.
+bool growsWithLetters(QStyle::PixelMetric metric) {
+    switch (metric) {
+        case QStyle::PM_ButtonMargin:
+        case QStyle::PM_MenuButtonIndicator:
+        case QStyle::PM_IndicatorWidth:
+        case QStyle::PM_IndicatorHeight:
+        case QStyle::PM_ExclusiveIndicatorWidth:
+        case QStyle::PM_ExclusiveIndicatorHeight:
+        case QStyle::PM_CheckBoxLabelSpacing:
+        case QStyle::PM_RadioButtonLabelSpacing:
+        case QStyle::PM_HeaderMarkSize:
+        case QStyle::PM_TreeViewIndentation:
+        case QStyle::PM_SmallIconSize:
+        case QStyle::PM_LargeIconSize:
+        case QStyle::PM_ButtonIconSize:
+        case QStyle::PM_ToolBarIconSize:
+        case QStyle::PM_ToolBarExtensionExtent:
+        case QStyle::PM_ListViewIconSize:
+        case QStyle::PM_MessageBoxIconSize:
+        case QStyle::PM_LayoutLeftMargin:
+        case QStyle::PM_LayoutTopMargin:
+        case QStyle::PM_LayoutRightMargin:
+        case QStyle::PM_LayoutBottomMargin:
+        case QStyle::PM_LayoutHorizontalSpacing:
+        case QStyle::PM_LayoutVerticalSpacing:
+            return true;
+        default:
+            return false;
+    }
 }
 
 /// Fusion, light whatever colours the desktop asks for, with flat signs in its message boxes.
@@ -114,13 +173,37 @@ public:
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                             QPainter* painter, const QWidget* widget) const override {
+        if (control == CC_ComboBox) return drawDropDown(*painter, *option);
         QProxyStyle::drawComplexControl(control, option, painter, widget);
-        if (control == CC_ComboBox && option->state & State_HasFocus)
-            drawFocusEdge(*painter, option->rect.adjusted(2, 2, -2, -2));  // on blue ground too
+    }
+
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override {
+        const int margin = enlarged(7), arrow = enlarged(20);  // the text stands as in a text box
+        if (control == CC_ComboBox && part == SC_ComboBoxEditField)
+            return option->rect.adjusted(margin, 1, -arrow, -1);
+        return QProxyStyle::subControlRect(control, option, part, widget);
+    }
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override {
+        const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+        return growsWithLetters(metric) ? enlarged(usual) : usual;
+    }
+
+    /// What a menu's line or a drop-down has beside its words is as many pixels whatever the
+    /// letters.
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& words,
+                           const QWidget* widget) const override {
+        const QSize usual = QProxyStyle::sizeFromContents(type, option, words, widget);
+        const bool grows = type == CT_MenuItem || type == CT_ComboBox;
+        return grows ? words + enlarged(usual - words) : usual;
     }
 
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
                        const QWidget* widget) const override {
+        const QString picture = fileDialogPicture(icon);
+        if (!picture.isEmpty()) return pictureIcon(picture);
         switch (icon) {
             case SP_MessageBoxCritical:
                 return discIcon(theme::alarm, u'!');
@@ -137,52 +220,109 @@ private:
     QPalette m_colours;
 };
 
-/// The names of colours stand for their values.
+/// The names of colours stand for their values. Lengths in "u" grow with the letters, those in px
+/// do not; what is taken off an edge is told as a difference.
 constexpr auto flatLook = R"(
-QLineEdit { background: @paper; border: 1px solid @outline; border-radius: 4px; padding: 0 8px; }
-QLineEdit:focus { border: 2px solid @deepBlue; padding: 0 7px; }
-QFileDialog QLineEdit { min-height: 22px; }
+QLineEdit { background: @paper; border: 1px solid @outline; border-radius: 4u; padding: 0 9u-1px; }
+QLineEdit:focus { border: 2px solid @deepBlue; padding: 0 9u-2px; }
+QLineEdit:disabled { background: @sideGround; border: 1px dashed @disabledEdge; }
+QFileDialog QLineEdit { min-height: 22u; }
+QComboBox QLineEdit, QComboBox QLineEdit:focus { background: transparent; border: none; padding: 0; }
 
-QListView { background: @paper; border: 1px solid @outline; border-radius: 4px; padding: 2px; }
-QListView:focus { border: 2px solid @deepBlue; padding: 1px; }
-QListWidget::item { padding: 6px 8px; border-bottom: 1px solid @hairline; color: @ink; }
+QListView, QTreeView {
+    background: @paper; border: 1px solid @outline; border-radius: 4u; padding: 3u-1px;
+}
+QListView:focus, QTreeView:focus { border: 2px solid @deepBlue; padding: 3u-2px; }
+QComboBox QListView, QComboBox QListView:focus {
+    border: 1px solid @outline; border-radius: 0; padding: 0;
+}
+QFileDialog QTreeView::item { padding: 3u 0; }
+QFileDialog QListView::item:selected, QFileDialog QTreeView::item:selected {
+    background: @selection; color: @ink;
+}
+QHeaderView { background: @paper; }
+QHeaderView::section {
+    background: @paper; color: @ink; border: none; border-bottom: 1px solid @outline;
+    padding: 2u 6u;
+}
+QListWidget::item { padding: 6u 8u; border-bottom: 1px solid @hairline; color: @ink; }
 QListWidget::item:selected {
-    background: @selection; border-left: 4px solid @deepBlue; padding-left: 4px;
+    background: @sideGround; border-left: 2u solid @outline; padding-left: 8u-2u;
+}
+QListWidget::item:selected:active {
+    background: @selection; border-left: 4u solid @deepBlue; padding-left: 8u-4u;
 }
 
 QPushButton {
-    background: @paper; color: @deepBlue; border: 1px solid @outline; border-radius: 4px;
-    padding: 3px;
+    background: @paper; color: @deepBlue; border: 1px solid @outline; border-radius: 4u;
+    padding: 4u-1px;
 }
 QPushButton:hover { background: @sideGround; border-color: @deepBlue; }
 QPushButton:pressed { background: @selection; }
-QPushButton:focus { border: 2px solid @deepBlue; padding: 2px; }
+QPushButton:focus { border: 2px solid @deepBlue; padding: 4u-2px; }
 QPushButton:default { background: @deepBlue; color: @paper; border-color: @deepBlue; }
 QPushButton:default:hover { background: #0b409f; }
 QPushButton:default:focus, #frmEdit QLineEdit:focus, #frmReportType QLineEdit:focus,
 #frmReportType #cmdBrowse:focus { border: 2px solid #8fb0f0; }
-QPushButton:disabled { color: @quietInk; background: @sideGround; border-color: @hairline; }
+QPushButton:disabled {
+    color: @disabledInk; background: @sideGround; border: 1px dashed @disabledEdge; padding: 4u-1px;
+}
 QMessageBox QPushButton, QFileDialog QPushButton, QPrintPreviewDialog QPushButton {
-    min-width: 72px; min-height: 22px;
+    min-width: 72u; min-height: 22u;
 }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 
 QRadioButton::indicator {
-    width: 14px; height: 14px; border: 1px solid @outline; border-radius: 8px; background: @paper;
+    width: 16u-2px; height: 16u-2px; border: 1px solid @outline; border-radius: 8u; background: @paper;
 }
 QRadioButton::indicator:hover { border-color: @deepBlue; }
-QRadioButton::indicator:checked { width: 6px; height: 6px; border: 5px solid @deepBlue; }
+QRadioButton::indicator:disabled { border: 1px dashed @disabledEdge; background: @sideGround; }
+QRadioButton::indicator:checked {
+    width: 16u-5u-5u; height: 16u-5u-5u; border: 5u solid @deepBlue;
+}
+QRadioButton::indicator:checked:disabled { border-color: @disabledInk; }
 
-QToolTip { background: @paper; color: @ink; border: 1px solid @outline; padding: 4px; }
+QToolBar {
+    background: @sideGround; border: none; border-bottom: 1px solid @hairline; padding: 4u;
+    spacing: 2u;
+}
+QToolButton { border: 1px solid transparent; border-radius: 4u; padding: 4u-1px; }
+QToolButton:hover { background: @paper; border-color: @outline; }
+QToolButton:checked, QToolButton:pressed { background: @selection; border-color: @deepBlue; }
+QToolButton:focus { border: 2px solid @deepBlue; padding: 4u-2px; }
+#qt_toolbar_ext_button { padding: 0; }
+QToolButton:disabled { background: transparent; border-color: transparent; }
 
-QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
-QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; }
-QScrollBar::handle { background: @outline; border-radius: 4px; margin: 2px; }
-QScrollBar::handle:vertical { min-height: 32px; }
-QScrollBar::handle:horizontal { min-width: 32px; }
+QToolTip { background: @paper; color: @ink; border: 1px solid @outline; padding: 4u; }
+
+QScrollBar:vertical { background: transparent; width: 12u; margin: 0; }
+QScrollBar:horizontal { background: transparent; height: 12u; margin: 0; }
+QScrollBar::handle { background: @outline; border-radius: 4u; margin: 2u; }
+QScrollBar::handle:vertical { min-height: 32u; }
+QScrollBar::handle:horizontal { min-width: 32u; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )";
+
+/// The pixels of a length of the sheet, such as "16u-2px".
+int pixelsOf(const QString& length) {
+    int pixels = 0, sign = 1;
+    for (const QString& term : length.split(u'-')) {
+        const bool grows = term.endsWith(u'u');
+        const int told = term.chopped(grows ? 1 : 2).toInt();
+        pixels += sign * (grows ? enlarged(told) : told);
+        sign = -1;
+    }
+    return pixels;
+}
+
+void putLengths(QString& sheet) {
+    static const QRegularExpression length(QStringLiteral("\\b\\d+u(-\\d+(u|px))*"));
+    QRegularExpressionMatch match;
+    while ((match = length.match(sheet)).hasMatch())
+        sheet.replace(match.capturedStart(), match.capturedLength(),
+                      QString::number(pixelsOf(match.captured())) + QLatin1String("px"));
+}
 
 QString sheetFor(const QPalette& colours) {
     QString sheet = QString::fromLatin1(flatLook);
@@ -190,10 +330,12 @@ QString sheetFor(const QPalette& colours) {
          {std::pair("@paper", theme::paper), std::pair("@ink", theme::ink),
           std::pair("@deepBlue", theme::deepBlue), std::pair("@sideGround", theme::sideGround),
           std::pair("@selection", theme::selection),
-          std::pair("@quietInk", colours.color(QPalette::PlaceholderText)),
+          std::pair("@disabledEdge", colours.color(QPalette::Disabled, QPalette::Mid)),
+          std::pair("@disabledInk", colours.color(QPalette::Disabled, QPalette::ButtonText)),
           std::pair("@outline", colours.color(QPalette::Mid)),
           std::pair("@hairline", colours.color(QPalette::Midlight))})
         sheet.replace(QLatin1String(name), colour.name());
+    putLengths(sheet);
     return sheet;
 }
 
@@ -204,6 +346,16 @@ double luminanceOf(const QColor& colour) {
     };
     return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
            0.0722 * linear(colour.blueF());
+}
+
+/// The program's own, as large as the desktop's as far as the screen has room for the window then.
+QFont lettersFor(const QFont& desktop) {
+    const bool inPixels = desktop.pointSizeF() < 0;
+    const double points = inPixels ? QFontInfo(desktop).pointSizeF() : desktop.pointSizeF();
+    const double most = largestEnlargement(QGuiApplication::primaryScreen()->availableSize());
+    QFont font(QStringList{QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans")});
+    font.setPointSizeF(designLetters * std::clamp(points / designLetters, 1.0, most));
+    return font;
 }
 
 }  // namespace
@@ -224,9 +376,7 @@ void applyTheme(QApplication& application) {
     QApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles);
     QApplication::setStyle(new FlatStyle(colours));
     QApplication::setPalette(colours);
-    QFont font(QStringList{QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans")});
-    font.setPointSizeF(9);
-    QApplication::setFont(font);
+    QApplication::setFont(lettersFor(QApplication::font()));
     application.setStyleSheet(sheetFor(colours));
     QApplication::setWindowIcon(pictureIcon(QStringLiteral("logo")));
 }

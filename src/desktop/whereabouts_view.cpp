@@ -6,6 +6,7 @@
 
 #include "core/statement_lists.h"
 #include "desktop/art.h"
+#include "desktop/enlargement.h"
 #include "desktop/theme.h"
 #include "view/windows1252.h"
 
@@ -13,9 +14,13 @@ namespace orvanta::desktop {
 
 namespace {
 
-constexpr int smallPicture = 12, numberGap = 4, countGap = 14;
-constexpr int kindPicture = 16, gap = 8, sideMargin = 24;
-constexpr int segmentHeight = 5, segmentGap = 4;
+/// The lengths of which the line is made, in logical pixels.
+struct LineLengths {
+    int smallPicture = enlarged(12), numberGap = enlarged(4), countGap = enlarged(14);
+    int kindPicture = enlarged(16), gap = enlarged(8), sideMargin = enlarged(24);
+    int segmentHeight = enlarged(5), segmentGap = enlarged(4);
+};
+
 constexpr int middleLine = static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextSingleLine;
 
 QRect pictureIn(const QRect& room, int left, int size) {
@@ -35,6 +40,7 @@ WhereaboutsView::WhereaboutsView(Program& program, Label& model, const PixelGrid
                                  QWidget* parent)
     : QLabel(parent), m_program(program), m_model(model) {
     setTextFormat(Qt::PlainText);
+    const int sideMargin = LineLengths().sideMargin;
     setContentsMargins(sideMargin, 0, sideMargin, 0);
     FrmMain& form = program.frmMain;
     for (const auto list : statementLists) (form.*list).watch(*this);
@@ -80,23 +86,26 @@ void WhereaboutsView::paintEvent(QPaintEvent*) {
 void WhereaboutsView::drawWhereabouts(QPainter& painter) const {
     drawSegments(painter);
     painter.setPen(palette().color(QPalette::PlaceholderText));
-    QRect room = contentsRect().adjusted(0, 0, 0, -segmentHeight);
+    const LineLengths lengths;
+    QRect room = contentsRect().adjusted(0, 0, 0, -lengths.segmentHeight);
     for (auto kind = statementKinds.rbegin(); kind != statementKinds.rend(); ++kind)
-        room.setRight(drawCount(painter, room, *kind) - countGap);
+        room.setRight(drawCount(painter, room, *kind) - lengths.countGap);
     drawPlace(painter, room);
 }
 
 void WhereaboutsView::drawPlace(QPainter& painter, const QRect& room) const {
+    const LineLengths lengths;
     QRect left = room;
     if (m_shown.kind) {
-        rowIcon(imageOf(*m_shown.kind)).paint(&painter, pictureIn(room, room.left(), kindPicture));
-        left.setLeft(room.left() + kindPicture + gap);
+        rowIcon(imageOf(*m_shown.kind))
+            .paint(&painter, pictureIn(room, room.left(), lengths.kindPicture));
+        left.setLeft(room.left() + lengths.kindPicture + lengths.gap);
     }
     QFont bold = font();
     bold.setBold(true);
     painter.setFont(bold);
     painter.setPen(theme::deepBlue);
-    left.setLeft(drawWords(painter, left, fromCp1252(m_shown.stepName)) + gap);
+    left.setLeft(drawWords(painter, left, fromCp1252(m_shown.stepName)) + lengths.gap);
     painter.setFont(font());
     painter.setPen(palette().color(QPalette::PlaceholderText));
     drawWords(painter, left, fromCp1252(m_shown.question));
@@ -104,23 +113,26 @@ void WhereaboutsView::drawPlace(QPainter& painter, const QRect& room) const {
 
 /// Draws the picture and the number of a kind at the right of the room; returns where they begin.
 int WhereaboutsView::drawCount(QPainter& painter, const QRect& room, StatementKind kind) const {
+    const LineLengths lengths;
     const QString count = QString::number(m_shown.counts[kind]);
     painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter, count);
-    const int left = room.right() - fontMetrics().horizontalAdvance(count) - numberGap;
-    const QRect picture = pictureIn(room, left - smallPicture, smallPicture);
-    rowIcon(imageOf(kind)).paint(&painter, picture);
+    const int left = room.right() - fontMetrics().horizontalAdvance(count) - lengths.numberGap;
+    const int size = lengths.smallPicture;
+    const QRect picture = pictureIn(room, left - size, size);
+    smallRowIcon(imageOf(kind)).paint(&painter, picture);
     return picture.left();
 }
 
 /// One for each step over the whole width; those that have been reached are filled.
 void WhereaboutsView::drawSegments(QPainter& painter) const {
+    const LineLengths lengths;
     const QRect room = contentsRect();
-    const auto edge = [&room, this](int step) {
-        return room.left() + (room.width() + segmentGap) * step / m_shown.stepCount;
+    const auto edge = [&, this](int step) {
+        return room.left() + (room.width() + lengths.segmentGap) * step / m_shown.stepCount;
     };
     for (int step = 0; step < m_shown.stepCount; ++step) {
-        const QRect segment(QPoint(edge(step), room.bottom() + 1 - segmentHeight),
-                            QPoint(edge(step + 1) - segmentGap - 1, room.bottom()));
+        const QRect segment(QPoint(edge(step), room.bottom() + 1 - lengths.segmentHeight),
+                            QPoint(edge(step + 1) - lengths.segmentGap - 1, room.bottom()));
         const bool isReached = step < m_shown.step;
         painter.setPen(isReached ? theme::deepBlue : palette().color(QPalette::Mid));
         painter.setBrush(isReached ? theme::deepBlue : theme::paper);

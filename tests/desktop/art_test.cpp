@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace orvanta::test {
 
 namespace {
@@ -17,6 +19,36 @@ TEST(Pictures, AreThereForEachArtOfAButton) {
 TEST(Pictures, OfRowsAreFourAndNoneBesideThem) {
     for (int image = 1; image <= 4; ++image) EXPECT_FALSE(rowIcon(image).isNull()) << image;
     for (const int image : {-1, 0, 5}) EXPECT_TRUE(rowIcon(image).isNull()) << image;
+    EXPECT_TRUE(smallRowIcon(5).isNull());
+}
+
+TEST(Pictures, OfRowsAreDrawnAnewForTheSmallSize) {
+    const auto drawn = [](const QIcon& icon) { return icon.pixmap(QSize(12, 12), 1).toImage(); };
+    for (int image = 1; image <= 4; ++image)
+        EXPECT_NE(drawn(smallRowIcon(image)), drawn(rowIcon(image))) << image;
+}
+
+/// A picture that is made for its size has its straight edges between pixels, none across one.
+TEST(Pictures, OfAStrengthAreSharpAtTheSmallSize) {
+    const QImage drawn = smallRowIcon(1).pixmap(QSize(12, 12), 1).toImage();
+    const QRgb ground = drawn.pixel(6, 0), sign = drawn.pixel(6, 6);
+    for (int x = 0; x < 12; ++x)
+        EXPECT_TRUE(drawn.pixel(x, 6) == ground || drawn.pixel(x, 6) == sign) << x;
+}
+
+TEST(Pictures, ArePaleWhereTheirButtonIsDisabled) {
+    const auto strongest = [](QIcon::Mode mode) {
+        const QImage drawn =
+            pictureIcon(QStringLiteral("undo")).pixmap(QSize(20, 20), 1, mode).toImage();
+        int most = 0;
+        for (int y = 0; y < drawn.height(); ++y)
+            for (int x = 0; x < drawn.width(); ++x)
+                most = std::max(most, qAlpha(drawn.pixel(x, y)));
+        return most;
+    };
+    EXPECT_EQ(strongest(QIcon::Normal), 255);
+    EXPECT_GT(strongest(QIcon::Disabled), 0);
+    EXPECT_LT(strongest(QIcon::Disabled), 128);
 }
 
 TEST(Pictures, AreDrawnInThePixelsOfTheirScreen) {

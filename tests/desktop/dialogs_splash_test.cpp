@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <QtTest>
+#include <set>
+#include <vector>
 
 #include "desktop/dialogs.h"
 #include "window_bench.h"
@@ -8,6 +10,21 @@
 namespace orvanta::test {
 
 using namespace orvanta::desktop;
+
+namespace {
+
+/// The lengths of the bars that a row of pixels passes through on a white ground.
+std::vector<int> barsIn(const QImage& picture, int row, int left, int right) {
+    std::vector<int> lengths;
+    for (int x = left; x < right; ++x) {
+        if (picture.pixelColor(x, row) == Qt::white) continue;
+        if (x == left || picture.pixelColor(x - 1, row) == Qt::white) lengths.push_back(0);
+        ++lengths.back();
+    }
+    return lengths;
+}
+
+}  // namespace
 
 TEST(Splash, EndsEarlyAtAnyKey) {
     for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Escape, Qt::Key_F5, Qt::Key_Shift}) {
@@ -37,6 +54,16 @@ TEST(Splash, FillsItsFormWithThePicture) {
     for (int y = 0; y < picture.height(); ++y)
         for (int x = 0; x < picture.width(); ++x) colours.insert(picture.pixel(x, y));
     EXPECT_GT(colours.size(), 5);
+}
+
+TEST(Splash, HasFourBarsOfOneLength) {
+    WindowBench bench;
+    FrmSplash form;
+    SplashDialog splash(bench.program(), form);
+    const QImage picture = splash.grab().toImage();
+    const std::vector<int> bars = barsIn(picture, 250, 150, 450);
+    ASSERT_EQ(bars.size(), 4);
+    EXPECT_EQ(std::set<int>(bars.begin(), bars.end()).size(), 1);
 }
 
 }  // namespace orvanta::test

@@ -93,6 +93,20 @@ private:
 
 }  // namespace
 
+TEST_F(FileList, HasAStrongChosenRowWhileItHasTheKeyboard) {
+    add(2);
+    bench.form().lstFiles.setSelectedIndex(0);
+    const auto chosen = [this] {
+        QCoreApplication::processEvents();
+        return groundOf(paintedAs(*view().viewport(), view().visualItemRect(view().item(0))));
+    };
+    bench.widget("imgBtnAFAdd").setFocus();
+    const QColor quiet = chosen();
+    view().setFocus();
+    EXPECT_NE(chosen(), quiet);
+    EXPECT_NE(quiet, Qt::white);
+}
+
 TEST_F(FileList, TakesFilesThatAreDroppedOnItOneAfterAnother) {
     drop({make("bo.bsm"), make("ann.bsm")});
     EXPECT_EQ(listed(), (Texts{"bo.bsm", "ann.bsm"}));

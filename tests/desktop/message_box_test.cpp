@@ -89,4 +89,21 @@ TEST(MessageBox, ShowsItsTextAsItStandsUnderItsTitleOrTheProductsName) {
               QStringLiteral("Merge"));
 }
 
+TEST(MessageBox, IsNeverNarrow) {
+    for (const MessageIcon icon : {MessageIcon::None, MessageIcon::Stop}) {
+        MessageBox box({.text = "No.", .icon = icon}, nullptr);
+        box.show();
+        EXPECT_GE(box.width(), 320);
+    }
+}
+
+TEST(MessageBox, HasAShortTextBesideTheMiddleOfItsIcon) {
+    MessageBox box({.text = "Please enter strength.", .icon = MessageIcon::Stop}, nullptr);
+    box.show();
+    const auto* words = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    const auto* picture = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"));
+    EXPECT_TRUE(words->alignment() & Qt::AlignVCenter);
+    EXPECT_LE(std::abs(words->geometry().center().y() - picture->geometry().center().y()), 1);
+}
+
 }  // namespace orvanta::test

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QGraphicsView>
 #include <QLineEdit>
 #include <QLocale>
 #include <QPrintDialog>
@@ -16,9 +17,12 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QToolButton>
 #include <functional>
 
 #include "desktop/message_box.h"
+#include "desktop/theme.h"
+#include "own_pictures.h"
 #include "printed_sheets.h"
 
 namespace orvanta::test {
@@ -83,6 +87,24 @@ private:
 };
 
 }  // namespace
+
+TEST_F(PrintPreview, HasThePicturesOfTheProgramOnItsButtons) {
+    show([](QPrintPreviewDialog& preview) {
+        int actions = 0;
+        for (const QToolButton* button : preview.findChildren<QToolButton*>()) {
+            EXPECT_TRUE(isOwnPicture(button->icon())) << button->text().toStdString();
+            actions += button->defaultAction() ? 1 : 0;
+        }
+        EXPECT_EQ(actions, 15);
+    });
+}
+
+TEST_F(PrintPreview, LaysItsPagesOnTheGroundOfTheWindow) {
+    show([](QPrintPreviewDialog& preview) {
+        const auto& pages = *preview.findChild<QGraphicsView*>();
+        EXPECT_EQ(pages.scene()->backgroundBrush().color(), theme::hairline);
+    });
+}
 
 TEST_F(PrintPreview, ShowsTheSheetsUnderTheNameOfTheModule) {
     show([](QPrintPreviewDialog& preview) {

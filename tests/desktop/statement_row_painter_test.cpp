@@ -12,7 +12,38 @@ namespace {
 
 using namespace orvanta::desktop;
 
+/// The pixel columns at the left of a row that stand out from its ground.
+int edgeWidthOf(const QImage& row) {
+    const QColor ground = row.pixelColor(row.width() / 2, 2);
+    int width = 0;
+    while (width < row.width() && row.pixelColor(width, 2) != ground) ++width;
+    return width;
+}
+
 }  // namespace
+
+TEST(ChosenRow, IsStrongInTheListThatHasTheKeyboardAndQuietInTheOthers) {
+    WindowBench<AnalysisBench> bench;
+    bench.goTo(mappingSides()[0]);
+    bench.window().show();
+    QApplication::setActiveWindow(&bench.window());
+    QCoreApplication::processEvents();  // the window gives the keyboard to its first control
+    const auto chosenIn = [&](const std::string& name) {
+        QCoreApplication::processEvents();
+        auto& view = bench.widget<StatementListView>(name);
+        return paintedAs(*view.viewport(), view.visualRect(view.indexAtPosition(1)));
+    };
+    for (const auto& [keyboard, other] :
+         {std::pair("lvStrengthOp", "lvOpportunity"), std::pair("lvOpportunity", "lvStrengthOp")}) {
+        bench.select("lvStrengthOp", 1);
+        bench.select("lvOpportunity", 1);
+        bench.widget(keyboard).setFocus();
+        const QImage strong = chosenIn(keyboard), quiet = chosenIn(other);
+        EXPECT_NE(groundOf(strong), groundOf(quiet)) << keyboard;
+        EXPECT_GT(edgeWidthOf(strong), edgeWidthOf(quiet)) << keyboard;
+        EXPECT_GT(edgeWidthOf(quiet), 0) << keyboard;
+    }
+}
 
 TEST(CountsInTheMappingList, StandAtTheRightOfARowAndFollowIt) {
     WindowBench<AnalysisBench> bench;

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSet>
 #include <QStyleOptionButton>
 #include <QtTest>
 
@@ -164,6 +165,32 @@ protected:
 
     WindowBench<> bench;
 };
+/// The report dialog on such a desktop, with the keyboard at its Browse button.
+class ReportDialogOn : public Edges {
+protected:
+    ReportDialogOn() {
+        dialog.show();
+        dialog.findChild<QWidget*>(QStringLiteral("cmdBrowse"))->setFocus();
+    }
+
+    QImage painted(const std::string& control) {
+        QCoreApplication::processEvents();
+        return paintedAs(*dialog.findChild<QWidget*>(fromCp1252(control)));
+    }
+    /// How many colours the straight part of the lower edge has.
+    static qsizetype edgeColours(const QImage& button) {
+        QSet<QRgb> colours;
+        for (int x = 8; x < button.width() - 8; ++x)
+            colours.insert(button.pixel(x, button.height() - 1));
+        return colours.size();
+    }
+
+    FrmReportType form;
+    ReportDialog dialog{bench.program(), form, nullptr};
+};
+class DisabledControls : public ReportDialogOn {};
+class DropDown : public ReportDialogOn {};
+
 class UsualDesktop : public Edges {};
 class HighContrastDesktop : public Edges {};
 
@@ -259,6 +286,36 @@ TEST_P(Legibility, HoldsForEveryTextOfTheDialogs) {
     }
 }
 
+TEST_P(DisabledControls, LookDisabled) {
+    for (PushButton* button : {&form.CancelButton, &form.OKButton}) {
+        const QImage enabled = painted(button->name());
+        button->setEnabled(false);
+        const QImage disabled = painted(button->name());
+        EXPECT_NE(groundOf(disabled), groundOf(enabled)) << button->name();
+        EXPECT_EQ(edgeColours(enabled), 1) << button->name();
+        EXPECT_GT(edgeColours(disabled), 1) << button->name() << " has no dashes";
+        EXPECT_LT(writtenContrast(disabled), writtenContrast(enabled)) << button->name();
+        EXPECT_GE(writtenContrast(disabled), legible) << button->name();
+    }
+}
+
+TEST_P(DisabledControls, OfTheOtherKindsLookDisabledToo) {
+    for (Control* control :
+         {static_cast<Control*>(&form.cboFormat), static_cast<Control*>(&form.txtEdit)}) {
+        const QColor enabled = groundOf(painted(control->name()));
+        control->setEnabled(false);
+        EXPECT_NE(groundOf(painted(control->name())), enabled) << control->name();
+    }
+}
+
+TEST_P(DropDown, HasTheEdgeAndTheGroundOfABox) {
+    const QImage box = painted("txtEdit"), list = painted("cboFormat");
+    EXPECT_EQ(list.pixelColor(0, list.height() / 2), box.pixelColor(0, box.height() / 2));
+    EXPECT_EQ(list.pixelColor(list.width() / 2, list.height() - 1),
+              box.pixelColor(box.width() / 2, box.height() - 1));
+    EXPECT_EQ(list.pixelColor(2, list.height() / 2), theme::paper);
+}
+
 TEST(Contrast, IsTheRatioThatWcagGives) {
     EXPECT_NEAR(contrast(Qt::black, Qt::white), 21, 1e-9);
     EXPECT_NEAR(contrast(QColor(0x76, 0x76, 0x76), Qt::white), 4.54, 0.005);
@@ -305,6 +362,9 @@ TEST_P(HighContrastDesktop, GetsStrongLinesAndNumbersInItsRows) {
 const auto nameOfColours = [](const auto& info) { return info.param.name; };
 INSTANTIATE_TEST_SUITE_P(On, LegibleRows, testing::ValuesIn(desktopColours()), nameOfColours);
 INSTANTIATE_TEST_SUITE_P(On, Legibility, testing::ValuesIn(desktopColours()), nameOfColours);
+
+INSTANTIATE_TEST_SUITE_P(On, DisabledControls, testing::ValuesIn(desktopColours()), nameOfColours);
+INSTANTIATE_TEST_SUITE_P(On, DropDown, testing::ValuesIn(desktopColours()), nameOfColours);
 
 INSTANTIATE_TEST_SUITE_P(On, UsualDesktop, testing::Values(light, dark), nameOfColours);
 INSTANTIATE_TEST_SUITE_P(On, HighContrastDesktop, testing::Values(highContrast), nameOfColours);

@@ -2,7 +2,9 @@
 // looking them over.
 //   orvanta_screens FOLDER
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
@@ -220,6 +222,9 @@ private:
         report.txtEdit.setText("docs/My SWOT/Pedal Post.aze");
         ReportDialog reportDialog(m_bench.program(), report, window);
         takeDialog(reportDialog, "report-dialog");
+        takeFormats(reportDialog);
+        report.OKButton.setEnabled(false);
+        takeDialog(reportDialog, "report-dialog-busy");
         FrmAbout about;
         AboutDialog aboutDialog(m_bench.program(), about, window);
         takeDialog(aboutDialog, "about");
@@ -236,6 +241,15 @@ private:
                              .fileName = {}},
                             FileRules::Heeded, window);
         takeDialog(chooser, "file-dialog");
+    }
+
+    void takeFormats(QWidget& dialog) {
+        dialog.show();
+        auto& formats = *dialog.findChild<QComboBox*>();
+        formats.showPopup();
+        m_album.takeWith(dialog, *formats.view()->window(), QStringLiteral("report-formats"));
+        formats.hidePopup();
+        dialog.hide();
     }
 
     static std::string folderOfSessions() {
