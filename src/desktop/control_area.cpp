@@ -34,7 +34,9 @@ Span keptInside(Span span, int designExtent, int extent) {
 }  // namespace
 
 ControlArea::ControlArea(const PixelGrid& pixelGrid, QWidget* parent)
-    : QWidget(parent), m_pixelGrid(pixelGrid) {}
+    : QWidget(parent), m_pixelGrid(pixelGrid) {
+    if (const auto* area = dynamic_cast<const ControlArea*>(parent)) m_reachOf = area->m_reachOf;
+}
 
 void ControlArea::setDesignSize(Twips width, Twips height) {
     m_designWidth = width;
@@ -69,8 +71,10 @@ void ControlArea::place(const Control& control, QWidget& widget) const {
     const Bounds& bounds = control.bounds();
     const Stretch& stretch = control.stretch();
     const QSize design = designSize(), growth = size() - design;
+    const Reach reach = m_reachOf(control);
     Span across = stretched(exact(bounds.left), exact(bounds.width), stretch.left, stretch.right,
-                            growth.width());
+                            std::min<double>(growth.width(), exact(reach.growth)));
+    across.length = static_cast<int>(std::min<double>(across.length, exact(reach.width)));
     Span down = stretched(exact(bounds.top), exact(bounds.height), stretch.top, stretch.bottom,
                           growth.height());
     if (stretch.right == 0) across = keptInside(across, design.width(), width());

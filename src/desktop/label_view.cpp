@@ -8,13 +8,13 @@
 
 namespace orvanta::desktop {
 
-LabelView::LabelView(Label& model, const PixelGrid& pixelGrid, QWidget* parent)
-    : QLabel(parent), m_model(model), m_pixelGrid(pixelGrid) {
+LabelView::LabelView(Label& model, const PixelGrid& pixelGrid, QWidget* parent,
+                     Qt::AlignmentFlag side)
+    : QLabel(parent), m_model(model), m_pixelGrid(pixelGrid), m_side(side) {
     setTextFormat(Qt::PlainText);
-    setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setWordWrap(true);
     const auto showModel = [this] {
-        setText(fromCp1252(m_model.caption()));  // a question may hold "&&"
+        setText(fromCp1252(m_model.caption()).trimmed());  // a question may hold "&&"
         fit();
     };
     model.changed.subscribe(showModel);
@@ -35,6 +35,9 @@ void LabelView::fit() {
         size.value -= step;
         setFont(m_pixelGrid.font(size, m_model.isBold()));
     }
+    // Of a text that is too long even so, at least the beginning is to be read.
+    const bool fits = heightForWidth(width()) <= height();
+    setAlignment(Qt::AlignLeft | (fits ? m_side : Qt::AlignTop));
 }
 
 LinkView::LinkView(Label& model, Ground ground, const PixelGrid& pixelGrid, QWidget* parent)

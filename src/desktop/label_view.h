@@ -8,10 +8,12 @@
 
 namespace orvanta::desktop {
 
-/// Shows the caption of a label, wrapped. A caption too long for its place is set smaller.
+/// Shows the caption of a label, wrapped, without the blanks around it, at the upper or the lower
+/// side of its place. A caption too long for its place is set smaller.
 class LabelView : public QLabel {
 public:
-    LabelView(Label& model, const PixelGrid& pixelGrid, QWidget* parent);
+    LabelView(Label& model, const PixelGrid& pixelGrid, QWidget* parent,
+              Qt::AlignmentFlag side = Qt::AlignTop);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -21,6 +23,7 @@ private:
 
     Label& m_model;
     PixelGrid m_pixelGrid;
+    Qt::AlignmentFlag m_side;
 };
 
 /// A label that acts as a link.

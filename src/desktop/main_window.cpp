@@ -22,6 +22,7 @@
 #include "desktop/clicks.h"
 #include "desktop/enlargement.h"
 #include "desktop/list_commands.h"
+#include "desktop/main_layout.h"
 #include "desktop/mirrors.h"
 #include "desktop/screen_room.h"
 #include "desktop/theme.h"
@@ -129,6 +130,7 @@ MainWindow::MainWindow(Program& program)
     FrmMain& form = program.frmMain;
     setObjectName(QStringLiteral("frmMain"));
     setAcceptDrops(true);  // to show what is dragged wherever it passes
+    limitReach([&form](const Control& control) { return reachOf(form, control); });
     makePanels();
     makeButtons();
     makeOthers();
@@ -268,7 +270,8 @@ void MainWindow::makeByKind(Control& control, ControlArea& area) {
         },
         [&](Option* option) { makeOption(*option, area); },
         [&](Label* label) {
-            mirrorControl(*label, *new LabelView(*label, pixelGrid(), &area), area);
+            const auto side = isHeading(m_program.frmMain, *label) ? Qt::AlignBottom : Qt::AlignTop;
+            mirrorControl(*label, *new LabelView(*label, pixelGrid(), &area, side), area);
         },
         // Holds the art of others, unseen.
         [&](Image* image) { mirrorControl(*image, *new QWidget(&area), area); },

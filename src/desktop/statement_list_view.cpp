@@ -43,6 +43,7 @@ StatementListView::StatementListView(Program& program, StatementList& list, QWid
     m_whole->setWordWrap(true);
     m_whole->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_whole->setMargin(enlarged(designWholeMargin));
+    m_whole->setBackgroundRole(QPalette::AlternateBase);  // told from the rows above
     m_whole->setAutoFillBackground(true);
     m_model.describe = [this](int position) {
         return describeRow(m_list, position, m_mappingCounts.get());
@@ -129,16 +130,18 @@ void StatementListView::layOutRows() {
     constexpr double mostOfTheList = 0.4;
     const int wholeMargin = enlarged(designWholeMargin);
     const QFontMetrics metrics = fontMetrics();
+    const int rows = rowHeight(metrics, linesPerRow());
     const int lines = m_fit->linesToRead(contentsRect().width() - 2 * wholeMargin);
-    const int height = lines == 0
-                           ? 0
-                           : std::min(lines * metrics.lineSpacing() + 2 * wholeMargin,
-                                      static_cast<int>(contentsRect().height() * mostOfTheList));
+    int height = lines == 0 ? 0
+                            : std::min(lines * metrics.lineSpacing() + 2 * wholeMargin,
+                                       static_cast<int>(contentsRect().height() * mostOfTheList));
+    // Above it whole rows only: one that was cut would look covered.
+    const int above = contentsRect().height() - height;
+    if (height > 0 && above > rows) height += above % rows;
     if (viewportMargins().bottom() != height) setViewportMargins(0, 0, 0, height);
     m_whole->setVisible(height > 0);
     m_whole->setGeometry(contentsRect().adjusted(0, contentsRect().height() - height, 0, 0));
     showWholeStatement();
-    const int rows = rowHeight(metrics, linesPerRow());
     if (std::exchange(m_rowHeight, rows) != rows) scheduleDelayedItemsLayout();
 }
 

@@ -145,11 +145,11 @@ TEST(MainWindow, LeavesABoxAloneThatNobodyCanReach) {
     EXPECT_EQ(bench.window().focusWidget(), &bench.widget("lvBStrength"));
 }
 
-TEST(MainWindow, ShowsAQuestionAsItStands) {
+TEST(MainWindow, ShowsAQuestionAsItStandsWithoutTheBlanksAroundIt) {
     WindowBench bench;
     bench.start();
     bench.form().lblSQuestion.setCaption(" R&D && more");
-    EXPECT_EQ(bench.widget<QLabel>("lblSQuestion").text(), " R&D && more");
+    EXPECT_EQ(bench.widget<QLabel>("lblSQuestion").text(), "R&D && more");
 }
 
 TEST(MainWindow, ShowsTwoAmpersandsOfAButtonAsOne) {

@@ -124,6 +124,18 @@ TEST_F(StatementListViewTest, BringsAnAddedRowIntoView) {
         view().visualRect(view().indexAtPosition(105)).center()));
 }
 
+TEST_F(StatementListViewTest, ShowsWholeRowsAboveTheChosenStatement) {
+    for (int row = 0; row < 40; ++row)
+        list().add({.key = {}, .text = std::string(600, 'W'), .image = 1});
+    for (int height : {420, 431, 437}) {
+        bench.window().resize(800, height + 60);
+        QCoreApplication::processEvents();
+        ASSERT_FALSE(view().findChild<QLabel*>({}, Qt::FindDirectChildrenOnly)->isHidden());
+        const int row = view().visualRect(view().indexAtPosition(1)).height();
+        EXPECT_EQ(view().viewport()->height() % row, 0) << height;
+    }
+}
+
 TEST_F(StatementListViewTest, ShowsTheChosenStatementWholeWhereRowsCutOne) {
     auto& whole = *view().findChild<QLabel*>({}, Qt::FindDirectChildrenOnly);
     EXPECT_TRUE(whole.isHidden());
