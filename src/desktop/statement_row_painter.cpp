@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QTextLayout>
 #include <algorithm>
+#include <cmath>
 
 #include "core/statement_kind.h"
 #include "desktop/art.h"
@@ -39,6 +40,9 @@ int textLeft(const Row& row) { return leftMargin + row.indent * indentStep + pic
 QStringList brokenAt(const QString& text, const QFont& font, int width, int mostLines) {
     QStringList lines;
     QTextLayout layout(text, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
     layout.beginLayout();
     int begin = 0;
     for (QTextLine line; lines.size() + 1 < mostLines && (line = layout.createLine()).isValid();) {
@@ -72,35 +76,54 @@ void drawContent(QPainter& painter, const QRect& place, const Row& row, const QF
 constexpr int smallPicture = 12, numberGap = 4;
 
 /// Wide enough for two digits, so that the numbers of all rows stand below each other.
+/// `widthOf`: of a text in the font.
+template <class WidthOf>
+int numberWidth(int number, WidthOf widthOf) {
+    return static_cast<int>(std::ceil(std::max(widthOf(std::to_string(number)), widthOf("00"))));
+}
+
 int numberWidth(int number, const QFontMetrics& metrics) {
-    return std::max(metrics.horizontalAdvance(QString::number(number)),
-                    metrics.horizontalAdvance(QStringLiteral("00")));
+    return numberWidth(number, [&](std::string_view digits) {
+        return static_cast<double>(metrics.horizontalAdvance(lineOf(digits)));
+    });
 }
 
 bool hasCounts(const Row& row, const MappingCounts* counts) {
     return counts && row.image > imageOf(StatementKind::Weakness);
 }
 
-/// Draws at the right of a row what is mapped under it; returns where that begins.
+/// Draws one number and its picture at the right of a place; returns where they begin.
+int drawCount(QPainter& painter, const QRect& place, StatementKind kind, int number, int width) {
+    painter.drawText(QRect(place.right() - width, place.top(), width, place.height()),
+                     Qt::AlignLeft | Qt::AlignVCenter, QString::number(number));
+    const int left = place.right() - width - numberGap - smallPicture;
+    rowIcon(imageOf(kind))
+        .paint(&painter, QRect(left, place.top() + (place.height() - smallPicture) / 2,
+                               smallPicture, smallPicture));
+    return left;
+}
+
+/// Draws at the right of a row what is mapped under it, below each other if there are two lines;
+/// returns where that begins.
 int drawCounts(QPainter& painter, const QStyleOptionViewItem& option,
-               const MappingCounts::Count& count) {
-    const QRect& place = option.rect;
+               const MappingCounts::Count& count, int lines) {
     const QFontMetrics metrics(option.font);
     painter.setFont(option.font);
     painter.setPen(option.palette.color(QPalette::PlaceholderText));
-    int right = place.right() - gap;
-    for (const auto& [kind, number] : {std::pair(StatementKind::Weakness, count.weaknesses),
-                                       std::pair(StatementKind::Strength, count.strengths)}) {
-        const int width = numberWidth(number, metrics);
-        painter.drawText(QRect(right - width, place.top(), width, place.height()),
-                         Qt::AlignLeft | Qt::AlignVCenter, QString::number(number));
-        right -= width + numberGap + smallPicture;
-        rowIcon(imageOf(kind))
-            .paint(&painter, QRect(right, place.top() + (place.height() - smallPicture) / 2,
-                                   smallPicture, smallPicture));
-        right -= gap;
+    const int strengths = numberWidth(count.strengths, metrics),
+              weaknesses = numberWidth(count.weaknesses, metrics);
+    QRect place = option.rect.adjusted(0, 0, -gap, 0);
+    if (lines == 1) {
+        place.setRight(
+            drawCount(painter, place, StatementKind::Weakness, count.weaknesses, weaknesses) - gap);
+        return drawCount(painter, place, StatementKind::Strength, count.strengths, strengths) - gap;
     }
-    return right;
+    const int widest = std::max(strengths, weaknesses);
+    const QRect upper(place.left(), place.center().y() - metrics.height() + 1, place.width(),
+                      metrics.height());
+    drawCount(painter, upper.translated(0, metrics.height()), StatementKind::Weakness,
+              count.weaknesses, widest);
+    return drawCount(painter, upper, StatementKind::Strength, count.strengths, widest) - gap;
 }
 
 }  // namespace
@@ -109,14 +132,17 @@ int rowHeight(const QFontMetrics& metrics, int lines) {
     return std::max(pictureSize, metrics.height() * lines) + 12;
 }
 
-int textRoom(const Row& row, int rowWidth, const MappingCounts* counts,
-             const QFontMetrics& metrics) {
-    int room = rowWidth - textLeft(row) - gap;
+int textRoom(const Row& row, int rowWidth, int lines, const MappingCounts* counts,
+             const LetterWidths& letters) {
+    const int room = rowWidth - textLeft(row) - gap;
     if (!hasCounts(row, counts)) return room;
     const MappingCounts::Count count = counts->of(row.key);
-    for (const int number : {count.strengths, count.weaknesses})
-        room -= numberWidth(number, metrics) + numberGap + smallPicture + gap;
-    return room - gap;
+    const auto width = [&letters](int number) {
+        return numberWidth(number, [&](std::string_view digits) { return letters.of(digits); }) +
+               numberGap + smallPicture + gap;
+    };
+    const int strengths = width(count.strengths), weaknesses = width(count.weaknesses);
+    return room - gap - (lines == 1 ? strengths + weaknesses : std::max(strengths, weaknesses));
 }
 
 void drawHint(QPainter& painter, const QWidget& viewport, int top, const QString& hint) {
@@ -157,7 +183,8 @@ void StatementRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& o
     const Row& row = m_list.row(index.row() + 1);
     QRect room = option.rect;
     const MappingCounts* counts = m_view.mappingCounts();
-    if (hasCounts(row, counts)) room.setRight(drawCounts(*painter, option, counts->of(row.key)));
+    if (hasCounts(row, counts))
+        room.setRight(drawCounts(*painter, option, counts->of(row.key), m_view.linesPerRow()));
     drawContent(*painter, room, row, option.font, m_view.linesPerRow());
     painter->restore();
 }
