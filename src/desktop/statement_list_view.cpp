@@ -23,7 +23,6 @@ namespace orvanta::desktop {
 
 namespace {
 
-constexpr int wholeMargin = 8;
 constexpr int edge = 24;  // pixels from the upper or lower end in which a drag scrolls
 
 }  // namespace
@@ -33,16 +32,10 @@ StatementListView::StatementListView(Program& program, StatementList& list, QWid
       m_program(program),
       m_list(list),
       m_model(list),
-      m_whole(new QLabel(this)) {
+      m_strip(&ReadingStrip::joinedBy(*this)) {
     if (isMappingList(program.frmMain, list))
         m_mappingCounts = std::make_unique<MappingCounts>(list);
     m_fit = std::make_unique<RowFit>(list, m_mappingCounts.get());
-    m_whole->hide();
-    m_whole->setTextFormat(Qt::PlainText);
-    m_whole->setWordWrap(true);
-    m_whole->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_whole->setMargin(wholeMargin);
-    m_whole->setAutoFillBackground(true);
     m_model.describe = [this](int position) {
         return describeRow(m_list, position, m_mappingCounts.get());
     };
@@ -72,6 +65,10 @@ StatementListView::StatementListView(Program& program, StatementList& list, QWid
     showSelection();
 }
 
+StatementListView::~StatementListView() {
+    if (m_strip) m_strip->leave(*this);
+}
+
 void StatementListView::showSelection() {
     if (m_model.isChanging()) return;
     m_showing = true;
@@ -81,7 +78,7 @@ void StatementListView::showSelection() {
     else
         selectionModel()->clear();
     m_showing = false;
-    showWholeStatement();
+    m_strip->tell(*this);
 }
 
 /// Brings a row that a person has just added into view. A list that was filled stays at its top.
@@ -112,6 +109,16 @@ void StatementListView::resizeEvent(QResizeEvent* event) {
     measureRows();
 }
 
+void StatementListView::moveEvent(QMoveEvent* event) {
+    QListView::moveEvent(event);
+    m_strip->arrange();
+}
+
+void StatementListView::focusInEvent(QFocusEvent* event) {
+    QListView::focusInEvent(event);
+    m_strip->tell(*this);
+}
+
 void StatementListView::changeEvent(QEvent* event) {
     QListView::changeEvent(event);
     if (event->type() == QEvent::FontChange) measureRows();
@@ -125,25 +132,19 @@ void StatementListView::measureRows() {
 
 /// Gives the rows their height, and the whole statement below them room for any of theirs.
 void StatementListView::layOutRows() {
-    constexpr double mostOfTheList = 0.4;
-    const QFontMetrics metrics = fontMetrics();
-    const int lines = m_fit->linesToRead(contentsRect().width() - 2 * wholeMargin);
-    const int height = lines == 0
-                           ? 0
-                           : std::min(lines * metrics.lineSpacing() + 2 * wholeMargin,
-                                      static_cast<int>(contentsRect().height() * mostOfTheList));
-    if (viewportMargins().bottom() != height) setViewportMargins(0, 0, 0, height);
-    m_whole->setVisible(height > 0);
-    m_whole->setGeometry(contentsRect().adjusted(0, contentsRect().height() - height, 0, 0));
-    showWholeStatement();
-    const int rows = rowHeight(metrics, linesPerRow());
+    m_strip->arrange();
+    m_strip->tell(*this);
+    const int rows = rowHeight(fontMetrics(), linesPerRow());
     if (std::exchange(m_rowHeight, rows) != rows) scheduleDelayedItemsLayout();
 }
 
-void StatementListView::showWholeStatement() {
-    if (m_whole->isHidden()) return;
+void StatementListView::keepFree(int height) {
+    if (viewportMargins().bottom() != height) setViewportMargins(0, 0, 0, height);
+}
+
+QString StatementListView::chosenText() const {
     const Row* row = m_list.selectedRow();
-    m_whole->setText(row ? lineOf(row->text) : QString());
+    return row ? lineOf(row->text) : QString();
 }
 
 void StatementListView::mouseMoveEvent(QMouseEvent* event) {
