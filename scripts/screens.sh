@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Makes a picture of every screen and dialog: at 1x and 2x, on a light, a dark and a high-contrast
-# desktop. They lie in build/screens/THEME-SCALEx/ then.
+# desktop. They lie in build/screens/THEME-SCALEx/ then. Beside them are those of the least screens,
+# and of teams with much or nothing to say.
 set -euo pipefail
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 
@@ -30,8 +31,22 @@ declare -A schemes=(
 if [[ ${1:-} == inside ]]; then
     read -r -a colours <<<"${schemes[$2]}"
     scheme "${colours[@]}" >"$XDG_CONFIG_HOME/kdeglobals"
-    exec "$root/build/dev/bin/orvanta_screens" "$screens/$2-$3x"
+    exec "$root/build/dev/bin/orvanta_screens" "$screens/$3" "$4"
 fi
+
+# FOLDER THEME SCREEN SCALE TEAM: what it looks like on a screen of that size and scale.
+take() {
+    local runtime
+    runtime=$(mktemp -d)
+    mkdir -p "$screens/$1"
+    mkdir -m 700 -- "$runtime/Dana"
+    # The generic desktop of Qt that reads its colours from a file is that of KDE.
+    XDG_RUNTIME_DIR=$runtime XDG_CONFIG_HOME=$runtime HOME=$runtime/Dana \
+        QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME=kde KDE_SESSION_VERSION=5 \
+        QT_SCALE_FACTOR=$4 \
+        xvfb-run -a -s "-screen 0 $3x24" scripts/screens.sh inside "$2" "$1" "$5"
+    rm -rf -- "$runtime"
+}
 
 scripts/install.sh test
 if command -v ccache >/dev/null; then export CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
@@ -40,14 +55,13 @@ cmake --build --preset dev --target orvanta_screens
 rm -rf -- "$screens"
 for theme in light dark contrast; do
     for scale in 1 2; do
-        mkdir -p "$screens/$theme-${scale}x"
-        runtime=$(mktemp -d)
-        mkdir -m 700 -- "$runtime/Dana"
-        # The generic desktop of Qt that reads its colours from a file is that of KDE.
-        XDG_RUNTIME_DIR=$runtime XDG_CONFIG_HOME=$runtime HOME=$runtime/Dana \
-            QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME=kde KDE_SESSION_VERSION=5 \
-            QT_SCALE_FACTOR=$scale \
-            xvfb-run -a -s "-screen 0 2560x2048x24" scripts/screens.sh inside "$theme" "$scale"
-        rm -rf -- "$runtime"
+        take "$theme-${scale}x" "$theme" 2560x2048 "$scale" usual
     done
+done
+for team in wordy silent crowd; do
+    take "light-1x-$team" light 2560x2048 1 "$team"
+done
+for team in usual wordy silent crowd; do
+    take "800x600-$team" light 800x600 1 "$team"
+    take "1366x768-1.5x-$team" light 1366x768 1.5 "$team"
 done
