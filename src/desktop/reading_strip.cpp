@@ -34,7 +34,10 @@ ReadingStrip& ReadingStrip::joinedBy(StatementListView& list) {
     return *strip;
 }
 
-void ReadingStrip::leave(StatementListView& list) { std::erase(m_lists, &list); }
+void ReadingStrip::leave(StatementListView& list) {
+    std::erase(m_lists, &list);
+    if (m_told == &list) m_told = nullptr;
+}
 
 QRect ReadingStrip::placeOfLists() const {
     QRect all;
@@ -43,7 +46,7 @@ QRect ReadingStrip::placeOfLists() const {
 }
 
 int ReadingStrip::neededHeight(const QRect& lists) const {
-    constexpr double mostOfTheLists = 0.4;
+    constexpr double mostOfTheLists = 0.45;
     int lines = 0;
     for (const StatementListView* list : m_lists)
         lines = std::max(lines, list->linesToRead(lists.width() - 2 * (textMargin + frame)));
@@ -60,6 +63,7 @@ void ReadingStrip::arrange() {
     setVisible(height > 0);
     setGeometry(lists.adjusted(0, lists.height() - height, 0, 0));
     raise();
+    showChoice();
 }
 
 void ReadingStrip::tell(const StatementListView& list) {
@@ -67,7 +71,12 @@ void ReadingStrip::tell(const StatementListView& list) {
         return other != &list && other->hasFocus() && !other->chosenText().isEmpty();
     };
     if (std::ranges::any_of(m_lists, comesFirst)) return;
-    const QString chosen = list.chosenText();
+    m_told = &list;
+    showChoice();
+}
+
+void ReadingStrip::showChoice() {
+    const QString chosen = m_told ? m_told->chosenText() : QString();
     m_isHint = chosen.isEmpty();
     setText(m_isHint ? QStringLiteral("Choose a row to read it whole.") : chosen);
 }

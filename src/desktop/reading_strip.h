@@ -15,10 +15,10 @@ public:
     /// The strip of the screen that a list lies on; the list joins those that share it.
     static ReadingStrip& joinedBy(StatementListView& list);
 
-    /// Takes the room that any statement of the lists needs, and no more.
+    /// Takes the room that any statement of the lists needs, and no more; a text may differ.
     void arrange();
-    /// Shows what is chosen in a list, or that nothing is, unless another one has the keyboard and
-    /// a choice.
+    /// Shows what is chosen in a list from now on, or that nothing is, unless another one has the
+    /// keyboard and a choice.
     void tell(const StatementListView& list);
     void leave(StatementListView& list);
 
@@ -30,9 +30,11 @@ private:
 
     QRect placeOfLists() const;
     int neededHeight(const QRect& lists) const;
+    void showChoice();
 
     std::vector<StatementListView*> m_lists;
-    bool m_isHint = true;  // nothing is chosen
+    const StatementListView* m_told = nullptr;  // the list whose choice shows
+    bool m_isHint = true;                       // nothing is chosen
 };
 
 }  // namespace orvanta::desktop

@@ -116,7 +116,7 @@ void StatementListView::moveEvent(QMoveEvent* event) {
 
 void StatementListView::focusInEvent(QFocusEvent* event) {
     QListView::focusInEvent(event);
-    m_strip->tell(*this);
+    if (m_list.hasSelection()) m_strip->tell(*this);
 }
 
 void StatementListView::changeEvent(QEvent* event) {
@@ -133,7 +133,6 @@ void StatementListView::measureRows() {
 /// Gives the rows their height, and the whole statement below them room for any of theirs.
 void StatementListView::layOutRows() {
     m_strip->arrange();
-    m_strip->tell(*this);
     const int rows = rowHeight(fontMetrics(), linesPerRow());
     if (std::exchange(m_rowHeight, rows) != rows) scheduleDelayedItemsLayout();
 }
