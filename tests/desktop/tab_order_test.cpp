@@ -16,6 +16,10 @@
 #include "temporary_folder.h"
 #include "window_bench.h"
 
+inline void PrintTo(const QSize& size, std::ostream* out) {
+    *out << size.width() << " x " << size.height();
+}
+
 namespace orvanta::test {
 
 namespace {
@@ -126,7 +130,7 @@ TEST_P(TabOrder, IsThatOfReadingOnEveryScreenOfAnalyzing) {
     }
 }
 
-TEST_P(TabOrder, KeepsTheModulesTogetherBesideTheLink) {
+TEST_P(TabOrder, ReachesTheNameBeforeTheModulesAndNextBehindQuit) {
     WindowBench bench;
     bench.start();
     show(bench);
