@@ -86,7 +86,8 @@ QTreeView* FileChooser::files() const { return findChild<QTreeView*>(QStringLite
 void FileChooser::accept() {
     m_typed = nameBox()->text();
     if (m_rules == FileRules::Heeded) {
-        const QString folder = selectedFolder();
+        m_place.folder = directory().absolutePath().toStdString();
+        const QString folder = pickedFolder();
         if (!follow(folder.isEmpty() ? m_typed : folder)) return;
     } else if (m_typed.isEmpty()) {
         return QFileDialog::accept();  // a folder is selected: opens it
@@ -97,11 +98,13 @@ void FileChooser::accept() {
 
 bool FileChooser::follow(const QString& name) {
     if (name.isEmpty()) return false;
-    m_place.folder = directory().absolutePath().toStdString();
     m_paths.clear();
-    const std::string typed = name.toStdString();
-    const auto names = m_severalFiles ? namesIn(typed) : std::vector{typed};
+    const auto names = namesIn(name);
     return names.size() == 1 ? take(choiceOf(m_place, names.front())) : followSeveral(names);
+}
+
+std::vector<std::string> FileChooser::namesIn(const QString& text) const {
+    return m_severalFiles ? orvanta::namesIn(text.toStdString()) : std::vector{text.toStdString()};
 }
 
 bool FileChooser::followSeveral(const std::vector<std::string>& names) {
@@ -140,12 +143,21 @@ void FileChooser::refuse(const FileChoice& choice) {
     box->open();
 }
 
-QString FileChooser::selectedFolder() const {
+QString FileChooser::pickedFolder() const {
     const QModelIndexList selected = files()->selectionModel()->selectedRows();
     if (selected.size() != 1) return {};
     const QFileInfo file(selected.front().data(QFileSystemModel::FilePathRole).toString());
     const bool isShown = file.absolutePath() == directory().absolutePath();  // not the last folder
-    return isShown && file.isDir() ? file.absoluteFilePath() : QString();
+    const QString folder = file.absoluteFilePath();
+    return isShown && file.isDir() && !isOneOfSeveralTyped(folder) ? folder : QString();
+}
+
+/// The toolkit itself selects a folder whose name is typed beside others.
+bool FileChooser::isOneOfSeveralTyped(const QString& folder) const {
+    const auto names = namesIn(m_typed);
+    return names.size() > 1 && std::ranges::any_of(names, [&](const std::string& name) {
+               return choiceOf(m_place, name).path == folder.toStdString();
+           });
 }
 
 std::unique_ptr<MessageBox> boxOfRefusal(const FileChoice& choice, QWidget* owner) {

@@ -2,6 +2,8 @@
 
 #include <QFileDialog>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "desktop/message_box.h"
 #include "view/file_choice.h"
@@ -35,13 +37,16 @@ private:
     void showOwnPictures();
     /// True once there is a path to give.
     bool follow(const QString& name);
+    /// One, or several where several may be chosen.
+    std::vector<std::string> namesIn(const QString& text) const;
     bool followSeveral(const std::vector<std::string>& names);
     bool take(const FileChoice& choice);
     void enter(const QString& folder);
     void refuse(const FileChoice& choice);
     QTreeView* files() const;
-    /// The folder that is selected among the files; empty if none is.
-    QString selectedFolder() const;
+    /// The folder that a person has selected among the files; empty if there is none.
+    QString pickedFolder() const;
+    bool isOneOfSeveralTyped(const QString& folder) const;
 
     FileDialogPlace m_place;
     FileRules m_rules;

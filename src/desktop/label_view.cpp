@@ -14,7 +14,8 @@ LabelView::LabelView(Label& model, const PixelGrid& pixelGrid, QWidget* parent,
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     const auto showModel = [this] {
-        setText(fromCp1252(m_model.caption()).trimmed());  // a question may hold "&&"
+        // A question may hold "&&", and blanks would put it beside the line of what is below.
+        setText(fromCp1252(m_model.caption()).trimmed());
         fit();
     };
     model.changed.subscribe(showModel);

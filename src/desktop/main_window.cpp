@@ -25,6 +25,7 @@
 #include "desktop/main_layout.h"
 #include "desktop/mirrors.h"
 #include "desktop/screen_room.h"
+#include "desktop/tab_order.h"
 #include "desktop/theme.h"
 
 namespace orvanta::desktop {
@@ -120,8 +121,6 @@ bool isPress(const QEvent& event) {
     const int key = static_cast<const QKeyEvent&>(event).key();
     return std::ranges::find(companions, key) == companions.end();
 }
-
-bool isFocusable(const QWidget* widget) { return widget->focusPolicy() & Qt::TabFocus; }
 
 }  // namespace
 
@@ -280,22 +279,19 @@ void MainWindow::makeByKind(Control& control, ControlArea& area) {
     std::visit(make, control.self());
 }
 
-/// Tab goes as the eye does: the column at the left, then each panel row by row. Ahead of all is
-/// the switch of the voice, which would talk over a screen reader.
+/// Tab goes as the eye does. Ahead of all is the switch of the voice, which would talk over a
+/// screen reader.
 void MainWindow::orderTabs() {
-    std::vector<QWidget*> stops;
-    for (QWidget* widget : findChildren<QWidget*>())
-        if (isFocusable(widget) && !widget->objectName().isEmpty()) stops.push_back(widget);
-    std::ranges::stable_sort(stops, {}, [this](const QWidget* widget) {
-        const QPoint place = widget->mapTo(this, QPoint());
-        const bool isSwitch = widget == findChild<QCheckBox*>();
-        const bool inColumn = widget->parentWidget() == this;
-        return std::tuple(!isSwitch, !inColumn, place.y(), place.x());
-    });
-    setFocusPolicy(Qt::TabFocus);  // else nothing can be told to follow the window itself
-    QWidget* former = this;
-    for (QWidget* stop : stops) setTabOrder(std::exchange(former, stop), stop);
-    setFocusPolicy(Qt::NoFocus);
+    std::vector<QWidget*> stops = inReadingOrder(*this);
+    std::ranges::stable_partition(
+        stops, [voice = findChild<QCheckBox*>()](const QWidget* stop) { return stop == voice; });
+    desktop::setTabOrder(*this, stops);
+}
+
+/// Another size can put other controls beside each other.
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    ControlArea::resizeEvent(event);
+    orderTabs();
 }
 
 void MainWindow::showSize() {

@@ -34,6 +34,9 @@ QPageSize::PageSizeId usualPaper() {
                                                                       : QPageSize::A4;
 }
 
+/// Of the dialog's two boxes: the other one is that of the magnification.
+bool isPageBox(const QLineEdit& box) { return !qobject_cast<QComboBox*>(box.parentWidget()); }
+
 /// Lets a person choose the paper. The dialog's own page setup refuses to show where there is no
 /// printer.
 void addPaperChoice(QPrintPreviewDialog& preview, QPrinter& printer) {
@@ -51,14 +54,14 @@ void addPaperChoice(QPrintPreviewDialog& preview, QPrinter& printer) {
         pages->updatePreview();
     });
     tools->addWidget(choice);
+    for (QLineEdit* box : preview.findChildren<QLineEdit*>())
+        if (isPageBox(*box)) QWidget::setTabOrder(box, choice);  // not from the pages below
 }
 
 /// The dialog leaves its two boxes, the magnification and the page, without a name.
 void nameBoxes(QPrintPreviewDialog& preview) {
-    for (QLineEdit* box : preview.findChildren<QLineEdit*>()) {
-        const bool isZoom = qobject_cast<QComboBox*>(box->parentWidget());
-        box->setAccessibleName(fromCp1252(isZoom ? zoomBox : pageBox));
-    }
+    for (QLineEdit* box : preview.findChildren<QLineEdit*>())
+        box->setAccessibleName(fromCp1252(isPageBox(*box) ? pageBox : zoomBox));
 }
 
 /// The program's own pictures in place of the toolkit's, which are made for one size, and a ground

@@ -22,7 +22,7 @@ public:
     bool include(int position);
 
     /// 1 while every statement fits on a line, else 2.
-    int linesPerRow() const { return m_most > 1 ? 2 : 1; }
+    int linesPerRow() const { return m_mostOfOne > 1 ? 2 : 1; }
     /// How many lines of this width show any statement whole; 0 if the rows do so.
     int linesToRead(int width) const;
 
@@ -33,7 +33,8 @@ private:
     std::optional<LetterWidths> m_letters;
     RowLengths m_lengths;
     int m_rowWidth = 0;
-    double m_most = 0;    // the most lines that a text needs in its row
+    // The most lines that a text needs in its row, while rows have one and two.
+    double m_mostOfOne = 0, m_mostOfTwo = 0;
     double m_widest = 0;  // pixels of the longest text
 };
 

@@ -24,7 +24,6 @@ namespace orvanta::desktop {
 
 namespace {
 
-constexpr int designWholeMargin = 8;
 constexpr int designEdge = 24;  // from the upper or lower end in which a drag scrolls
 
 }  // namespace
@@ -34,17 +33,10 @@ StatementListView::StatementListView(Program& program, StatementList& list, QWid
       m_program(program),
       m_list(list),
       m_model(list),
-      m_whole(new QLabel(this)) {
+      m_strip(&ReadingStrip::joinedBy(*this)) {
     if (isMappingList(program.frmMain, list))
         m_mappingCounts = std::make_unique<MappingCounts>(list);
     m_fit = std::make_unique<RowFit>(list, m_mappingCounts.get());
-    m_whole->hide();
-    m_whole->setTextFormat(Qt::PlainText);
-    m_whole->setWordWrap(true);
-    m_whole->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_whole->setMargin(enlarged(designWholeMargin));
-    m_whole->setBackgroundRole(QPalette::AlternateBase);  // told from the rows above
-    m_whole->setAutoFillBackground(true);
     m_model.describe = [this](int position) {
         return describeRow(m_list, position, m_mappingCounts.get());
     };
@@ -74,6 +66,10 @@ StatementListView::StatementListView(Program& program, StatementList& list, QWid
     showSelection();
 }
 
+StatementListView::~StatementListView() {
+    if (m_strip) m_strip->leave(*this);
+}
+
 void StatementListView::showSelection() {
     if (m_model.isChanging()) return;
     m_showing = true;
@@ -83,7 +79,7 @@ void StatementListView::showSelection() {
     else
         selectionModel()->clear();
     m_showing = false;
-    showWholeStatement();
+    m_strip->tell(*this);
 }
 
 /// Brings a row that a person has just added into view. A list that was filled stays at its top.
@@ -114,6 +110,16 @@ void StatementListView::resizeEvent(QResizeEvent* event) {
     measureRows();
 }
 
+void StatementListView::moveEvent(QMoveEvent* event) {
+    QListView::moveEvent(event);
+    m_strip->arrange();
+}
+
+void StatementListView::focusInEvent(QFocusEvent* event) {
+    QListView::focusInEvent(event);
+    if (m_list.hasSelection()) m_strip->tell(*this);
+}
+
 void StatementListView::changeEvent(QEvent* event) {
     QListView::changeEvent(event);
     if (event->type() == QEvent::FontChange) measureRows();
@@ -127,28 +133,18 @@ void StatementListView::measureRows() {
 
 /// Gives the rows their height, and the whole statement below them room for any of theirs.
 void StatementListView::layOutRows() {
-    constexpr double mostOfTheList = 0.4;
-    const int wholeMargin = enlarged(designWholeMargin);
-    const QFontMetrics metrics = fontMetrics();
-    const int rows = rowHeight(metrics, linesPerRow());
-    const int lines = m_fit->linesToRead(contentsRect().width() - 2 * wholeMargin);
-    int height = lines == 0 ? 0
-                            : std::min(lines * metrics.lineSpacing() + 2 * wholeMargin,
-                                       static_cast<int>(contentsRect().height() * mostOfTheList));
-    // Above it whole rows only: one that was cut would look covered.
-    const int above = contentsRect().height() - height;
-    if (height > 0 && above > rows) height += above % rows;
-    if (viewportMargins().bottom() != height) setViewportMargins(0, 0, 0, height);
-    m_whole->setVisible(height > 0);
-    m_whole->setGeometry(contentsRect().adjusted(0, contentsRect().height() - height, 0, 0));
-    showWholeStatement();
+    m_strip->arrange();
+    const int rows = rowHeight(fontMetrics(), linesPerRow());
     if (std::exchange(m_rowHeight, rows) != rows) scheduleDelayedItemsLayout();
 }
 
-void StatementListView::showWholeStatement() {
-    if (m_whole->isHidden()) return;
+void StatementListView::keepFree(int height) {
+    if (viewportMargins().bottom() != height) setViewportMargins(0, 0, 0, height);
+}
+
+QString StatementListView::chosenText() const {
     const Row* row = m_list.selectedRow();
-    m_whole->setText(row ? lineOf(row->text) : QString());
+    return row ? lineOf(row->text) : QString();
 }
 
 void StatementListView::mouseMoveEvent(QMouseEvent* event) {

@@ -2,13 +2,13 @@
 
 #include <QBasicTimer>
 #include <QElapsedTimer>
-#include <QLabel>
 #include <QListView>
 #include <QPointer>
 #include <memory>
 
 #include "analyze/mapping_counts.h"
 #include "app/window_events.h"
+#include "desktop/reading_strip.h"
 #include "desktop/row_fit.h"
 #include "desktop/statement_drag.h"
 #include "desktop/statement_list_model.h"
@@ -20,6 +20,7 @@ namespace orvanta::desktop {
 class StatementListView : public QListView {
 public:
     StatementListView(Program& program, StatementList& list, QWidget* parent);
+    ~StatementListView() override;
 
     QModelIndex indexAtPosition(int position) const { return m_model.index(position - 1); }
     /// The row under a point of the viewport, from 1; 0 for none.
@@ -29,6 +30,12 @@ public:
     /// What is mapped under each row; null for a list to which nothing is mapped.
     const MappingCounts* mappingCounts() const { return m_mappingCounts.get(); }
     int linesPerRow() const { return m_fit->linesPerRow(); }
+    /// As in RowFit.
+    int linesToRead(int width) const { return m_fit->linesToRead(width); }
+    /// On one line; empty if nothing is chosen.
+    QString chosenText() const;
+    /// Keeps the rows out of so many pixels at the foot of the list.
+    void keepFree(int height);
     /// True if the list lights up as a whole.
     bool isLit() const { return m_preview.target == DropTarget::WholeList; }
 
@@ -45,7 +52,9 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -60,7 +69,6 @@ private:
     void reveal();
     void measureRows();
     void layOutRows();
-    void showWholeStatement();
     void paintHint(QPainter& painter);
     void passOver(QDragMoveEvent& event);
     void showDropPreview(const StatementDrag& drag, const QPoint& point);
@@ -75,7 +83,7 @@ private:
     std::unique_ptr<RowFit> m_fit;
     bool m_measuring = false;  // soon: what changes at once is measured once
     int m_rowHeight = 0;
-    QLabel* m_whole;  // below the rows: the chosen statement whole, where rows cut some
+    QPointer<ReadingStrip> m_strip;
     bool m_showing = false;
     int m_rowsCameIn = 0, m_lastCameIn = 0;  // since the last look at the event queue
     DropPreview m_preview;                   // of the drag that is over the list

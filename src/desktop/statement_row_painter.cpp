@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QTextLayout>
 #include <algorithm>
+#include <cmath>
 
 #include "core/statement_kind.h"
 #include "desktop/art.h"
@@ -39,6 +40,9 @@ void drawGround(QPainter& painter, const QStyleOptionViewItem& option, bool hasK
 QStringList brokenAt(const QString& text, const QFont& font, int width, int mostLines) {
     QStringList lines;
     QTextLayout layout(text, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
     layout.beginLayout();
     int begin = 0;
     for (QTextLine line; lines.size() + 1 < mostLines && (line = layout.createLine()).isValid();) {
@@ -71,36 +75,55 @@ void drawContent(QPainter& painter, const QRect& place, const Row& row, const QF
 }
 
 /// Wide enough for two digits, so that the numbers of all rows stand below each other.
+/// `widthOf`: of a text in the font.
+template <class WidthOf>
+int numberWidth(int number, WidthOf widthOf) {
+    return static_cast<int>(std::ceil(std::max(widthOf(std::to_string(number)), widthOf("00"))));
+}
+
 int numberWidth(int number, const QFontMetrics& metrics) {
-    return std::max(metrics.horizontalAdvance(QString::number(number)),
-                    metrics.horizontalAdvance(QStringLiteral("00")));
+    return numberWidth(number, [&](std::string_view digits) {
+        return static_cast<double>(metrics.horizontalAdvance(lineOf(digits)));
+    });
 }
 
 bool hasCounts(const Row& row, const MappingCounts* counts) {
     return counts && row.image > imageOf(StatementKind::Weakness);
 }
 
-/// Draws at the right of a row what is mapped under it; returns where that begins.
+/// Draws one number and its picture at the right of a place; returns where they begin.
+int drawCount(QPainter& painter, const QRect& place, StatementKind kind, int number, int width) {
+    painter.drawText(QRect(place.right() - width, place.top(), width, place.height()),
+                     Qt::AlignLeft | Qt::AlignVCenter, QString::number(number));
+    const RowLengths lengths;
+    const int size = lengths.smallPicture, left = place.right() - width - lengths.numberGap - size;
+    smallRowIcon(imageOf(kind))
+        .paint(&painter, QRect(left, place.top() + (place.height() - size) / 2, size, size));
+    return left;
+}
+
+/// Draws at the right of a row what is mapped under it, below each other if there are two lines;
+/// returns where that begins.
 int drawCounts(QPainter& painter, const QStyleOptionViewItem& option,
-               const MappingCounts::Count& count) {
-    const QRect& place = option.rect;
+               const MappingCounts::Count& count, int lines) {
     const QFontMetrics metrics(option.font);
     const RowLengths lengths;
     painter.setFont(option.font);
     painter.setPen(option.palette.color(QPalette::PlaceholderText));
-    int right = place.right() - lengths.gap;
-    for (const auto& [kind, number] : {std::pair(StatementKind::Weakness, count.weaknesses),
-                                       std::pair(StatementKind::Strength, count.strengths)}) {
-        const int width = numberWidth(number, metrics);
-        painter.drawText(QRect(right - width, place.top(), width, place.height()),
-                         Qt::AlignLeft | Qt::AlignVCenter, QString::number(number));
-        const int size = lengths.smallPicture;
-        right -= width + lengths.numberGap + size;
-        smallRowIcon(imageOf(kind))
-            .paint(&painter, QRect(right, place.top() + (place.height() - size) / 2, size, size));
-        right -= lengths.gap;
+    const int strengths = numberWidth(count.strengths, metrics),
+              weaknesses = numberWidth(count.weaknesses, metrics), gap = lengths.gap;
+    QRect place = option.rect.adjusted(0, 0, -gap, 0);
+    if (lines == 1) {
+        place.setRight(
+            drawCount(painter, place, StatementKind::Weakness, count.weaknesses, weaknesses) - gap);
+        return drawCount(painter, place, StatementKind::Strength, count.strengths, strengths) - gap;
     }
-    return right;
+    const int widest = std::max(strengths, weaknesses);
+    const QRect upper(place.left(), place.center().y() - metrics.height() + 1, place.width(),
+                      metrics.height());
+    drawCount(painter, upper.translated(0, metrics.height()), StatementKind::Weakness,
+              count.weaknesses, widest);
+    return drawCount(painter, upper, StatementKind::Strength, count.strengths, widest) - gap;
 }
 
 }  // namespace
@@ -110,15 +133,18 @@ int rowHeight(const QFontMetrics& metrics, int lines) {
     return std::max(lengths.picture, metrics.height() * lines) + lengths.aboveAndBelow;
 }
 
-int textRoom(const Row& row, int rowWidth, const MappingCounts* counts, const QFontMetrics& metrics,
-             const RowLengths& lengths) {
-    int room = rowWidth - lengths.textLeft(row) - lengths.gap;
+int textRoom(const Row& row, int rowWidth, int lines, const MappingCounts* counts,
+             const LetterWidths& letters, const RowLengths& lengths) {
+    const int room = rowWidth - lengths.textLeft(row) - lengths.gap;
     if (!hasCounts(row, counts)) return room;
     const MappingCounts::Count count = counts->of(row.key);
-    for (const int number : {count.strengths, count.weaknesses})
-        room -=
-            numberWidth(number, metrics) + lengths.numberGap + lengths.smallPicture + lengths.gap;
-    return room - lengths.gap;
+    const auto width = [&](int number) {
+        return numberWidth(number, [&](std::string_view digits) { return letters.of(digits); }) +
+               lengths.numberGap + lengths.smallPicture + lengths.gap;
+    };
+    const int strengths = width(count.strengths), weaknesses = width(count.weaknesses);
+    return room - lengths.gap -
+           (lines == 1 ? strengths + weaknesses : std::max(strengths, weaknesses));
 }
 
 void drawHint(QPainter& painter, const QWidget& viewport, int top, const QString& hint) {
@@ -161,7 +187,8 @@ void StatementRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& o
     const Row& row = m_list.row(index.row() + 1);
     QRect room = option.rect;
     const MappingCounts* counts = m_view.mappingCounts();
-    if (hasCounts(row, counts)) room.setRight(drawCounts(*painter, option, counts->of(row.key)));
+    if (hasCounts(row, counts))
+        room.setRight(drawCounts(*painter, option, counts->of(row.key), m_view.linesPerRow()));
     drawContent(*painter, room, row, option.font, m_view.linesPerRow());
     painter->restore();
 }

@@ -6,6 +6,7 @@
 
 #include "analyze/mapping_counts.h"
 #include "desktop/enlargement.h"
+#include "desktop/letter_widths.h"
 #include "view/statement_list.h"
 
 namespace orvanta::desktop {
@@ -40,9 +41,10 @@ struct RowLengths {
 
 /// Of a row whose text has so many lines.
 int rowHeight(const QFontMetrics& metrics, int lines = 1);
-/// The width that a row of a list has for its text. `counts`: as in the list's view.
-int textRoom(const Row& row, int rowWidth, const MappingCounts* counts, const QFontMetrics& metrics,
-             const RowLengths& lengths = {});
+/// The width that each line of a row has for its text, in a list whose rows have so many lines.
+/// `counts`: as in the list's view.
+int textRoom(const Row& row, int rowWidth, int lines, const MappingCounts* counts,
+             const LetterWidths& letters, const RowLengths& lengths = {});
 
 /// What a list says below its rows, from `top` of its viewport down.
 void drawHint(QPainter& painter, const QWidget& viewport, int top, const QString& hint);

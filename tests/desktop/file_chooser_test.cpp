@@ -346,4 +346,23 @@ TEST_F(ChooserOnScreen, ForSeveralRefusesAFolderAmongFiles) {
     EXPECT_EQ(shown(), ".");
 }
 
+TEST_F(ChooserOnScreen, ForSeveralRefusesAFolderAlsoBesideANameWithoutItsEnding) {
+    for (const char* text : {"\"bo\" \"Team\"", "\"./Team\" \"bo\""}) {
+        showForSeveral();
+        enter(text);
+        EXPECT_EQ(refusal(), "This is a folder: Team");
+        EXPECT_EQ(shown(), ".");
+        EXPECT_EQ(typed(), text);
+        EXPECT_EQ(taken(), "nothing");
+    }
+}
+
+TEST_F(ChooserOnScreen, ForSeveralEntersAFolderThatIsClickedBehindTypedNames) {
+    showForSeveral();
+    type("\"bo\" \"ann\"");
+    click("Team");
+    pressButton();
+    EXPECT_EQ(shown(), "Team");
+}
+
 }  // namespace orvanta::test

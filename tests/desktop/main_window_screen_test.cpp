@@ -22,6 +22,7 @@
 #include "desktop/message_box.h"
 #include "desktop/platform.h"
 #include "desktop/question_printer.h"
+#include "desktop/reading_strip.h"
 #include "desktop/screen_room.h"
 #include "desktop/skinned_button_view.h"
 #include "letters.h"
@@ -52,8 +53,10 @@ bool isCaptionOfAButton(const QWidget& widget) {
 std::vector<Shown> shownIn(const QWidget& window) {
     std::vector<Shown> shown;
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        // The strip lies in the lists, below their rows.
         const bool isControl = dynamic_cast<ControlArea*>(widget->parentWidget()) &&
-                               !dynamic_cast<const ControlArea*>(widget);
+                               !dynamic_cast<const ControlArea*>(widget) &&
+                               !dynamic_cast<const ReadingStrip*>(widget);
         if (isControl && widget->isVisible() && !widget->size().isEmpty() &&
             !isCaptionOfAButton(*widget))
             shown.push_back({widget->objectName().toStdString(),
@@ -76,6 +79,7 @@ bool isOfAnArea(const QWidget& widget) {
 
 /// The room that a label needs for its text; none for one that cuts its own.
 QSize neededBy(const QLabel& label) {
+    if (dynamic_cast<const ReadingStrip*>(&label)) return {};
     if (dynamic_cast<const WhereaboutsView*>(&label))
         return {0, label.fontMetrics().height() + enlarged(5)};
     if (label.wordWrap()) return {0, label.heightForWidth(label.width())};
@@ -139,25 +143,27 @@ void expectUsable(QDialog& dialog) {
     expectWhole(dialog, dialog.objectName().toStdString(), 4);
 }
 
-template <class Program>
-void walkBrainstorming(WindowBench<Program>& bench) {
+/// Plays the module and has a look at each of its screens, by name.
+template <class Program, class Look>
+void walkBrainstorming(WindowBench<Program>& bench, Look look) {
     bench.start();
     bench.window().show();
-    expectUsable(bench.window(), "home");
+    look(bench, "home");
     bench.click("Brainstorm");
-    expectUsable(bench.window(), "choice");
+    look(bench, "choice");
     bench.openBrainstorm();
     for (const char* panel : {"fraStrength", "fraWeakness", "fraOpportunity", "fraThreats"}) {
         while (!bench.control(panel).isVisible()) bench.click("BNext");
-        expectUsable(bench.window(), panel);
+        look(bench, panel);
     }
 }
 
-void walkAnalyzing(WindowBench<AnalysisBench>& bench) {
+template <class Look>
+void walkAnalyzing(WindowBench<AnalysisBench>& bench, Look look) {
     bench.window().show();
     for (const char* step : {"files", "strengths", "weaknesses", "opportunities", "threats",
                              "opportunity mapping", "threat mapping"}) {
-        expectUsable(bench.window(), step);
+        look(bench, step);
         bench.next(1);
     }
 }
@@ -168,6 +174,9 @@ std::vector<std::pair<std::string, Bounds>> boundsOf(Bench& bench) {
         bounds.emplace_back(control->name(), control->bounds());
     return bounds;
 }
+constexpr auto lookAtIt = [](auto& bench, const std::string& step) {
+    expectUsable(bench.window(), step);
+};
 
 /// A window as small as it gets.
 template <class Bench>
@@ -175,28 +184,129 @@ void shrink(Bench& bench) {
     bench.window().resize(1, 1);
 }
 
+std::string words(int count) {
+    std::string text;
+    for (int i = 0; i < count; ++i) text += "words ";
+    return text;
+}
+
+/// What stands in the lists: so many rows of the same text.
+struct Content {
+    std::string name, text;
+    int rows;
+};
+std::ostream& operator<<(std::ostream& out, const Content& content) { return out << content.name; }
+
+template <class Bench>
+std::vector<StatementListView*> listsShownIn(Bench& bench) {
+    std::vector<StatementListView*> lists;
+    for (QWidget* widget : bench.window().template findChildren<QWidget*>())
+        if (auto* list = dynamic_cast<StatementListView*>(widget); list && list->isVisible())
+            lists.push_back(list);
+    return lists;
+}
+
+/// Puts the content in the lists of the screen, the last row chosen.
+template <class Bench>
+void fill(Bench& bench, const Content& content) {
+    for (const StatementListView* view : listsShownIn(bench)) {
+        StatementList& list = bench.list(view->objectName().toStdString());
+        const int image = list.count() ? list.row(1).image : 1;
+        list.clear();
+        for (int row = 1; row <= content.rows; ++row)
+            list.add({.key = "K" + std::to_string(row), .text = content.text, .image = image});
+        list.select(content.rows);
+    }
+}
+
+QRect placeOf(const QWidget& widget) {
+    return {widget.mapTo(widget.window(), QPoint()), widget.size()};
+}
+
+/// That the last row can be scrolled to above the strip, which lies within the lists.
+void expectRowsClear(StatementListView& list, const std::string& step) {
+    const auto* strip = list.parentWidget()->findChild<QLabel*>(QStringLiteral("readingStrip"));
+    ASSERT_TRUE(strip) << step;
+    const QRect rows = placeOf(*list.viewport());
+    if (strip->isVisible()) {
+        EXPECT_LE(rows.bottom(), placeOf(*strip).top()) << step;
+        EXPECT_GE(rows.height(), 2 * list.sizeHintForRow(0)) << step;
+        EXPECT_EQ(placeOf(*strip).bottom(), placeOf(list).bottom()) << step;
+    }
+    list.scrollToBottom();
+    const QRect last = list.visualRect(list.indexAtPosition(list.model()->rowCount()));
+    EXPECT_TRUE(list.viewport()->rect().contains(last)) << step;
+}
+
+/// The line at the head of a module and the buttons at its foot.
+void expectHeadAndFootClear(const QWidget& window, const std::string& step) {
+    const auto* head = window.findChild<QLabel*>(QStringLiteral("lblWhereabouts"));
+    const auto* quit = window.findChild<QWidget*>(QStringLiteral("imgBtnAQuit"));
+    const auto* foot =
+        quit->isVisible() ? quit : window.findChild<QWidget*>(QStringLiteral("imgBtnBQuit"));
+    if (!head->isVisible()) return;
+    for (const auto& [name, place] : shownIn(window)) {
+        const bool inModule = place.left() >= head->x();
+        const bool atTheFoot = place.bottom() >= placeOf(*foot).top();
+        if (!inModule || name == "lblWhereabouts") continue;
+        EXPECT_GT(place.top(), placeOf(*head).bottom()) << step << ": " << name;
+        EXPECT_TRUE(!atTheFoot || place.top() >= placeOf(*foot).top() - 1) << step << ": " << name;
+    }
+}
+
+class AnyScreenFilled : public testing::TestWithParam<Content> {
+protected:
+    /// What is to be seen once the lists of a screen are filled.
+    static constexpr auto fillAndLook = [](auto& bench, const std::string& step) {
+        QCoreApplication::processEvents();
+        fill(bench, GetParam());
+        expectUsable(bench.window(), step);
+        expectHeadAndFootClear(bench.window(), step);
+        if (GetParam().rows > 0)
+            for (StatementListView* list : listsShownIn(bench)) expectRowsClear(*list, step);
+    };
+};
+INSTANTIATE_TEST_SUITE_P(With, AnyScreenFilled,
+                         testing::Values(Content{"Nothing", "", 0}, Content{"OneRow", "Fleet", 1},
+                                         Content{"ManyRows", "A statement among many", 500},
+                                         Content{"LongRows", words(40), 20},
+                                         Content{"UnbrokenRows", std::string(255, 'W'), 20}),
+                         [](const auto& content) { return content.param.name; });
+
 }  // namespace
+
+TEST_P(AnyScreenFilled, KeepsHeadFootAndRowsOfBrainstormingClearInTheSmallestWindow) {
+    WindowBench bench;
+    shrink(bench);
+    walkBrainstorming(bench, fillAndLook);
+}
+
+TEST_P(AnyScreenFilled, KeepsHeadFootAndRowsOfAnalyzingClearInTheSmallestWindow) {
+    WindowBench<AnalysisBench> bench;
+    shrink(bench);
+    walkAnalyzing(bench, fillAndLook);
+}
 
 TEST(AnyScreen, ShowsEveryControlOfBrainstorming) {
     WindowBench bench;
-    walkBrainstorming(bench);
+    walkBrainstorming(bench, lookAtIt);
 }
 
 TEST(AnyScreen, ShowsEveryControlOfAnalyzing) {
     WindowBench<AnalysisBench> bench;
-    walkAnalyzing(bench);
+    walkAnalyzing(bench, lookAtIt);
 }
 
 TEST(AnyScreen, ShowsEveryControlOfBrainstormingInTheSmallestWindow) {
     WindowBench bench;
     shrink(bench);
-    walkBrainstorming(bench);
+    walkBrainstorming(bench, lookAtIt);
 }
 
 TEST(AnyScreen, ShowsEveryControlOfAnalyzingInTheSmallestWindow) {
     WindowBench<AnalysisBench> bench;
     shrink(bench);
-    walkAnalyzing(bench);
+    walkAnalyzing(bench, lookAtIt);
 }
 
 TEST(AnyScreen, ShowsEveryControlOfTheDialogs) {

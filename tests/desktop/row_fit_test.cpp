@@ -67,12 +67,23 @@ TEST_F(RowsOfAList, TakeTheRoomOfTheCountsIntoAccount) {
     add("Shops deliver on the same day", 3);
     const MappingCounts counts(list);
     RowFit counted(list, &counts);
-    const int width = textRoom(list.row(1), 0, nullptr, metrics);
-    const int fitting = static_cast<int>(LetterWidths(metrics).of(list.row(1).text)) + 2 - width;
+    const LetterWidths letters(metrics);
+    const int width = textRoom(list.row(1), 0, 1, nullptr, letters);
+    const int fitting = static_cast<int>(letters.of(list.row(1).text)) + 2 - width;
     measure(fitting);
     counted.measure(metrics, fitting);
     EXPECT_EQ(fit.linesPerRow(), 1);
     EXPECT_EQ(counted.linesPerRow(), 2);
+}
+
+TEST_F(RowsOfAList, OfTwoLinesHaveMoreRoomBesideCountsThatStandBelowEachOther) {
+    add("Shops deliver on the same day", 3);
+    const MappingCounts counts(list);
+    const LetterWidths letters(metrics);
+    const auto roomOf = [&](int lines) {
+        return textRoom(list.row(1), 300, lines, &counts, letters);
+    };
+    EXPECT_GT(roomOf(2), roomOf(1) + 16);
 }
 
 }  // namespace

@@ -134,6 +134,16 @@ TEST_P(QuickDrag, TakesAMappedRowBack) {
     EXPECT_EQ(bench.list("lvOpportunity").count(), mapped - 1);
 }
 
+TEST_P(QuickDrag, RanksTheRowThatItTook) {
+    bench.click("ABack");
+    bench.click("ABack");
+    QCoreApplication::processEvents();
+    const Texts before = bench.texts("lvAOpportunity");
+    ASSERT_EQ(before.size(), 3U);
+    drag(rowOf("lvAOpportunity", 1).center(), rowOf("lvAOpportunity", 3).center(), GetParam());
+    EXPECT_EQ(bench.texts("lvAOpportunity"), (Texts{before[1], before[2], before[0]}));
+}
+
 TEST_F(RealDrag, IsCalledOffWithEscape) {
     Hand hand;
     const QPoint from = rowOf("lvStrengthOp", 2).center(), to = rowOf("lvOpportunity", 1).center();

@@ -26,6 +26,20 @@ int shownSelection(const QListView& view) {
     return chosen.isEmpty() ? 0 : chosen.front().row() + 1;
 }
 
+/// The one on the same screen.
+ReadingStrip& stripOf(const QWidget& list) {
+    return dynamic_cast<ReadingStrip&>(*list.parentWidget()->findChild<QWidget*>("readingStrip"));
+}
+
+/// In the window.
+QRect placeOf(const QWidget& widget) {
+    return {widget.mapTo(widget.window(), QPoint()), widget.size()};
+}
+
+void expectRowsAbove(const StatementListView& list, const ReadingStrip& strip) {
+    EXPECT_LE(placeOf(*list.viewport()).bottom(), placeOf(strip).top());
+}
+
 class StatementListViewTest : public testing::Test {
 protected:
     StatementListViewTest() {
@@ -137,7 +151,7 @@ TEST_F(StatementListViewTest, ShowsWholeRowsAboveTheChosenStatement) {
 }
 
 TEST_F(StatementListViewTest, ShowsTheChosenStatementWholeWhereRowsCutOne) {
-    auto& whole = *view().findChild<QLabel*>({}, Qt::FindDirectChildrenOnly);
+    ReadingStrip& whole = stripOf(view());
     EXPECT_TRUE(whole.isHidden());
     std::string words;
     for (int i = 0; i < 60; ++i) words += "word ";
@@ -148,10 +162,17 @@ TEST_F(StatementListViewTest, ShowsTheChosenStatementWholeWhereRowsCutOne) {
     list().select(list().count());
     EXPECT_EQ(toCp1252(whole.text()), list().selectedRow()->text);
     EXPECT_LE(whole.heightForWidth(whole.width()), whole.height());
-    EXPECT_TRUE(view().viewport()->geometry().intersected(whole.geometry()).isEmpty());
+    expectRowsAbove(view(), whole);
     list().remove(list().count());
     QCoreApplication::processEvents();
     EXPECT_TRUE(whole.isHidden()) << "once no row is cut any longer";
+}
+
+TEST_F(StatementListViewTest, SaysWhereToReadAStatementWholeAsLongAsNoneIsChosen) {
+    bench.enter("txtStrength", {std::string(255, 'W')});
+    list().select(0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(stripOf(view()).text(), "Choose a row to read it whole.");
 }
 
 TEST_F(StatementListViewTest, ChoosesItsFirstRowWithTheFirstKey) {
@@ -161,6 +182,45 @@ TEST_F(StatementListViewTest, ChoosesItsFirstRowWithTheFirstKey) {
     EXPECT_EQ(list().selected(), 1);
     QTest::keyClick(&view(), Qt::Key_Down);
     EXPECT_EQ(list().selected(), 2);
+}
+
+/// The lists of a mapping screen, side by side, with a long statement in one of them.
+class ListsSideBySide : public testing::Test {
+protected:
+    ListsSideBySide() {
+        bench.next(5);
+        bench.window().resize(1, 1);
+        bench.window().show();
+        QApplication::setActiveWindow(&bench.window());
+        longest.resize(255, 'n');
+        for (std::size_t i = 5; i < longest.size(); i += 6) longest[i] = ' ';
+        bench.list("lvStrengthOp").add({.key = "S9", .text = longest, .image = 1});
+        bench.list("lvWeaknessOp").select(1);
+        bench.list("lvStrengthOp").select(bench.list("lvStrengthOp").count());
+        QCoreApplication::processEvents();
+    }
+
+    StatementListView& view(const char* name) { return bench.widget<StatementListView>(name); }
+
+    WindowBench<AnalysisBench> bench;
+    std::string longest;
+};
+
+TEST_F(ListsSideBySide, ShowTheLongestStatementWholeInTheSmallestWindow) {
+    const ReadingStrip& strip = stripOf(view("lvStrengthOp"));
+    ASSERT_TRUE(strip.isVisible());
+    EXPECT_EQ(toCp1252(strip.text()), longest);
+    EXPECT_LE(strip.heightForWidth(strip.width()), strip.height());
+    for (const char* name : {"lvStrengthOp", "lvOpportunity", "lvWeaknessOp"})
+        expectRowsAbove(view(name), strip);
+}
+
+TEST_F(ListsSideBySide, ShowWhatIsChosenInTheOneThatHasTheKeyboard) {
+    const ReadingStrip& strip = stripOf(view("lvStrengthOp"));
+    view("lvWeaknessOp").setFocus();
+    EXPECT_EQ(toCp1252(strip.text()), bench.list("lvWeaknessOp").selectedRow()->text);
+    bench.list("lvStrengthOp").select(1);
+    EXPECT_EQ(toCp1252(strip.text()), bench.list("lvWeaknessOp").selectedRow()->text);
 }
 
 TEST(MappingScreenLists, OpenAtTheirFirstRowWhateverCameBefore) {
