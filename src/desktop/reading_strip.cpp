@@ -4,6 +4,7 @@
 #include <QTextLayout>
 #include <algorithm>
 
+#include "desktop/enlargement.h"
 #include "desktop/statement_list_view.h"
 #include "desktop/theme.h"
 
@@ -11,14 +12,16 @@ namespace orvanta::desktop {
 
 namespace {
 
-constexpr int textMargin = 8, frame = 1;
+constexpr int frame = 1;
+
+int textMargin() { return enlarged(8); }
 
 }  // namespace
 
 ReadingStrip::ReadingStrip(QWidget* screen) : QLabel(screen) {
     setObjectName(QStringLiteral("readingStrip"));
     hide();
-    setMargin(textMargin);
+    setMargin(textMargin());
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -49,9 +52,9 @@ int ReadingStrip::neededHeight(const QRect& lists) const {
     constexpr double mostOfTheLists = 0.45;
     int lines = 0;
     for (const StatementListView* list : m_lists)
-        lines = std::max(lines, list->linesToRead(lists.width() - 2 * (textMargin + frame)));
+        lines = std::max(lines, list->linesToRead(lists.width() - 2 * (textMargin() + frame)));
     if (lines == 0) return 0;
-    return std::min(lines * fontMetrics().lineSpacing() + 2 * textMargin,
+    return std::min(lines * fontMetrics().lineSpacing() + 2 * textMargin(),
                     static_cast<int>(lists.height() * mostOfTheLists));
 }
 
@@ -86,7 +89,8 @@ void ReadingStrip::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(palette().color(QPalette::Mid));
     painter.setBrush(theme::sideGround);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), enlarged(3),
+                            enlarged(3));
     painter.setPen(palette().color(m_isHint ? QPalette::PlaceholderText : QPalette::WindowText));
     QTextLayout layout(text(), font());
     QTextOption option;
@@ -95,11 +99,11 @@ void ReadingStrip::paintEvent(QPaintEvent*) {
     layout.beginLayout();
     double top = 0;
     for (QTextLine line; (line = layout.createLine()).isValid(); top += line.height()) {
-        line.setLineWidth(width() - 2 * (textMargin + frame));
+        line.setLineWidth(width() - 2 * (textMargin() + frame));
         line.setPosition({0, top});
     }
     layout.endLayout();
-    layout.draw(&painter, QPointF(textMargin + frame, textMargin));
+    layout.draw(&painter, QPointF(textMargin() + frame, textMargin()));
 }
 
 }  // namespace orvanta::desktop

@@ -139,6 +139,10 @@ void StatementListView::layOutRows() {
 }
 
 void StatementListView::keepFree(int height) {
+    // Above it whole rows only: one that was cut would look covered.
+    const int above = contentsRect().height() - height,
+              rows = rowHeight(fontMetrics(), linesPerRow());
+    if (height > 0 && above > rows) height += above % rows;
     if (viewportMargins().bottom() != height) setViewportMargins(0, 0, 0, height);
 }
 

@@ -1,6 +1,8 @@
 #include "usual_session.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QTimer>
 #include <tuple>
 
@@ -108,6 +110,9 @@ private:
         report.txtEdit.setText("docs/My SWOT/Pedal Post.aze");
         ReportDialog reportDialog(m_bench.program(), report, window);
         takeDialog(reportDialog, "report-dialog");
+        takeFormats(reportDialog);
+        report.OKButton.setEnabled(false);
+        takeDialog(reportDialog, "report-dialog-busy");
         FrmAbout about;
         AboutDialog aboutDialog(m_bench.program(), about, window);
         takeDialog(aboutDialog, "about");
@@ -119,6 +124,15 @@ private:
         MessageBox refusal({.text = "Please enter strength.", .icon = MessageIcon::Stop}, window);
         takeDialog(refusal, "message-stop");
         takeFileDialog({"Dana Reyes.bsm", "Lee Park.bsm", "Kim Alder.bsm"});
+    }
+
+    void takeFormats(QWidget& dialog) {
+        dialog.show();
+        auto& formats = *dialog.findChild<QComboBox*>();
+        formats.showPopup();
+        m_album.takeWith(dialog, *formats.view()->window(), QStringLiteral("report-formats"));
+        formats.hidePopup();
+        dialog.hide();
     }
 
     void takePreview() {
