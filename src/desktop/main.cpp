@@ -38,12 +38,19 @@ QString ownFolder() {
     return dataPath();
 }
 
-/// The program's own folder where it can be written and nobody else uses it, else one of the
+/// What a package installs for all users says so in a file beside the program. Nobody's sessions
+/// belong there then, not even root's, who may write anywhere.
+bool takesSessions(const QString& programFolder) {
+    return !QFileInfo::exists(programFolder + "/system-wide") &&
+           QFileInfo(programFolder).isWritable();
+}
+
+/// The program's own folder where that takes sessions and nobody else uses it, else one of the
 /// user's. None where another program of this user's has it; that one comes to the front.
 std::optional<QString> scratchFolder(InstanceLock& lock) {
     using Holder = InstanceLock::Holder;
     QString folder = QCoreApplication::applicationDirPath();
-    if (!QFileInfo(folder).isWritable()) folder = ownFolder();
+    if (!takesSessions(folder)) folder = ownFolder();
     Holder holder = lock.take(folder);
     if (holder == Holder::OtherProgram) holder = lock.take(folder = ownFolder());
     if (holder != Holder::OwnProgram) return folder;

@@ -5,6 +5,7 @@
 Needs no display. Each program runs in a folder and a home of its own.
 """
 
+import atexit
 import os
 import pathlib
 import shutil
@@ -62,7 +63,10 @@ class Place:
         environment = dict(os.environ, HOME=str(home), XDG_CONFIG_HOME=str(home),
                            XDG_DATA_HOME=str(home), XDG_RUNTIME_DIR=str(home),
                            PULSE_SERVER=f"unix:{home}/no-server", QT_QPA_PLATFORM="offscreen")
-        return subprocess.Popen([self.binary, *arguments], env=environment, user=user, group=user)
+        process = subprocess.Popen([self.binary, *arguments], env=environment, user=user,
+                                   group=user)
+        atexit.register(process.kill)  # a claim that fails leaves it running otherwise
+        return process
 
     def is_locked_by(self, process, folder=None):
         lock = (folder or self.folder) / "orvanta.lock"
@@ -161,6 +165,21 @@ def another_user_has_a_folder_of_their_own(binary, data):
     expect(not (own / "brainstorm.tmp").exists(), "the other user gets no session of the first")
 
 
+def a_system_wide_program_writes_nothing_beside_itself(binary, data):
+    """Whoever starts it, and though the folder takes files."""
+    place = Place(binary, data)
+    (place.folder / "system-wide").touch()
+    before = sorted(place.folder.rglob("*"))
+    process = place.start()
+    own = place.root / "home" / "Orvanta" / "Orvanta"
+    wait_for(lambda: place.is_locked_by(process, own), "the start")
+    wait_for(lambda: (own / "System").is_dir(), "the folder of the report")
+    process.send_signal(signal.SIGTERM)
+    ends_well(process, "a program that is there for all")
+    expect(sorted(place.folder.rglob("*")) == before, "its folder holds what was installed")
+    expect(place.copy.read_text() == LEFT_BEHIND, "no session is taken from there")
+
+
 def arguments_are_not_read(binary, data):
     for arguments in (("-platform", "nonsense"), ("--version",), ("nonsense.bsm",)):
         place = Place(binary, data)
@@ -190,6 +209,7 @@ def a_start_without_a_display_says_so(binary, data):
 if __name__ == "__main__":
     for claim in (signals_keep_the_session, arguments_are_not_read,
                   a_second_start_leaves_the_first_alone, another_user_has_a_folder_of_their_own,
+                  a_system_wide_program_writes_nothing_beside_itself,
                   a_start_removes_old_leftovers, a_fresh_account_gets_its_folders,
                   a_start_without_a_display_says_so):
         claim(*sys.argv[1:3])
