@@ -4,9 +4,9 @@
 # packages.
 #   package_test.sh PACKAGE.deb
 set -euo pipefail
+package=$(realpath -- "$1")
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 
-package=$(realpath -- "$1")
 root=$(mktemp -d)
 chmod 755 "$root"
 trap 'rm -rf --one-file-system -- "$root"' EXIT

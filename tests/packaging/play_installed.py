@@ -16,11 +16,18 @@ import accessibility_test as bus
 from accessibility_test import Atspi, acknowledge, act, children, expect, has, shown, wait_for
 from names_test import choose
 
-KEY_DOWN, KEY_RETURN = 0xFF54, 0xFF0D  # X's symbols
+KEY_UP, KEY_DOWN, KEY_RETURN = 0xFF52, 0xFF54, 0xFF0D  # X's symbols
 STATEMENTS = {"Strength": "Own fleet", "Weakness": "No service at night",
               "Opportunity": "Shops deliver at once", "Threat": "Rain"}
 SEVERAL = {"Strength": "Strengths", "Weakness": "Weaknesses", "Opportunity": "Opportunities",
            "Threat": "Threats"}
+
+
+def choose_by_keys(way):
+    """In what has popped up, and so takes all keys."""
+    time.sleep(1)  # nothing on the bus says that it takes them by now
+    for key in (way, KEY_RETURN):
+        Atspi.generate_keyboard_event(key, None, Atspi.KeySynthType.SYM)
 
 
 class Installed(bus.Program):
@@ -43,9 +50,7 @@ class Installed(bus.Program):
         is no part of the window."""
         place = Atspi.Component.get_extents(row, Atspi.CoordType.SCREEN)
         Atspi.generate_mouse_event(place.x + place.width // 2, place.y + place.height // 2, "b3c")
-        time.sleep(1)  # nothing on the bus says that the menu takes keys by now
-        for key in (KEY_DOWN, KEY_RETURN):
-            Atspi.generate_keyboard_event(key, None, Atspi.KeySynthType.SYM)
+        choose_by_keys(KEY_DOWN)
 
 
 def brainstorm(program):
@@ -95,7 +100,8 @@ def choose_format(program, name):
                                      if n.get_role_name() == "combo box"), None), "the formats")
     if formats.get_name() != name:
         act(formats, "ShowMenu")
-        act(program.find("list item", name), "Toggle")
+        program.find("list item", name)
+        choose_by_keys(KEY_UP)
         wait_for(lambda: formats.get_name() == name, f"the choice of {name}")
 
 
