@@ -5,7 +5,9 @@
 set -euo pipefail
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 
-scripts/install.sh test
+presets=("$@")
+((${#presets[@]})) || presets=(headless dev asan)
+scripts/install.sh "${presets[@]}"
 if command -v ccache >/dev/null; then
     # The presets share what they compile alike.
     export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
@@ -15,8 +17,6 @@ export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1:detect_stack_use_after_return
 export LSAN_OPTIONS=${LSAN_OPTIONS:-suppressions=$PWD/tests/leaks.supp:print_suppressions=0}
 export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1}
 
-presets=("$@")
-((${#presets[@]})) || presets=(headless dev asan)
 for preset in "${presets[@]}"; do
     echo "== $preset: configure"
     cmake --preset "$preset"

@@ -11,6 +11,9 @@
 
 namespace orvanta {
 
+inline constexpr std::string_view brainstormTemporaryName = "brainstorm.tmp",
+                                  analyzeTemporaryName = "analyze.tmp";
+
 /// One run of the program.
 struct Program {
     /// `appPath`: the folder of the program file. `scratchPath`: where the temporary files and
@@ -25,9 +28,11 @@ struct Program {
     FrmMain frmMain;
 
     std::string brainstormTemporaryFile() const {
-        return scratchPath + pathSeparator + "brainstorm.tmp";
+        return scratchPath + pathSeparator + std::string(brainstormTemporaryName);
     }
-    std::string analyzeTemporaryFile() const { return scratchPath + pathSeparator + "analyze.tmp"; }
+    std::string analyzeTemporaryFile() const {
+        return scratchPath + pathSeparator + std::string(analyzeTemporaryName);
+    }
 };
 
 /// The next key of a section, "S", "W", "O" or "T": its letter and a number from 1. Empty for

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cassert>
 
+#include "core/session_state.h"
 #include "desktop/conversions.h"
 #include "desktop/enlargement.h"
 #include "desktop/file_pictures.h"
@@ -43,10 +44,12 @@ QString startFolder(const std::string& initialPath) {
 
 FileChooser::FileChooser(const FileDialogRequest& request, FileRules rules, QWidget* owner)
     : QFileDialog(owner, {}, startFolder(request.initialPath), filterFrom(request.filter)),
-      m_place{.mode = request.mode,
-              .filter = request.filter,
-              .folder = {},
-              .home = QDir::homePath().toStdString()},
+      m_place{
+          .mode = request.mode,
+          .filter = request.filter,
+          .folder = {},
+          .home = QDir::homePath().toStdString(),
+          .ownNames = {std::string(brainstormTemporaryName), std::string(analyzeTemporaryName)}},
       m_rules(rules) {
     setOption(DontUseNativeDialog);
     setOption(DontConfirmOverwrite);

@@ -1,9 +1,12 @@
 #include "desktop/instance_lock.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 
-#include <QFile>
+#include <QByteArray>
+#include <QFileInfo>
+#include <QThread>
 #include <cerrno>
 #include <csignal>
 
@@ -13,30 +16,51 @@ namespace orvanta::desktop {
 
 namespace {
 
-struct flock wholeFile() {
-    struct flock lock {};
-    lock.l_type = F_WRLCK;
-    lock.l_whence = SEEK_SET;
-    return lock;
+/// The holder's process is told in the file.
+void writeProcess(int file) {
+    const QByteArray process = QByteArray::number(::getpid());
+    if (::ftruncate(file, 0) == 0) (void)!::pwrite(file, process.constData(), process.size(), 0);
+}
+
+int processIn(int file) {
+    char digits[16]{};
+    return ::pread(file, digits, sizeof digits - 1, 0) > 0 ? QByteArray(digits).toInt() : 0;
+}
+
+/// True for a program of this user's that knows the signal; any other would be ended by it.
+bool canBeRaised(int process) {
+    if (process <= 0) return false;
+    const QFileInfo told(QStringLiteral("/proc/%1").arg(process));
+    const QFileInfo program(QFileInfo(told.filePath() + QStringLiteral("/exe")).symLinkTarget());
+    return told.ownerId() == ::geteuid() &&
+           program.fileName().startsWith(QStringLiteral("orvanta"));
+}
+
+/// Waits a moment for a holder that has just taken the lock to say who it is.
+int holderToRaise(int file) {
+    constexpr int tries = 50, milliseconds = 10;
+    for (int i = 0; i < tries; ++i, QThread::msleep(milliseconds))
+        if (const int process = processIn(file); canBeRaised(process)) return process;
+    return 0;
 }
 
 }  // namespace
 
 InstanceLock::~InstanceLock() { release(); }
 
-InstanceLock::Holder InstanceLock::take(const QString& folder) {
+InstanceLock::Holder InstanceLock::take(const std::string& folder) {
     release();
-    const QByteArray name = QFile::encodeName(folder + QStringLiteral("/orvanta.lock"));
     // In a folder that several users share the file is the first one's, and closed to the others.
-    m_file = ::open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-    if (m_file < 0) return errno == EACCES ? Holder::OtherProgram : Holder::ThisProgram;
-    struct flock lock = wholeFile();
-    if (::fcntl(m_file, F_SETLK, &lock) == 0) return Holder::ThisProgram;
-    lock = wholeFile();
-    if (::fcntl(m_file, F_GETLK, &lock) != 0 || lock.l_type == F_UNLCK || lock.l_pid <= 0)
+    m_file =
+        ::open((folder + "/orvanta.lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    if (m_file < 0) return errno == EACCES ? Holder::Nobody : Holder::ThisProgram;
+    if (::flock(m_file, LOCK_EX | LOCK_NB) == 0) {
+        writeProcess(m_file);
         return Holder::ThisProgram;
-    m_holder = lock.l_pid;
-    return ::kill(m_holder, 0) == 0 ? Holder::OwnProgram : Holder::OtherProgram;
+    }
+    if (errno != EWOULDBLOCK) return Holder::ThisProgram;
+    m_holder = holderToRaise(m_file);
+    return m_holder ? Holder::OwnProgram : Holder::OtherProgram;
 }
 
 void InstanceLock::raiseHolder() const {

@@ -1,17 +1,19 @@
 #pragma once
 
-#include <QString>
+#include <string>
 
 namespace orvanta::desktop {
 
 /// The right to use a folder's temporary files, which one running program has at a time. The
-/// system takes it back when the program ends, however it ends.
+/// system takes it back when the program ends, however it ends. It belongs to the open file: a file
+/// dialog that opens and closes the lock's file, as it does to tell the types of files, keeps it.
 class InstanceLock {
 public:
     enum class Holder {
         ThisProgram,   // also where the folder takes no lock: better two programs than none
         OwnProgram,    // another one of this user's, which can be raised
-        OtherProgram,  // one that this user can't reach
+        OtherProgram,  // one that can't be raised: another user's, or one that can't be seen
+        Nobody,        // the file is another user's, and closed to this one
     };
 
     InstanceLock() = default;
@@ -19,8 +21,9 @@ public:
     InstanceLock(const InstanceLock&) = delete;
     InstanceLock& operator=(const InstanceLock&) = delete;
 
-    /// Takes the lock of a folder, in place of one held before, and tells who has it now.
-    Holder take(const QString& folder);
+    /// Takes the lock of a folder (its name as the system has it), in place of one held before,
+    /// and tells who has it now.
+    Holder take(const std::string& folder);
 
     /// Asks the program that has the lock to come to the front.
     void raiseHolder() const;
@@ -29,7 +32,7 @@ private:
     void release();
 
     int m_file = -1;
-    int m_holder = 0;  // the process that has it; 0 for this one
+    int m_holder = 0;  // the process of OwnProgram
 };
 
 }  // namespace orvanta::desktop

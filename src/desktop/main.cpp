@@ -1,12 +1,16 @@
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <functional>
 #include <optional>
+#include <string>
+#include <system_error>
 
 #include "app/rescued_saves.h"
 #include "app/startup.h"
@@ -14,13 +18,14 @@
 #include "desktop/auto_save_timer.h"
 #include "desktop/conversions.h"
 #include "desktop/display_needed.h"
-#include "desktop/instance_lock.h"
 #include "desktop/main_window.h"
 #include "desktop/platform.h"
+#include "desktop/scratch_folder.h"
 #include "desktop/system_signals.h"
 #include "desktop/theme.h"
 #include "sessionfiles/saving.h"
 #include "view/file_disk.h"
+#include "view/path_text.h"
 
 namespace {
 
@@ -33,28 +38,29 @@ QString dataPath() {
 
 QString rescuePath() { return QDir(dataPath()).filePath("rescue"); }
 
-QString ownFolder() {
-    QDir().mkpath(dataPath());
-    return dataPath();
+/// The folder of the program file, as the system names it: the toolkit would lose bytes of a name
+/// that is not of its code.
+std::string programFolder() {
+    std::error_code failure;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", failure);
+    return failure ? QCoreApplication::applicationDirPath().toStdString()
+                   : program.parent_path().string();
 }
 
-/// The program's own folder where it can be written and nobody else uses it, else one of the
-/// user's. None where another program of this user's has it; that one comes to the front.
-std::optional<QString> scratchFolder(InstanceLock& lock) {
-    using Holder = InstanceLock::Holder;
-    QString folder = QCoreApplication::applicationDirPath();
-    if (!QFileInfo(folder).isWritable()) folder = ownFolder();
-    Holder holder = lock.take(folder);
-    if (holder == Holder::OtherProgram) holder = lock.take(folder = ownFolder());
-    if (holder != Holder::OwnProgram) return folder;
-    lock.raiseHolder();
-    return std::nullopt;
+/// A settings file that no memory can hold would end each start; it goes aside.
+void setUnreadableSettingsAside() {
+    constexpr qint64 most = 1 << 20;
+    const QString settings =
+        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    const QString file = QDir(settings).filePath("Orvanta/Orvanta.ini");
+    if (QFileInfo(file).size() > most) QFile::rename(file, file + ".damaged");
 }
 
 /// Programs that were killed while they wrote have left these, in folders of the program's own.
-void removeLeftovers(const QString& scratch) {
-    for (const QString& folder : {scratch, scratch + "/System", dataPath(), rescuePath()})
-        orvanta::FileDisk::removeLeftovers(toPath(folder));
+void removeLeftovers(const std::string& scratch) {
+    const std::string own = dataPath().toStdString(), rescue = rescuePath().toStdString();
+    for (const std::string& folder : {scratch, scratch + "/System", own, rescue})
+        orvanta::FileDisk::removeLeftovers(orvanta::pathFromNative(folder));
 }
 
 void bringToFront(QWidget& window) {
@@ -79,6 +85,7 @@ int main(int argc, char** argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("orvanta"));
     QGuiApplication::setQuitOnLastWindowClosed(false);  // the splash goes before the window comes
     QSettings::setDefaultFormat(QSettings::IniFormat);
+    setUnreadableSettingsAside();
     applyTheme(application);
 
     std::function<void()> end, raise;
@@ -90,8 +97,8 @@ int main(int argc, char** argv) {
         [&raise] {
             if (raise) raise();
         });
-    InstanceLock lock;
-    const auto scratch = scratchFolder(lock);
+    ScratchLocks locks;
+    const auto scratch = scratchFolder(programFolder(), dataPath().toStdString(), locks);
     if (!scratch) return EXIT_SUCCESS;
     removeLeftovers(*scratch);
 
@@ -100,8 +107,7 @@ int main(int argc, char** argv) {
     RescuedSaves rescuedSaves(rescue);
     DesktopPlatform desktop(disk);
     desktop.platform().failedSaves = &rescuedSaves;
-    Program program(desktop.platform(), toPath(QCoreApplication::applicationDirPath()),
-                    toPath(*scratch));
+    Program program(desktop.platform(), pathFromNative(programFolder()), pathFromNative(*scratch));
     MainWindow window(program);
     window.tellOf(rescuedSaves);
     const AutoSaveTimer autoSave(program);

@@ -1,5 +1,6 @@
 #include "view/file_choice.h"
 
+#include <algorithm>
 #include <filesystem>
 
 #include "view/file_dialog.h"
@@ -20,6 +21,7 @@ constexpr std::string_view noFolder = "This folder does not exist:",
                            lockedFile = "You may not change this file:",
                            folderOfThatName = "There is a folder of this name:",
                            noPlainFile = "No file can be saved under this name:",
+                           ownFile = "The program keeps files of its own under this name:",
                            noFileButFolder = "This is a folder:",
                            unusable = "This name can't be used:";
 
@@ -101,6 +103,10 @@ FileChoice toSave(const std::string& path) {
     }
 }
 
+bool isOwnName(const FileDialogPlace& place, const std::string& path) {
+    return std::ranges::find(place.ownNames, native::withoutFolder(path)) != place.ownNames.end();
+}
+
 FileChoice toRead(const std::string& path) {
     try {
         native::File::toRead(path, native::Links::Follow).size();
@@ -126,7 +132,10 @@ FileChoice judged(const FileDialogPlace& place, const std::string& typed, const 
     if (kind == FileKind::Folder) return toEnter(path);
     if (namesAFolder(typed)) return refusal(noFolder, path);
     if (place.mode == FileDialogMode::Open) return toOpen(path, endingIn(place.filter));
-    return toSave(withFilterEnding(path, place.filter));
+    const std::string saved = withFilterEnding(path, place.filter);
+    if (isOwnName(place, saved) || isOwnName(place, native::targetOf(saved)))
+        return refusal(ownFile, saved);
+    return toSave(saved);
 }
 
 /// Where a name ends that begins behind a quote: at a quote that ends the text or has another one

@@ -38,7 +38,8 @@ void tryToRemove(const std::string& name) {
 
 void removeLeftovers(const std::string& folder) {
     for (const std::string& name : namesIn(folder)) {
-        const std::string path = folder + pathSeparator + name;
+        std::string path = folder;
+        path.append(1, pathSeparator).append(name);
         if (isPassing(name) && isOwnPlainFile(path, std::chrono::hours(24))) tryToRemove(path);
     }
 }

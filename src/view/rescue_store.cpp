@@ -57,7 +57,7 @@ std::string RescueStore::keep(std::string_view name, std::string_view bytes) con
     copy.write(bytes);
     std::string path = freePath(native::withoutFolder(name));
     copy.takePlace(path);
-    dropOldCopies();
+    dropOldCopies(path);
     return path;
 }
 
@@ -72,12 +72,15 @@ std::string RescueStore::freePath(std::string_view name) const {
     }
 }
 
-void RescueStore::dropOldCopies() const {
+void RescueStore::dropOldCopies(const std::string& newest) const {
     std::vector<std::string> copies = native::namesIn(m_folder);
-    std::erase_if(copies, [](const std::string& name) { return !isCopy(name); });
-    if (copies.size() <= copiesKept) return;
+    // The one just made stays, though a clock that was ahead may have named others after it.
+    std::erase_if(copies,
+                  [&](const std::string& name) { return !isCopy(name) || pathOf(name) == newest; });
+    constexpr std::size_t others = copiesKept - 1;
+    if (copies.size() <= others) return;
     std::ranges::sort(copies, std::greater());
-    copies.erase(copies.begin(), copies.begin() + copiesKept);
+    copies.erase(copies.begin(), copies.begin() + others);
     for (const std::string& name : copies) native::tryToRemove(pathOf(name));
 }
 

@@ -28,7 +28,7 @@ public:
 private:
     std::string pathOf(const std::string& name) const;
     std::string freePath(std::string_view name) const;
-    void dropOldCopies() const;
+    void dropOldCopies(const std::string& newest) const;
 
     std::string m_folder;
     Clock m_clock;

@@ -5,6 +5,7 @@
 Needs no display. Each program runs in a folder and a home of its own.
 """
 
+import atexit
 import os
 import pathlib
 import shutil
@@ -62,15 +63,19 @@ class Place:
         environment = dict(os.environ, HOME=str(home), XDG_CONFIG_HOME=str(home),
                            XDG_DATA_HOME=str(home), XDG_RUNTIME_DIR=str(home),
                            PULSE_SERVER=f"unix:{home}/no-server", QT_QPA_PLATFORM="offscreen")
-        return subprocess.Popen([self.binary, *arguments], env=environment, user=user, group=user)
+        process = subprocess.Popen([self.binary, *arguments], env=environment, user=user,
+                                   group=user)
+        atexit.register(process.kill)  # a claim that fails leaves it running otherwise
+        return process
 
     def is_locked_by(self, process, folder=None):
-        lock = (folder or self.folder) / "orvanta.lock"
-        held = f"/proc/{process.pid}/fd"
         try:
-            return any(os.path.realpath(f"{held}/{fd}") == str(lock) for fd in os.listdir(held))
-        except OSError:  # a descriptor that went, or the program has ended
+            inode = ((folder or self.folder) / "orvanta.lock").stat().st_ino
+        except OSError:  # not yet there
             return False
+        locks = [line.split() for line in pathlib.Path("/proc/locks").read_text().splitlines()]
+        return any(lock[4] == str(process.pid) and lock[5].endswith(f":{inode}")
+                   for lock in locks if len(lock) > 5)
 
 
 def ends_well(process, what):
@@ -161,6 +166,59 @@ def another_user_has_a_folder_of_their_own(binary, data):
     expect(not (own / "brainstorm.tmp").exists(), "the other user gets no session of the first")
 
 
+def a_session_in_the_users_own_folder_is_found(binary, data):
+    place = Place(binary, data)
+    own = place.root / "home" / "Orvanta" / "Orvanta"
+    own.mkdir(parents=True)
+    place.copy.rename(own / "brainstorm.tmp")
+    process = place.start()
+    wait_for(lambda: place.is_locked_by(process, own), "the start")
+    ends_well(place.start(), "the second start")
+    process.send_signal(signal.SIGTERM)
+    ends_well(process, "the first start")
+    expect((own / "brainstorm.tmp").read_bytes().decode() == COPIED, "the session is back")
+
+
+def a_folder_may_have_a_name_that_is_no_text(binary, data):
+    place = Place(binary, data)
+    odd = os.fsencode(place.root) + b"/caf\xe9"
+    os.rename(place.folder, odd)
+    place.folder, place.binary = pathlib.Path(os.fsdecode(odd)), odd + b"/orvanta"
+    process = place.start()
+    wait_for(lambda: place.is_locked_by(process), "the start")
+    process.send_signal(signal.SIGTERM)
+    ends_well(process, "a program in a folder whose name is no text")
+    expect(pathlib.Path(place.folder, "brainstorm.tmp").read_bytes().decode() == COPIED,
+           "its session is back")
+
+
+def settings_that_no_memory_can_hold_go_aside(binary, data):
+    place = Place(binary, data)
+    settings = place.root / "home" / "Orvanta" / "Orvanta.ini"
+    settings.parent.mkdir(parents=True)
+    with settings.open("wb") as file:
+        file.truncate(200 << 30)
+    process = place.start()
+    wait_for(lambda: process.poll() is not None or place.is_locked_by(process), "the start")
+    process.send_signal(signal.SIGTERM)
+    ends_well(process, "a start with damaged settings")
+
+
+def a_system_wide_program_writes_nothing_beside_itself(binary, data):
+    """Whoever starts it, and though the folder takes files."""
+    place = Place(binary, data)
+    (place.folder / "system-wide").touch()
+    before = sorted(place.folder.rglob("*"))
+    process = place.start()
+    own = place.root / "home" / "Orvanta" / "Orvanta"
+    wait_for(lambda: place.is_locked_by(process, own), "the start")
+    wait_for(lambda: (own / "System").is_dir(), "the folder of the report")
+    process.send_signal(signal.SIGTERM)
+    ends_well(process, "a program that is there for all")
+    expect(sorted(place.folder.rglob("*")) == before, "its folder holds what was installed")
+    expect(place.copy.read_text() == LEFT_BEHIND, "no session is taken from there")
+
+
 def arguments_are_not_read(binary, data):
     for arguments in (("-platform", "nonsense"), ("--version",), ("nonsense.bsm",)):
         place = Place(binary, data)
@@ -190,6 +248,10 @@ def a_start_without_a_display_says_so(binary, data):
 if __name__ == "__main__":
     for claim in (signals_keep_the_session, arguments_are_not_read,
                   a_second_start_leaves_the_first_alone, another_user_has_a_folder_of_their_own,
+                  a_session_in_the_users_own_folder_is_found,
+                  a_folder_may_have_a_name_that_is_no_text,
+                  settings_that_no_memory_can_hold_go_aside,
+                  a_system_wide_program_writes_nothing_beside_itself,
                   a_start_removes_old_leftovers, a_fresh_account_gets_its_folders,
                   a_start_without_a_display_says_so):
         claim(*sys.argv[1:3])

@@ -54,6 +54,7 @@ protected:
         fs::resize_file(all / "here/huge.bsm", (std::uintmax_t{256} << 20) + 1);
         fs::create_symlink("Team", all / "here/link");
         fs::create_symlink("Team/new.bsm", all / "here/ahead.bsm");
+        fs::create_symlink("own.tmp", all / "here/alias.bsm");
         fs::create_symlink("nowhere/new.bsm", all / "here/astray.bsm");
         fs::create_symlink("round.bsm", all / "here/round.bsm");
         ::mkfifo((all / "here/pipe.bsm").c_str(), 0666);
@@ -77,7 +78,8 @@ protected:
         const FileDialogPlace place{.mode = mode,
                                     .filter = "All Brainstorming Files (*.bsm)|*.bsm",
                                     .folder = all / "here",
-                                    .home = all / "home"};
+                                    .home = all / "home",
+                                    .ownNames = {"own.tmp"}};
         const TemporaryFolder told;
         asOrdinaryUser([&] {
             told.write("choice", inWords(choiceOf(place, replaced(typed, "$", all.path()))));
@@ -149,6 +151,10 @@ INSTANTIATE_TEST_SUITE_P(
         Typed{"OverAFileInALockedFolderTakesIt", save, "$/locked/old", "take $/locked/old.bsm"},
         Typed{"InAClosedFolderIsRefused", save, "closed/new",
               "You may not look into this folder: $/here/closed"},
+        Typed{"UnderANameOfTheProgramsOwnIsRefused", save, "Team/own.tmp",
+              "The program keeps files of its own under this name: $/here/Team/own.tmp"},
+        Typed{"BehindALinkToANameOfTheProgramsOwnIsRefused", save, "alias",
+              "The program keeps files of its own under this name: $/here/alias.bsm"},
         Typed{"OverAReadOnlyFileIsRefused", save, "mine",
               "You may not change this file: $/here/mine.bsm"},
         Typed{"OverAFolderThatTheEndingNamesIsRefused", save, "blocked",

@@ -75,6 +75,15 @@ TEST_F(Rescue, KeepsTheNewestTwentyCopies) {
     EXPECT_EQ(copies(), written);
 }
 
+TEST_F(Rescue, KeepsTheCopyJustMadeThoughTheClockWasAhead) {
+    now += 24h * 365;
+    for (int i = 0; i < 20; ++i) store.keep("old.bsm", "old");
+    now -= 24h * 365;
+    const std::string copy = nameOf(store.keep("team.bsm", "new"));
+    EXPECT_EQ(copies().size(), 20u);
+    EXPECT_EQ(folder.read("rescue/" + copy), "new");
+}
+
 TEST_F(Rescue, LeavesOtherFilesInItsFolderAlone) {
     fs::create_directories(folder / "rescue");
     const Names others{"2026-11-21 notes.txt", "notes.txt"};
