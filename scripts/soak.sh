@@ -11,7 +11,7 @@ first=${2:-1}
 [[ $sessions =~ ^[0-9]+$ && $first =~ ^[0-9]+$ ]] ||
     { echo "usage: $0 [SESSIONS [FIRST_SEED]]" >&2; exit 2; }
 
-scripts/install.sh test
+scripts/install.sh headless
 cmake --preset headless
 cmake --build --preset headless --target orvanta_driver orvanta_kills
 build/headless/bin/orvanta_kills build/headless/bin/orvanta_driver "$sessions" "$first"

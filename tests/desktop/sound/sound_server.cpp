@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QStandardPaths>
 #include <QTest>
 #include <algorithm>
 #include <cmath>
@@ -52,12 +53,16 @@ SoundServer::SoundServer() {
     qputenv("PULSE_SERVER", address().toUtf8());
     m_process.setProcessEnvironment(environment);
     m_process.setStandardErrorFile(QProcess::nullDevice());
-    m_process.start(
-        QStringLiteral("pulseaudio"),
-        {QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
-         QStringLiteral("--exit-idle-time=-1"), QStringLiteral("-L"),
-         QStringLiteral("module-native-protocol-unix auth-anonymous=1 socket=") + socket(),
-         QStringLiteral("-L"), QStringLiteral("module-null-sink sink_name=probe")});
+    if (const QString pulse = QStandardPaths::findExecutable(QStringLiteral("pulseaudio"));
+        !pulse.isEmpty())
+        m_process.start(
+            pulse,
+            {QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
+             QStringLiteral("--exit-idle-time=-1"), QStringLiteral("-L"),
+             QStringLiteral("module-native-protocol-unix auth-anonymous=1 socket=") + socket(),
+             QStringLiteral("-L"), QStringLiteral("module-null-sink sink_name=probe")});
+    else
+        m_process.start(QStringLiteral(ORVANTA_PIPEWIRE_SERVER), {m_folder.path()});
     m_ready = m_process.waitForStarted() &&
               QTest::qWaitFor([&] { return QFile::exists(socket()); }, patience);
 }
