@@ -183,12 +183,14 @@ std::string outOfStep(const FrmMain& form) {
 }
 
 std::string looseRecord(const FrmMain& form) {
-    for (const JournalRecords* records : {&form.undoRecords, &form.redoRecords}) {
-        const auto end = std::ranges::find(*records, "");
-        if (!std::all_of(end, records->end(), [](const auto& record) { return record.empty(); }))
-            return "the journal has a gap";
-    }
-    return {};
+    const auto isFilled = [](auto first, auto end) {
+        return std::all_of(std::find(first, end, ""), end,
+                           [](const std::string& record) { return record.empty(); });
+    };
+    // The redo stack is filled from its second entry on.
+    const bool whole = isFilled(form.undoRecords.begin(), form.undoRecords.end()) &&
+                       isFilled(form.redoRecords.begin() + 1, form.redoRecords.end());
+    return whole ? "" : "the journal has a gap";
 }
 
 std::string wronglyShown(const Program& program, MainWindow& window) {

@@ -100,7 +100,6 @@ const Monkey::Act& Monkey::choose(const std::array<Act, Count>& acts) {
 }
 
 void Monkey::note(const std::string& act) {
-    if (::getenv("MONKEY_TRACE")) fprintf(stderr, "%s\n", act.c_str());
     m_story.push_back(act);
     if (m_story.size() > longestStory) m_story.pop_front();
 }
@@ -116,9 +115,14 @@ const Panel* Monkey::screen() const {
     return steps.top() ? steps.top() : module;
 }
 
+/// Behind the end of what stood in front it waits until the program goes on.
+void Monkey::actInFront() {
+    if (!m_window) return actOnSplash();
+    if (QApplication::activePopupWidget() || QApplication::activeModalWidget()) act();
+}
+
 void Monkey::act() {
     ++m_tally.acts;
-    if (!m_window) return actOnSplash();
     if (QWidget* menu = QApplication::activePopupWidget()) return actOnMenu(*menu);
     if (QWidget* dialog = QApplication::activeModalWidget()) return actOnDialog(*dialog);
     ++m_tally.screens[screen() ? screen()->name() : "home"];
@@ -126,7 +130,7 @@ void Monkey::act() {
 }
 
 void Monkey::actOnWindow() {
-    static constexpr std::array<Act, 19> acts{{{20, "go on", &Monkey::goOn},
+    static constexpr std::array<Act, 16> acts{{{20, "go on", &Monkey::goOn},
                                                {12, "click a widget", &Monkey::clickAWidget},
                                                {5, "click anywhere", &Monkey::clickAnywhere},
                                                {2, "press and leave", &Monkey::pressAndLeave},
@@ -135,16 +139,14 @@ void Monkey::actOnWindow() {
                                                {3, "paste", &Monkey::pasteSomewhere},
                                                {18, "key", &Monkey::pressAKey},
                                                {18, "drag", &Monkey::dragARow},
-                                               {6, "drag quickly", &Monkey::dragQuickly},
                                                {6, "menu", &Monkey::openAMenu},
                                                {3, "double click", &Monkey::doubleClickARow},
                                                {4, "hover", &Monkey::hover},
                                                {3, "wheel", &Monkey::turnTheWheel},
                                                {3, "resize", &Monkey::resize},
                                                {1, "close", &Monkey::close},
-                                               {4, "tick", &Monkey::tick},
-                                               {2, "click a widget", &Monkey::clickAWidget},
-                                               {1, "click anywhere", &Monkey::clickAnywhere}}};
+                                               {4, "tick", &Monkey::tick}}};
+    if (!m_window->isActiveWindow()) QApplication::setActiveWindow(m_window);
     const Act& act = choose(acts);
     note(act.name);
     (this->*act.perform)();
@@ -329,24 +331,6 @@ void Monkey::dragARow() {
         return;
     }
     Hand::release(*from->viewport(), start);
-}
-
-/// The button is let go before the window system has told of any motion over a list.
-void Monkey::dragQuickly() {
-    StatementListView* from = listToDragFrom();
-    if (!from) return;
-    const QPoint start = placeOnARow(*from);
-    StatementListView& target = *listToDropOn(from);
-    const QPoint end =
-        target.model()->rowCount() > 0 ? placeOnARow(target) : anyPlaceIn(*target.viewport());
-    Hand::press(*from->viewport(), start);
-    QCoreApplication::postEvent(
-        from->viewport(),
-        new QMouseEvent(QEvent::MouseButtonRelease, from->viewport()->mapFrom(m_window, QPoint()),
-                        target.viewport()->mapToGlobal(end), Qt::LeftButton, Qt::NoButton,
-                        Qt::NoModifier));
-    Hand::moveTo(*target.viewport(), end);
-    Hand::release(*target.viewport(), end);
 }
 
 void Monkey::openAMenu() {

@@ -31,6 +31,8 @@ public:
     void undoNothing() { m_undoes = false; }
 
     void act();
+    /// The same on a menu, a box, a dialog or the splash alone.
+    void actInFront();
 
     /// True now and then: the program is to end as a crash would end it.
     bool wantsToKill() { return m_chance.oneIn(400); }
@@ -69,7 +71,6 @@ private:
     void pasteSomewhere();
     void pressAKey();
     void dragARow();
-    void dragQuickly();
     void openAMenu();
     void doubleClickARow();
     void hover();

@@ -36,7 +36,7 @@ PlayedProgram::PlayedProgram(Sandbox& files, Monkey& monkey)
       m_monkey(monkey),
       m_folders(foldersIn(files, "settings")),
       m_twinFolders(foldersIn(files, "home/settings")),
-      m_stage([&monkey] { monkey.act(); }),
+      m_stage([&monkey] { monkey.actInFront(); }),
       m_driver(m_stage, m_disk, m_folders),
       m_twin(*m_twinStage, files.disk, m_twinFolders) {}
 
