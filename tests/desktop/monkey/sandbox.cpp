@@ -34,6 +34,7 @@ std::string headings() {
 }  // namespace
 
 Sandbox::Sandbox() {
+    disk.folders.insert(m_folder.path());
     for (const char* folder : {"app", "app/Sounds", "docs", "docs/team", "home"}) addFolder(folder);
     for (const char* code : {"gbs", "hrp", "mp"})
         addFile("app/" + std::string(code) + "questions.txt", test::bankOf(2));
