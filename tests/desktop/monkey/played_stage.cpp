@@ -1,5 +1,6 @@
 #include "played_stage.h"
 
+#include <QApplication>
 #include <QTimer>
 
 #include "words.h"
@@ -10,7 +11,11 @@ namespace orvanta::monkey {
 template <class Show>
 auto PlayedStage::whileActing(Show show) {
     QTimer turns;
-    QObject::connect(&turns, &QTimer::timeout, m_act);
+    // What has closed may still be waited for: nobody acts on what is behind it until then.
+    const QWidget* behind = QApplication::activeModalWidget();
+    QObject::connect(&turns, &QTimer::timeout, [this, behind] {
+        if (!behind || QApplication::activeModalWidget() != behind) m_act();
+    });
     turns.start(0);
     return show();
 }
