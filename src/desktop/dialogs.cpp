@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -187,6 +188,17 @@ SplashDialog::SplashDialog(Program& program, const FrmSplash& form)
     setWindowTitle(fromCp1252(form.caption));
     move(screen()->availableGeometry().center() - rect().center());
     QTimer::singleShot(splashMilliseconds, this, &QDialog::accept);
+}
+
+/// Showing a splash lets events through, and a key among them ends it: QDialog would then wait for
+/// an end that has been.
+int SplashDialog::exec() {
+    QEventLoop untilItEnds;
+    connect(this, &QDialog::finished, &untilItEnds, &QEventLoop::quit);
+    setModal(true);
+    show();
+    if (isVisible()) untilItEnds.exec();
+    return result();
 }
 
 void SplashDialog::keyPressEvent(QKeyEvent*) { accept(); }

@@ -72,6 +72,8 @@ class SplashDialog : public QDialog {
 public:
     SplashDialog(Program& program, const FrmSplash& form);
 
+    int exec() override;
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

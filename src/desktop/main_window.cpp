@@ -334,8 +334,14 @@ const Control* MainWindow::firstStop(const Panel& screen) const {
     return firstList;
 }
 
+/// What was hidden while another window was active would still get the keys later.
+void MainWindow::forgetHiddenFocus() {
+    if (QWidget* former = focusWidget(); former && !former->isVisible()) former->clearFocus();
+}
+
 void MainWindow::focusScreen() {
     m_focusPending = false;
+    forgetHiddenFocus();
     const Panel* shown = screen();
     const bool isNew = std::exchange(m_focusedScreen, shown) != shown;
     if (!shown || !(std::exchange(m_wentOnByKey, false) || isNew)) return;

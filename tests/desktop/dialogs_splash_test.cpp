@@ -45,6 +45,15 @@ TEST(Splash, EndsByItselfWithoutAKey) {
     EXPECT_FALSE(splash.isVisible());
 }
 
+TEST(Splash, EndsAtAKeyThatIsPressedWhileItComesUp) {
+    WindowBench bench;
+    FrmSplash form;
+    SplashDialog splash(bench.program(), form);
+    QTimer::singleShot(0, &splash, [&splash] { QTest::keyClick(&splash, Qt::Key_Space); });
+    splash.exec();  // comes back when it has ended
+    EXPECT_FALSE(splash.isVisible());
+}
+
 TEST(Splash, FillsItsFormWithThePicture) {
     WindowBench bench;
     FrmSplash form;

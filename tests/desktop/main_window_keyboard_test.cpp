@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QtTest>
 
 #include "desktop/dialogs.h"
@@ -232,6 +233,22 @@ TEST_F(Keyboard, TellsItsKeysToAssistivePrograms) {
     EXPECT_TRUE(
         analysis.widget("cmdUndo").accessibleDescription().contains(QStringLiteral("Ctrl+Z")));
     EXPECT_EQ(analysis.widget("imgBtnANext").toolTip(), QString());
+}
+
+TEST(MainWindowKeyboard, TypesIntoNothingThatWasHiddenBehindAnotherWindow) {
+    WindowBench bench;
+    bench.start();
+    bench.openBrainstorm();
+    bench.window().show();
+    auto& box = bench.widget<QLineEdit>("txtStrength");
+    box.setFocus();
+    QApplication::setActiveWindow(nullptr);
+    bench.click("BQuit");
+    QCoreApplication::processEvents();
+    QApplication::setActiveWindow(&bench.window());
+    QTest::keyClick(bench.window().windowHandle(), Qt::Key_A);
+    EXPECT_FALSE(box.isVisible());
+    EXPECT_EQ(box.text(), "");
 }
 
 }  // namespace orvanta::test

@@ -328,7 +328,7 @@ void Driver::call(const Json& line) {
 
 void Driver::menu(const Json& line) {
     Control& list = reachable<Control>(stringIn(line, "list"));
-    const std::string caption = stringIn(line, "command");
+    const std::string caption = windows1252From(stringIn(line, "command"));
     const std::vector<ListCommand> commands = listCommandsOf(m_program.frmMain, list);
     const auto command = std::ranges::find(commands, caption, &ListCommand::caption);
     if (command == commands.end() || !command->isOffered)

@@ -7,7 +7,6 @@
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDialogButtonBox>
-#include <QDropEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -24,6 +23,7 @@
 #include "desktop/main_window.h"
 #include "desktop/message_box.h"
 #include "desktop/theme.h"
+#include "row_drag.h"
 #include "system_events.h"
 
 namespace orvanta::driver {
@@ -86,37 +86,6 @@ QPoint pointAt(StatementListView& view, int position) {
     view.scrollTo(index);
     return view.visualRect(index).center();
 }
-
-/// One drag of a row, as the views that it passes over see it.
-class Drag {
-public:
-    explicit Drag(StatementList& from) : m_load(from) {}
-
-    /// True if the list under the pointer would take a drop there.
-    bool moveOver(StatementListView& view, const QPoint& point) {
-        QWidget& target = *view.viewport();
-        QDragEnterEvent enter(point, Qt::MoveAction, &m_load, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&target, &enter);
-        QDragMoveEvent move(point, Qt::MoveAction, &m_load, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&target, &move);
-        return move.isAccepted();
-    }
-
-    void leave(StatementListView& view) {
-        QDragLeaveEvent leave;
-        QApplication::sendEvent(view.viewport(), &leave);
-    }
-
-    void drop(StatementListView& view, const QPoint& point) {
-        QDropEvent drop(point, Qt::MoveAction, &m_load, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(view.viewport(), &drop);
-    }
-
-    void finish(Program& program) { m_load.drop()->finish(program); }
-
-private:
-    StatementDrag m_load;
-};
 
 class WindowStage : public Stage {
 public:
@@ -200,7 +169,7 @@ public:
         StatementListView& source = viewOf(from);
         const QPoint start = pointAt(source, row);
         mousePress(*source.viewport(), start);
-        Drag drag(from);
+        RowDrag drag(from);
         drag.moveOver(source, start);
         drag.leave(source);
         for (StatementList* passed : over) {
