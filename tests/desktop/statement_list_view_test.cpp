@@ -144,7 +144,7 @@ TEST_F(StatementListViewTest, ShowsWholeRowsAboveTheChosenStatement) {
     for (int height : {420, 431, 437}) {
         bench.window().resize(800, height + 60);
         QCoreApplication::processEvents();
-        ASSERT_FALSE(view().findChild<QLabel*>({}, Qt::FindDirectChildrenOnly)->isHidden());
+        ASSERT_FALSE(stripOf(view()).isHidden());
         const int row = view().visualRect(view().indexAtPosition(1)).height();
         EXPECT_EQ(view().viewport()->height() % row, 0) << height;
     }
