@@ -395,7 +395,7 @@ class Pictures(unittest.TestCase):
         asked = next(line for line in marketing.splitlines() if "?" in line)
         self.assertEqual((PROJECT / "tests/site/pictured_texts.txt").read_text("cp1252"),
                          f"{analyze}{asked}\n",
-                         "take the pictures anew with scripts/site_pictures.sh")
+                         "take the pictures anew with scripts/pictures.sh")
 
     def test_stay_small_enough_to_be_carried_with_the_program(self):
         size = sum(path.stat().st_size for path in SITE.rglob("*") if path.is_file())
