@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what the build, the tests, the tour and the checks need and this system lacks.
-#   scripts/install.sh [run|test|tour|check|fuzz|coverage ...]     all of them when none is named
+#   scripts/install.sh [run|test|tour|check|fuzz|coverage|mutate ...]     all of them when none is named
 set -euo pipefail
 
 sound="qt6-multimedia-dev libavcodec-dev libswresample-dev zlib1g-dev pkg-config"
@@ -21,12 +21,14 @@ declare -A packages=(
     [fuzz]="clang libclang-rt-dev cmake ninja-build libboost1.81-dev qt6-base-dev qt6-svg-dev nlohmann-json3-dev
             libgtest-dev libbenchmark-dev $sound"
     [coverage]="gcovr"
+    [mutate]="bubblewrap lld"
 )
 
 wanted=()
-for purpose in "${@:-run test tour check fuzz coverage}"; do
+for purpose in "${@:-run test tour check fuzz coverage mutate}"; do
     for name in $purpose; do
-        [[ -n ${packages[$name]:-} ]] || { echo "usage: $0 [run|test|tour|check|fuzz|coverage ...]" >&2; exit 2; }
+        [[ -n ${packages[$name]:-} ]] ||
+            { echo "usage: $0 [run|test|tour|check|fuzz|coverage|mutate ...]" >&2; exit 2; }
         read -r -d '' -a words <<<"${packages[$name]}" || true
         wanted+=("${words[@]}")
     done
