@@ -15,51 +15,39 @@ from mutants import mutants_of
 ROOT = Path(__file__).resolve().parents[1]
 WORK = ROOT / "build/mutate"
 MEMORY = 8 << 20  # what a test program may use at most, in KiB
-SECONDS = 180  # what a test may take at most; who takes longer is in a loop without end
+WORKED = 100  # seconds of a processor that a test program may use: more is a loop without end
+WAITED = 1200  # seconds that a test may take at most, also on a busy machine
 
 
 class Place:
-    """A copy of the tree with a build of its own, where one mutant after the other is tried."""
+    """A copy of the tree and its build, where one mutant after the other is tried. All copies see
+    themselves under the path of the first, and so need no build of their own. What runs there can
+    write nowhere else and leaves no process behind: a mutant may do anything."""
+
+    TREE = WORK / "1"
+    BUILD = TREE / "build/dev"
 
     def __init__(self, number):
         self.tree = WORK / str(number)
-        self.build = self.tree / "build/dev"
+        self.scratch = self.tree / "build/scratch"
+        if self.tree != self.TREE:
+            shutil.rmtree(self.tree, ignore_errors=True)
+            subprocess.run(["cp", "-a", self.TREE, self.tree], check=True)
         self.log = (WORK / f"{number}.log").open("w", encoding="utf-8")
 
-    def prepare(self):
-        """Copies what differs, and builds it."""
-        listed = subprocess.run(["git", "ls-files", "-z", "--cached", "--others",
-                                 "--exclude-standard", "--deduplicate"],
-                                cwd=ROOT, check=True, capture_output=True)
-        for name in listed.stdout.decode().split("\0")[:-1]:
-            copy_if_other(ROOT / name, self.tree / name)
-        self._run(["cmake", "--preset", "dev", "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"])
-        if not self.builds():
-            sys.exit(f"{self.tree} does not build; see {self.log.name}")
-
     def builds(self, *targets):
-        told = ["--target", *targets] if targets else []
-        return self._run(["cmake", "--build", self.build, "-j", "2", *told], check=False,
-                         env=self._environment(CCACHE_READONLY="1")) == 0
+        """Whether these targets can be built; all of them when none is named."""
+        return self._runs(["cmake", "--build", self.BUILD, "-j2",
+                           *(["--target", *targets] if targets else [])]).returncode == 0
 
     def failed_test(self, *chosen, cases="*"):
         """The first test among the chosen ones that fails; nothing if all pass. `cases` chooses
         among what a test program holds."""
-        scratch = self.tree / "build/scratch"
-        shutil.rmtree(scratch, ignore_errors=True)
-        (scratch / "home").mkdir(parents=True)
-        # A mutant can write and remove what it should not, and leave processes behind.
-        sandbox = ["bwrap", "--ro-bind", "/", "/", "--dev-bind", "/dev", "/dev",
-                   "--proc", "/proc", "--bind", self.build, self.build, "--bind", scratch, "/tmp",
-                   "--unshare-pid", "--unshare-net", "--die-with-parent", "--setenv", "HOME",
-                   "/tmp/home"]
-        command = (f"ulimit -v {MEMORY} && exec ctest --stop-on-failure --timeout {SECONDS} "
-                   '--no-tests=error "$@"')
-        run = subprocess.run([*sandbox, "bash", "-c", command, "ctest", *chosen], cwd=self.build,
-                             env=self._environment(GTEST_FAIL_FAST="1", GTEST_FILTER=cases), check=False, text=True,
-                             stdout=subprocess.PIPE, stderr=subprocess.STDOUT, errors="replace",
-                             stdin=subprocess.DEVNULL)
-        self.log.write(run.stdout)
+        shutil.rmtree(self.scratch, ignore_errors=True)
+        limited = (f"ulimit -v {MEMORY} -t {WORKED} && exec ctest --output-on-failure --stop-on-failure "
+                   f'--timeout {WAITED} --no-tests=error "$@"')
+        run = self._runs(["bash", "-c", limited, "ctest", *chosen], GTEST_FILTER=cases,
+                         GTEST_FAIL_FAST="1", HOME="/tmp/home")
         if run.returncode == 0:
             return ""
         failed = re.search(r"^\s*\d+ - (\S+) \((.*)\)", run.stdout, re.MULTILINE)
@@ -68,14 +56,33 @@ class Place:
         case = re.search(r"^\[  FAILED  \] (\w+[./]\S+?)(?:,| \(|$)", run.stdout, re.MULTILINE)
         return " ".join([failed[1], case[1] if case else failed[2].lower()])
 
-    def _environment(self, **more):
-        return {**os.environ, "CCACHE_BASEDIR": str(self.tree), **more}
-
-    def _run(self, command, check=True, env=None, **more):
+    def _runs(self, command, **variables):
+        (self.scratch / "home").mkdir(parents=True, exist_ok=True)
+        sandbox = ["bwrap", "--ro-bind", "/", "/", "--dev-bind", "/dev", "/dev",
+                   "--proc", "/proc", "--bind", self.tree, self.TREE,
+                   "--bind", self.scratch, "/tmp", "--unshare-pid", "--unshare-net",
+                   "--die-with-parent"]
+        environment = {"CCACHE_READONLY": "1", "CCACHE_TEMPDIR": "/tmp",
+                       "CCACHE_BASEDIR": str(self.TREE), **variables}
+        run = subprocess.run([*sandbox, *command], cwd=self.BUILD, env={**os.environ, **environment},
+                             check=False, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                             stderr=subprocess.STDOUT, text=True, errors="replace")
+        self.log.write(run.stdout)
         self.log.flush()
-        return subprocess.run(command, cwd=self.tree, check=check, stdout=self.log,
-                              stderr=subprocess.STDOUT, env=env or self._environment(),
-                              **more).returncode
+        return run
+
+
+def build_first():
+    """Copies what differs from the last time, and builds it. Everybody's cache gets it."""
+    listed = subprocess.run(["git", "ls-files", "-z", "--cached", "--others",
+                             "--exclude-standard", "--deduplicate"],
+                            cwd=ROOT, check=True, capture_output=True)
+    for name in listed.stdout.decode().split("\0")[:-1]:
+        copy_if_other(ROOT / name, Place.TREE / name)
+    environment = {**os.environ, "CCACHE_BASEDIR": str(Place.TREE)}
+    for step in (["--preset", "dev", "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"],
+                 ["--build", "--preset", "dev"]):
+        subprocess.run(["cmake", *step], cwd=Place.TREE, check=True, env=environment)
 
 
 def stages(file, folders):
@@ -111,9 +118,9 @@ def likely_cases(file, tests):
 class Trial:
     """Tries random mutants, in the order of a seed, until enough of them did compile."""
 
-    def __init__(self, count, seed):
+    def __init__(self, count, seed, paths):
         self.folders = Tree(ROOT / "src").folders
-        self.waiting = shuffled_mutants(random.Random(seed))
+        self.waiting = shuffled_mutants(random.Random(seed), paths)
         self.count, self.tried, self.killed, self.survivors = count, 0, 0, []
         self.lock = threading.Lock()
         self.report = (WORK / "report.txt").open("w", encoding="utf-8")
@@ -158,14 +165,15 @@ class Trial:
         print(told.splitlines()[0], flush=True)
 
 
-def shuffled_mutants(chance):
+def shuffled_mutants(chance, paths):
     """One mutant of each line that has any, in random order. Windows' own sources are not built
     here, nor is what stands in for the sound."""
     found = []
     for path in sorted((ROOT / "src").rglob("*")):
-        if path.suffix in {".cpp", ".h"} and not re.match("windows_|silent_", path.name):
-            found += [(path.relative_to(ROOT), chance.choice(line))
-                      for line in mutants_of(path.read_text("utf-8"))]
+        name = path.relative_to(ROOT)
+        wanted = any(name.is_relative_to(place) for place in paths)
+        if wanted and path.suffix in {".cpp", ".h"} and not re.match("windows_|silent_", path.name):
+            found += [(name, chance.choice(line)) for line in mutants_of(path.read_text("utf-8"))]
     chance.shuffle(found)
     return found
 
@@ -178,12 +186,11 @@ def copy_if_other(source, target):
 
 
 def main():
-    count, seed, workers = map(int, sys.argv[1:])
+    count, seed, workers = map(int, sys.argv[1:4])
     WORK.mkdir(parents=True, exist_ok=True)
+    build_first()
     places = [Place(number + 1) for number in range(workers)]
-    for place in places:
-        place.prepare()
-    trial = Trial(count, seed)
+    trial = Trial(count, seed, sys.argv[4:] or ["src"])
     threads = [threading.Thread(target=trial.work_at, args=[place]) for place in places]
     for thread in threads:
         thread.start()
