@@ -37,6 +37,7 @@ class Mutant:
     def __init__(self, source, start, end, text):
         first = source.rfind("\n", 0, start) + 1
         last = source.find("\n", end)
+        self.original = source
         self.source = source[:start] + text + source[end:]
         self.line = source.count("\n", 0, start) + 1
         self.before = " ".join(source[first:last].split())

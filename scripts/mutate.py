@@ -44,8 +44,8 @@ class Place:
         """The first test among the chosen ones that fails; nothing if all pass. `cases` chooses
         among what a test program holds."""
         shutil.rmtree(self.scratch, ignore_errors=True)
-        limited = (f"ulimit -v {MEMORY} -t {WORKED} && exec ctest --output-on-failure --stop-on-failure "
-                   f'--timeout {WAITED} --no-tests=error "$@"')
+        limited = (f"ulimit -v {MEMORY} -t {WORKED} && exec ctest --output-on-failure "
+                   f'--stop-on-failure --timeout {WAITED} --no-tests=error "$@"')
         run = self._runs(["bash", "-c", limited, "ctest", *chosen], GTEST_FILTER=cases,
                          GTEST_FAIL_FAST="1", HOME="/tmp/home")
         if run.returncode == 0:
@@ -64,9 +64,10 @@ class Place:
                    "--die-with-parent"]
         environment = {"CCACHE_READONLY": "1", "CCACHE_TEMPDIR": "/tmp",
                        "CCACHE_BASEDIR": str(self.TREE), **variables}
-        run = subprocess.run([*sandbox, *command], cwd=self.BUILD, env={**os.environ, **environment},
-                             check=False, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
-                             stderr=subprocess.STDOUT, text=True, errors="replace")
+        run = subprocess.run([*sandbox, *command], cwd=self.BUILD, check=False,
+                             env={**os.environ, **environment}, stdin=subprocess.DEVNULL,
+                             stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                             errors="replace")
         self.log.write(run.stdout)
         self.log.flush()
         return run
@@ -131,7 +132,7 @@ class Trial:
             try:
                 self._note(file, mutant, *self._outcome(place, file, mutant))
             finally:
-                (place.tree / file).write_text((ROOT / file).read_text("utf-8"), "utf-8")
+                (place.tree / file).write_text(mutant.original, "utf-8")
 
     def _next(self):
         with self.lock:
