@@ -21,6 +21,7 @@ declare -A packages=(
     [style]="clang-format clang-tidy git shellcheck"
     [fuzzing]="clang libclang-rt-dev"
     [counting]="gcovr"
+    [changing]="bubblewrap lld"
     [packing]="dpkg-dev file gzip lintian desktop-file-utils appstream libxml2-utils"
     [fresh_system]="mmdebstrap"
 )
@@ -39,6 +40,7 @@ declare -A what_for=(
     [style]="checks of the source"
     [fuzzing]="made-up input"
     [counting]="counting the lines that tests reach"
+    [changing]="trying changed sources where they can do no harm"
     [packing]="making and checking packages"
     [fresh_system]="a fresh Debian to try the package on"
 )
@@ -53,6 +55,7 @@ declare -A needs=(
     [check]="build window libraries screen style"
     [fuzz]="build window libraries screen fuzzing"
     [coverage]="counting"
+    [mutate]="changing"
     [package]="packing"
     [package_test]="fresh_system"
 )

@@ -6,6 +6,8 @@
 #include <array>
 #include <string>
 
+#include "ordinary_user.h"
+
 namespace orvanta::test {
 
 /// How a process of the test's own ended, and what it told before.
@@ -26,7 +28,7 @@ Ended inChild(Act act) {
     const pid_t child = ::fork();
     if (child == 0) {
         const std::string told = act();
-        ::_exit(::write(ends[1], told.data(), told.size()) < 0 ? 1 : 0);
+        endChild(::write(ends[1], told.data(), told.size()) < 0 ? 1 : 0);
     }
     ::close(ends[1]);
     std::array<char, 4096> taken;

@@ -185,4 +185,14 @@ TEST(PageCare, LeavesTheDocumentItselfAsItWas) {
     for (const DocumentRow& row : table->rows) EXPECT_FALSE(isKept(row) || row.staysWhole);
 }
 
+// Letters of 12 points are taken to be 8.4 wide where a row must not be too high: 1,020 of them
+// fill 27 lines of a column of 330, three quarters of the page.
+TEST(PageCare, HoldsAStatementTogetherThatFillsThreeQuartersOfAPageAtMost) {
+    const auto withStatementOf = [](std::size_t letters) {
+        return tableOf({rowOf("first", false), rowOf(std::string(letters, 'x'), false)});
+    };
+    EXPECT_EQ(wholeness(withStatementOf(1020)).back(), 'w');
+    EXPECT_EQ(wholeness(withStatementOf(1030)).back(), '.');
+}
+
 }  // namespace orvanta::test

@@ -154,4 +154,27 @@ TEST_F(Writing, TextInFrontOfATableThatFillsACellFails) {
     EXPECT_EQ(failureOf([&] { range(table, 1, 1).call("InsertBefore", {std::string("x")}); }), 5);
 }
 
+TEST_F(Writing, ARangeRefusesMembersThatItDoesNotHave) {
+    constexpr int invalidCall = 5;
+    const WordRef inCell = range(addTable(1, 1), 1, 1), inBody = document.get("Range");
+    for (const WordRef& text : {inCell, inBody}) {
+        EXPECT_EQ(failureOf([&] { text.get("Font").put("Color", 1); }), invalidCall);
+        EXPECT_EQ(failureOf([&] { text.get("Paragraphs").put("LeftIndent", 1); }), invalidCall);
+        EXPECT_EQ(failureOf([&] { text.get("Sentences"); }), invalidCall);
+        EXPECT_EQ(failureOf([&] { text.put("Style", std::string("x")); }), invalidCall);
+        EXPECT_EQ(failureOf([&] { text.call("Delete"); }), invalidCall);
+    }
+    EXPECT_EQ(failureOf([&] { inBody.put("Orientation", 2); }), invalidCall);
+    EXPECT_EQ(saved().outline(), (Outline{"#", ""}));
+}
+
+TEST_F(Writing, TheFirstCharactersOfACellAreAParagraphAsWell) {
+    const WordRef table = addTable(1, 1);
+    range(table, 1, 1).put("Text", std::string("Strengths: fleet"));
+    cell(table, 1, 1).call("Select");
+    selection.call("MoveRight", {1, 9});
+    selection.get("Range").get("Paragraphs").put("SpaceAfter", 6);
+    EXPECT_EQ(savedTable()[0].cells[0].paragraphs[0].words.at("sa"), 120);
+}
+
 }  // namespace orvanta::test

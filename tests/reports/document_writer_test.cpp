@@ -165,6 +165,12 @@ TEST_F(Writing, AMemberOrAValueThatIsNotKnownFails) {
     EXPECT_EQ(failureOf([&] { table.get("Columns").get("Last", {1}); }), invalidCall);
     EXPECT_EQ(failureOf([&] { table.get("Columns").get("Item", {1, 1}); }), invalidCall);
     EXPECT_EQ(failureOf([&] { document.get("Tables").get("Add", {1, 1, 1}); }), invalidCall);
+    EXPECT_EQ(failureOf([&] { document.get("PageSetup").put("Gutter", 1); }), invalidCall);
+    EXPECT_EQ(failureOf([&] { application.get("Options"); }), invalidCall);
+    EXPECT_EQ(failureOf([&] { table.get("Rows").item(1).get("Cells"); }), invalidCall);
+    EXPECT_EQ(failureOf([&] { table.get("Rows").item(1).put("AllowBreakAcrossPages", true); }),
+              invalidCall);
+    EXPECT_EQ(failureOf([&] { table.get("Shading"); }), invalidCall);
 }
 
 TEST_F(Writing, ATargetThatCanNotBeWrittenFailsAndLeavesTheOldFile) {

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <sys/stat.h>
 
 #include <string>
 #include <vector>
 
 #include "failure_of.h"
+#include "ordinary_user.h"
 #include "temporary_folder.h"
 #include "view/file_disk.h"
 
@@ -17,15 +17,6 @@ using Names = std::vector<std::string>;
 
 constexpr int fileNotFound = 53, diskFull = 61, permissionDenied = 70, pathFileAccess = 75,
               pathNotFound = 76, noError = 0;
-
-/// The system's user for whom nothing is meant.
-constexpr unsigned nobody = 65534;
-
-/// Becomes somebody whom permissions bind: nobody where the test runs as root, whom they don't.
-/// False where that fails.
-inline bool becomeOrdinaryUser() {
-    return ::geteuid() != 0 || (::setgid(nobody) == 0 && ::setuid(nobody) == 0);
-}
 
 /// A folder of the real disk.
 class RealDisk : public testing::Test {
@@ -40,11 +31,7 @@ protected:
     /// The same, done by an ordinary user.
     template <class Act>
     static int errorAsOrdinaryUser(Act act) {
-        const pid_t child = ::fork();
-        if (child == 0) ::_exit(becomeOrdinaryUser() ? failureOf(act) : 255);
-        int status = 0;
-        ::waitpid(child, &status, 0);
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        return asOrdinaryUser([&] { return failureOf(act); });
     }
 
     struct stat statusOf(const std::string& name) const {
