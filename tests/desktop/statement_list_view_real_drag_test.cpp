@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QProcess>
 #include <QtTest>
+#include <functional>
 
 #include "desktop/statement_list_view.h"
 #include "window_bench.h"
@@ -48,6 +49,14 @@ public:
         QTest::qWait(50);
     }
 
+    /// Does it all while the window looks away, which finds it in one heap afterwards.
+    void actUnseen() {
+        QProcess process;
+        process.start(QStringLiteral("xdotool"), m_acts);
+        ASSERT_TRUE(process.waitForFinished(20'000));
+        ASSERT_EQ(process.exitCode(), 0);
+    }
+
 private:
     Hand& operator<<(const char* word) {
         m_acts << QString::fromLatin1(word);
@@ -91,6 +100,14 @@ protected:
         hand.move(from, to, motions);
         hand.release();
         hand.act();
+    }
+
+    /// Once a drag is over a row. It runs within the drag.
+    void whenLit(const std::string& list, int row, std::function<void()> act) {
+        QTimer::singleShot(10, &bench.window(), [this, list, row, act = std::move(act)] {
+            if (bench.widget<StatementListView>(list).litRow() == row) return act();
+            whenLit(list, row, act);
+        });
     }
 
     WindowBench<AnalysisBench> bench{SystemEvents::LetIn};
@@ -154,6 +171,22 @@ TEST_F(RealDrag, IsCalledOffWithEscape) {
     hand.pressEscape();
     hand.rest("0.1");
     hand.release();
+    hand.act();
+    EXPECT_EQ(bench.list("lvOpportunity").count(), rows);
+}
+
+TEST_F(RealDrag, IsCalledOffWithEscapeEvenIfTheButtonIsLetGoAtOnceBehindIt) {
+    const int rows = bench.list("lvOpportunity").count();
+    const QPoint from = rowOf("lvStrengthOp", 2).center(), to = rowOf("lvOpportunity", 1).center();
+    whenLit("lvOpportunity", 1, [] {
+        Hand hand;
+        hand.pressEscape();
+        hand.release();
+        hand.actUnseen();
+    });
+    Hand hand;
+    hand.press(from);
+    hand.move(from, to, 5);
     hand.act();
     EXPECT_EQ(bench.list("lvOpportunity").count(), rows);
 }
