@@ -145,6 +145,13 @@ TEST_F(DragFeedback, SaysNoOverAMappedRow) {
     EXPECT_EQ(hinted(), "");
 }
 
+TEST_F(DragFeedback, PromisesNothingWhereTheStatementIsMappedAlready) {
+    EXPECT_TRUE(dragRow("lvStrengthOp", 1, "lvOpportunity", 1)) << "the drop says why";
+    EXPECT_EQ(view("lvOpportunity").litRow(), 0);
+    EXPECT_EQ(hinted(), "");
+    EXPECT_EQ(picture()->carried(), "Ann S1");
+}
+
 TEST_F(DragFeedback, SaysNoBesideTheRows) {
     const StatementDrag load(bench.list("lvWeaknessOp"));
     EXPECT_FALSE(dragOver(load, "lvOpportunity", besideRows("lvOpportunity")));
