@@ -152,6 +152,18 @@ TEST_F(DragFeedback, PromisesNothingWhereTheStatementIsMappedAlready) {
     EXPECT_EQ(picture()->carried(), "Ann S1");
 }
 
+TEST_F(DragFeedback, TellsLongStatementsOfOneBeginningApart) {
+    const std::string beginning(100, 'M');
+    bench.list("lvStrengthOp").setText(2, beginning + " first");
+    QImage hints[2];
+    for (const int way : {0, 1}) {
+        bench.list("lvOpportunity").setText(3, beginning + (way == 0 ? " here" : " else"));
+        dragRow("lvStrengthOp", 2, "lvOpportunity", 3);
+        hints[way] = paintedAs(*picture(), picture()->rect());
+    }
+    EXPECT_NE(hints[0], hints[1]);
+}
+
 TEST_F(DragFeedback, SaysNoBesideTheRows) {
     const StatementDrag load(bench.list("lvWeaknessOp"));
     EXPECT_FALSE(dragOver(load, "lvOpportunity", besideRows("lvOpportunity")));
