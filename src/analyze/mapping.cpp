@@ -144,6 +144,10 @@ const Row* statementToMap(const FrmMain& form, const StatementList& mappingList)
     return (form.*sideControls[sideOf(form, mappingList)].picking(*kind)).selectedRow();
 }
 
+bool isMappedAlready(const StatementList& mappingList, int position, const Row& statement) {
+    return isMapped(mappingList, mappingList.row(position).key, statement.key);
+}
+
 const Row* rowToTakeBack(const FrmMain& form, const StatementList& pickingList) {
     const auto picking = pickingOf(form, pickingList);
     const Row* row = (form.*sideControls[picking->side].mapping.list).selectedRow();

@@ -36,6 +36,8 @@ bool isMappingList(const FrmMain& form, const StatementList& list);
 bool takesMapping(const FrmMain& form, const StatementList& mappingList, int position);
 /// The statement that a drop on such a row would map; null if the drag carries none.
 const Row* statementToMap(const FrmMain& form, const StatementList& mappingList);
+/// True if such a row has that statement already, so that a drop would only say so.
+bool isMappedAlready(const StatementList& mappingList, int position, const Row& statement);
 /// The mapped row that a drop on a picking list would take back; null for none.
 const Row* rowToTakeBack(const FrmMain& form, const StatementList& pickingList);
 

@@ -51,7 +51,7 @@ std::string hintIn(const FrmMain& form, const StatementList& list) {
 
 std::string hintIn(const ListBox& files) {
     if (!files.items().empty()) return {};
-    return "No files yet. Press Add... to choose the files of your team.";
+    return "No files yet. Press Add to choose the files of your team.";
 }
 
 }  // namespace orvanta

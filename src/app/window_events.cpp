@@ -101,7 +101,8 @@ DropPreview previewOfDrop(const Program& program, const StatementList& from,
     if (isMappingList(form, list)) {
         if (!takesMapping(form, list, position)) return {};
         const Row* statement = statementToMap(form, list);
-        if (!statement) return {DropTarget::Unseen};
+        if (!statement || isMappedAlready(list, position, *statement))
+            return {DropTarget::Unseen, statement};
         return {DropTarget::Row,
                 statement,
                 {"map: " + statement->text, "onto: " + list.row(position).text}};

@@ -79,7 +79,7 @@ void DragPicture::paintEvent(QPaintEvent*) {
     QRect room(margin, top + margin / 2, width() - 2 * margin, fontMetrics().height());
     for (const QString& line : m_lines) {
         painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                         fontMetrics().elidedText(line, Qt::ElideRight, room.width()));
+                         fontMetrics().elidedText(line, Qt::ElideMiddle, room.width()));
         room.translate(0, room.height());
     }
 }

@@ -55,7 +55,8 @@ std::optional<QPoint> DragWatch::letGoAt() {
 }
 
 bool DragWatch::eventFilter(QObject*, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonRelease)
+    // Qt puts off the release that ends a drag and posts it. One behind an Escape comes straight.
+    if (event->type() == QEvent::MouseButtonRelease && !event->spontaneous())
         m_letGoAt = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
     if (event->type() != QEvent::Wheel) return false;
     const auto& wheel = *static_cast<QWheelEvent*>(event);

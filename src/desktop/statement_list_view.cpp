@@ -98,6 +98,10 @@ void StatementListView::selectionChanged(const QItemSelection& selected,
 
 /// The first key in a list where nothing is chosen chooses its first row, which Qt would pass over.
 void StatementListView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && m_hand == Hand::Takes) {
+        m_hand = Hand::CalledOff;
+        return;
+    }
     const bool moves = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
     if (!moves || m_list.hasSelection() || m_list.count() == 0)
         return QListView::keyPressEvent(event);
@@ -151,12 +155,25 @@ QString StatementListView::chosenText() const {
     return row ? lineOf(row->text) : QString();
 }
 
+void StatementListView::mousePressEvent(QMouseEvent* event) {
+    m_hand = Hand::Free;
+    QListView::mousePressEvent(event);
+}
+
 void StatementListView::mouseMoveEvent(QMouseEvent* event) {
     hoveredOver(m_program, m_list, positionAt(event->position().toPoint()));
+    if (m_hand != Hand::Free) return;
     const bool wasDragging = state() == DraggingState;
     QListView::mouseMoveEvent(event);
     // Qt begins a drag with the second motion; of a quick hand it may see but one.
     if (!wasDragging && state() == DraggingState) QListView::mouseMoveEvent(event);
+}
+
+void StatementListView::mouseReleaseEvent(QMouseEvent* event) {
+    const Hand hand = std::exchange(m_hand, Hand::Free);
+    // Behind a drag Qt would choose anew, by where the button was let go.
+    if (hand == Hand::Free) return QListView::mouseReleaseEvent(event);
+    if (hand == Hand::Takes) land(event->globalPosition().toPoint());
 }
 
 bool StatementListView::viewportEvent(QEvent* event) {
@@ -169,6 +186,16 @@ void StatementListView::startDrag(Qt::DropActions) {
     if (!m_list.hasSelection()) return;
     // Ahead of all else: the pointer may be gone from the list before the drag's first motion.
     draggedOver(m_program, m_list);
+    // Of a quick hand the release stands right behind this motion; the drag's own loop would be
+    // waiting for it in vain.
+    m_hand = Hand::Takes;
+    QTimer::singleShot(0, this, [this] { carry(); });
+}
+
+/// Drags the row, unless it was let go or called off meanwhile.
+void StatementListView::carry() {
+    if (m_hand != Hand::Takes) return;
+    m_hand = Hand::Free;
     auto* load = new StatementDrag(m_list);
     const std::shared_ptr<const Drop> drop = load->drop();
     auto* drag = new QDrag(this);
@@ -182,9 +209,13 @@ void StatementListView::startDrag(Qt::DropActions) {
     if (carried) carried->hide();
     if (drop->list) return drop->finish(m_program);
     // Let go before Qt saw where, or after the wheel had moved the rows under the pointer.
-    const auto place = watch.letGoAt();
-    if (StatementListView* list = place ? statementListAt(*place) : nullptr)
-        list->dropAt(m_list, list->viewport()->mapFromGlobal(*place)).finish(m_program);
+    if (const auto place = watch.letGoAt()) land(*place);
+}
+
+/// Drops the row at a point of the screen.
+void StatementListView::land(const QPoint& place) {
+    if (StatementListView* list = statementListAt(place))
+        list->dropAt(m_list, list->viewport()->mapFromGlobal(place)).finish(m_program);
 }
 
 void StatementListView::dragEnterEvent(QDragEnterEvent* event) { passOver(*event); }

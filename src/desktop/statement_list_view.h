@@ -49,7 +49,9 @@ public:
 protected:
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
@@ -65,6 +67,12 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
+    /// What the pressed button is about. A row that the hand takes is dragged as soon as the events
+    /// that have come so far are seen: its release may be among them.
+    enum class Hand { Free, Takes, CalledOff };
+
+    void carry();
+    void land(const QPoint& place);
     void showSelection();
     void reveal();
     void measureRows();
@@ -86,7 +94,8 @@ private:
     QPointer<ReadingStrip> m_strip;
     bool m_showing = false;
     int m_rowsCameIn = 0, m_lastCameIn = 0;  // since the last look at the event queue
-    DropPreview m_preview;                   // of the drag that is over the list
+    Hand m_hand = Hand::Free;
+    DropPreview m_preview;  // of the drag that is over the list
     int m_previewRow = 0;
     QPointer<const StatementDrag> m_drag;
     QPoint m_draggedTo;

@@ -21,7 +21,7 @@ TEST(ListHint, TellsInAnEmptyListWhatComesThereAndHow) {
     EXPECT_EQ(hintOf(bench, "lvStrengthOp"), "No strengths. Go back to add some.");
     EXPECT_EQ(hintOf(bench, "lvThreat"), "No threats. Go back to add some.");
     EXPECT_EQ(hintIn(bench.form().lstFiles),
-              "No files yet. Press Add... to choose the files of your team.");
+              "No files yet. Press Add to choose the files of your team.");
 }
 
 TEST(ListHint, TellsHowToMapUntilSomethingIsMapped) {

@@ -156,10 +156,11 @@ const std::vector<Hovering> hoverings{
     {"Opportunity",
      "lvStrengthOp",
      "lvOpportunity",
-     1,
+     3,
      DropTarget::Row,
      "Ann S1",
-     {"map: Ann S1", "onto: Ann O1"}},
+     {"map: Ann S1", "onto: Ann O2"}},
+    {"OpportunityThatHasIt", "lvStrengthOp", "lvOpportunity", 1, DropTarget::Unseen, "Ann S1"},
     {"MappedRow", "lvStrengthOp", "lvOpportunity", 2},
     {"BesideOpportunities", "lvStrengthOp", "lvOpportunity", 0},
 };

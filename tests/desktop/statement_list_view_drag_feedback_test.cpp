@@ -145,6 +145,25 @@ TEST_F(DragFeedback, SaysNoOverAMappedRow) {
     EXPECT_EQ(hinted(), "");
 }
 
+TEST_F(DragFeedback, PromisesNothingWhereTheStatementIsMappedAlready) {
+    EXPECT_TRUE(dragRow("lvStrengthOp", 1, "lvOpportunity", 1)) << "the drop says why";
+    EXPECT_EQ(view("lvOpportunity").litRow(), 0);
+    EXPECT_EQ(hinted(), "");
+    EXPECT_EQ(picture()->carried(), "Ann S1");
+}
+
+TEST_F(DragFeedback, TellsLongStatementsOfOneBeginningApart) {
+    const std::string beginning(100, 'M');
+    bench.list("lvStrengthOp").setText(2, beginning + " first");
+    QImage hints[2];
+    for (const int way : {0, 1}) {
+        bench.list("lvOpportunity").setText(3, beginning + (way == 0 ? " here" : " else"));
+        dragRow("lvStrengthOp", 2, "lvOpportunity", 3);
+        hints[way] = paintedAs(*picture(), picture()->rect());
+    }
+    EXPECT_NE(hints[0], hints[1]);
+}
+
 TEST_F(DragFeedback, SaysNoBesideTheRows) {
     const StatementDrag load(bench.list("lvWeaknessOp"));
     EXPECT_FALSE(dragOver(load, "lvOpportunity", besideRows("lvOpportunity")));

@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <QDrag>
 #include <QGuiApplication>
 #include <QProcess>
 #include <QtTest>
+#include <algorithm>
+#include <functional>
 
 #include "desktop/statement_list_view.h"
 #include "window_bench.h"
@@ -48,6 +51,14 @@ public:
         QTest::qWait(50);
     }
 
+    /// Does it all while the window looks away, which finds it in one heap afterwards.
+    void actUnseen() {
+        QProcess process;
+        process.start(QStringLiteral("xdotool"), m_acts);
+        ASSERT_TRUE(process.waitForFinished(20'000));
+        ASSERT_EQ(process.exitCode(), 0);
+    }
+
 private:
     Hand& operator<<(const char* word) {
         m_acts << QString::fromLatin1(word);
@@ -69,6 +80,8 @@ protected:
         bench.goTo(mappingSides()[0]);
         bench.window().show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&bench.window()));
+        // A drag that sticks fails its test; it shall not keep the others waiting.
+        QTimer::singleShot(10'000, &bench.window(), [] { QDrag::cancel(); });
     }
 
     /// Takes the pointer away: it would be over the windows of the tests to come.
@@ -91,6 +104,14 @@ protected:
         hand.move(from, to, motions);
         hand.release();
         hand.act();
+    }
+
+    /// Once a drag is over a row. It runs within the drag.
+    void whenLit(const std::string& list, int row, std::function<void()> act) {
+        QTimer::singleShot(10, &bench.window(), [this, list, row, act = std::move(act)] {
+            if (bench.widget<StatementListView>(list).litRow() == row) return act();
+            whenLit(list, row, act);
+        });
     }
 
     WindowBench<AnalysisBench> bench{SystemEvents::LetIn};
@@ -156,6 +177,83 @@ TEST_F(RealDrag, IsCalledOffWithEscape) {
     hand.release();
     hand.act();
     EXPECT_EQ(bench.list("lvOpportunity").count(), rows);
+}
+
+TEST_F(RealDrag, IsCalledOffWithEscapeEvenIfTheButtonIsLetGoAtOnceBehindIt) {
+    const int rows = bench.list("lvOpportunity").count();
+    const QPoint from = rowOf("lvStrengthOp", 2).center(), to = rowOf("lvOpportunity", 1).center();
+    whenLit("lvOpportunity", 1, [] {
+        Hand hand;
+        hand.pressEscape();
+        hand.release();
+        hand.actUnseen();
+    });
+    Hand hand;
+    hand.press(from);
+    hand.move(from, to, 5);
+    hand.act();
+    EXPECT_EQ(bench.list("lvOpportunity").count(), rows);
+}
+
+TEST_F(RealDrag, StaysCalledOffThoughThePointerMovesOnWithTheButtonDown) {
+    Hand hand;
+    const QPoint from = rowOf("lvStrengthOp", 2).center(), to = rowOf("lvOpportunity", 1).center();
+    const int rows = bench.list("lvOpportunity").count();
+    hand.press(from);
+    hand.move(from, to, 5);
+    hand.rest("0.1");
+    hand.pressEscape();
+    hand.rest("0.1");
+    hand.move(to, from, 3);
+    hand.move(from, to, 3);
+    hand.rest("0.1");
+    hand.release();
+    hand.act();
+    EXPECT_EQ(bench.list("lvOpportunity").count(), rows);
+}
+
+TEST_F(RealDrag, IsCalledOffWithEscapeBeforeTheWindowSawAnyOfIt) {
+    Hand hand;
+    const QPoint from = rowOf("lvStrengthOp", 2).center(), to = rowOf("lvOpportunity", 1).center();
+    const int rows = bench.list("lvOpportunity").count();
+    hand.press(from);
+    hand.move(from, to, 5);
+    hand.pressEscape();
+    hand.release();
+    hand.actUnseen();
+    QTest::qWait(100);
+    EXPECT_EQ(bench.list("lvOpportunity").count(), rows);
+}
+
+TEST_P(QuickDrag, LandsWhereItWasLetGoThoughThePointerWentOnUnseen) {
+    const QPoint from = rowOf("lvStrengthOp", 2).center(), to = rowOf("lvOpportunity", 1).center();
+    Hand hand;
+    hand.press(from);
+    hand.move(from, to, GetParam());
+    hand.release();
+    hand.move(to, rowOf("lvOpportunity", 2).center(), 2);
+    hand.actUnseen();
+    QTest::qWait(100);
+    EXPECT_EQ(bench.keys("lvOpportunity")[1], "O1-S2");
+}
+
+TEST_F(RealDrag, LandsWhereItWasLetGoThoughAnotherOneFollowedUnseen) {
+    const QPoint strength = rowOf("lvStrengthOp", 2).center(),
+                 weakness = rowOf("lvWeaknessOp", 1).center(),
+                 first = rowOf("lvOpportunity", 2).center(),
+                 second = rowOf("lvOpportunity", 1).center();
+    Hand hand;
+    hand.press(strength);
+    hand.move(strength, first, 3);
+    hand.release();
+    hand.press(weakness);
+    hand.move(weakness, second, 3);
+    hand.release();
+    hand.actUnseen();
+    QTest::qWait(100);
+    const auto keys = bench.keys("lvOpportunity");
+    EXPECT_TRUE(std::ranges::count(keys, "O2-S2"));
+    EXPECT_TRUE(std::ranges::count(keys, "O1-W1"));
 }
 
 TEST_F(RealDrag, LandsOnTheRowThatTheWheelBroughtUnderThePointer) {
