@@ -233,7 +233,7 @@ TEST_P(LegibleRows, CanBeReadUnderThePointer) {
 }
 
 TEST_P(LegibleRows, CanBeReadWhileADropWouldLandOnThem) {
-    bench.select("lvStrengthOp", 1);
+    bench.select("lvStrengthOp", 2);
     draggedOver(bench.program(), bench.list("lvStrengthOp"));
     const StatementDrag drag(bench.list("lvStrengthOp"));
     QDragEnterEvent move(placeOf(1).center(), Qt::MoveAction, &drag, Qt::LeftButton,
