@@ -2,10 +2,12 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLayout>
+#include <QScreen>
 #include <QStyle>
+#include <algorithm>
 #include <array>
 #include <cassert>
 
@@ -60,13 +62,18 @@ MessageBox::MessageBox(const Message& message, QWidget* owner)
 }
 
 /// The toolkit fits the box to its text, so that a short one stands small above its icon's middle.
+/// The room is beside the text: a least width of its own would keep a long one from being broken.
 void MessageBox::giveRoom() {
-    const int narrowest = enlarged(320);
+    constexpr int leftBeside = 480;  // the toolkit makes no box wider than a screen less this
     auto* words = findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
-    assert(words);
-    const QMargins margins = layout()->contentsMargins();
-    words->setMinimumSize(narrowest - margins.left() - margins.right(),
-                          style()->pixelMetric(QStyle::PM_MessageBoxIconSize));
+    auto* grid = qobject_cast<QGridLayout*>(layout());
+    assert(words && grid);
+    words->setMinimumHeight(style()->pixelMetric(QStyle::PM_MessageBoxIconSize));
+    const QMargins margins = grid->contentsMargins();
+    const int narrowest =
+        std::min(enlarged(320), screen()->availableGeometry().width() - leftBeside);
+    grid->addItem(new QSpacerItem(narrowest - margins.left() - margins.right(), 0),
+                  grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 void MessageBox::keyPressEvent(QKeyEvent* event) {

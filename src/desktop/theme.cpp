@@ -287,6 +287,8 @@ QToolBar {
     spacing: 2u;
 }
 QToolButton { border: 1px solid transparent; border-radius: 4u; padding: 4u-1px; }
+QToolBar QToolButton { padding: 2u-1px; }
+QToolBar QToolButton:focus { padding: 2u-2px; }
 QToolButton:hover { background: @paper; border-color: @outline; }
 QToolButton:checked, QToolButton:pressed { background: @selection; border-color: @deepBlue; }
 QToolButton:focus { border: 2px solid @deepBlue; padding: 4u-2px; }

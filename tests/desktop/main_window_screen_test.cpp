@@ -333,6 +333,14 @@ TEST(AnyScreen, HoldsTheDialogsOfTheToolkit) {
     expectOnScreen(message, "message");
     for (const QAbstractButton* button : message.findChildren<QAbstractButton*>())
         EXPECT_GE(button->width(), neededBy(*button).width()) << button->text().toStdString();
+    MessageBox longOne({.text = "Is this to be kept?\n" + words(40), .icon = MessageIcon::Stop},
+                       nullptr);
+    longOne.show();
+    QCoreApplication::processEvents();
+    const auto& text = *longOne.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    EXPECT_TRUE(longOne.rect().contains(text.geometry()));
+    EXPECT_LE(text.heightForWidth(text.width()), text.height());
+    EXPECT_TRUE(text.wordWrap());
     FileChooser chooser({.mode = FileDialogMode::Open,
                          .filter = "All Brainstorming Files (*.bsm)|*.bsm",
                          .initialPath = {},
@@ -350,6 +358,8 @@ TEST(AnyScreen, HoldsThePrintPreview) {
         const QRect room = preview->screen()->availableGeometry();
         EXPECT_LE(preview->width(), room.width());
         EXPECT_LE(preview->height(), room.height());
+        for (const QComboBox* choice : preview->findChildren<QComboBox*>())
+            EXPECT_TRUE(choice->isVisible()) << "of the paper or of the scale";
         looked = true;
         preview->reject();
     });
