@@ -283,12 +283,11 @@ QRadioButton::indicator:checked {
 QRadioButton::indicator:checked:disabled { border-color: @disabledInk; }
 
 QToolBar {
-    background: @sideGround; border: none; border-bottom: 1px solid @hairline; padding: 4u;
-    spacing: 2u;
+    background: @sideGround; border: none; border-bottom: 1px solid @hairline; padding: 2u;
+    spacing: 0;
 }
 QToolButton { border: 1px solid transparent; border-radius: 4u; padding: 4u-1px; }
-QToolBar QToolButton { padding: 2u-1px; }
-QToolBar QToolButton:focus { padding: 2u-2px; }
+QToolBar QToolButton, QToolBar QToolButton:focus { padding: 0; }
 QToolButton:hover { background: @paper; border-color: @outline; }
 QToolButton:checked, QToolButton:pressed { background: @selection; border-color: @deepBlue; }
 QToolButton:focus { border: 2px solid @deepBlue; padding: 4u-2px; }
