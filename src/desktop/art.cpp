@@ -15,7 +15,7 @@ namespace orvanta::desktop {
 namespace {
 
 QString fileOf(const QString& name) {
-    const QString file = QStringLiteral(":/art/%1.svg").arg(name);
+    QString file = QStringLiteral(":/art/%1.svg").arg(name);
     assert(QFile::exists(file));
     return file;
 }

@@ -78,9 +78,9 @@ private:
 
     static QString lineOfMenu(const ListCommand& command) {
         const int widest = enlarged(300);
-        const QString caption = QFontMetrics(QApplication::font())
-                                    .elidedText(lineOf(command.caption), Qt::ElideRight, widest)
-                                    .replace(u'&', QLatin1String("&&"));
+        QString caption = QFontMetrics(QApplication::font())
+                              .elidedText(lineOf(command.caption), Qt::ElideRight, widest)
+                              .replace(u'&', QLatin1String("&&"));
         if (command.key.empty()) return caption;
         return caption + u'\t' + keysFrom(command.key).toString(QKeySequence::NativeText);
     }

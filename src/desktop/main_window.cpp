@@ -38,6 +38,8 @@ template <class... Acts>
 struct Overloaded : Acts... {
     using Acts::operator()...;
 };
+template <class... Acts>
+Overloaded(Acts...) -> Overloaded<Acts...>;
 
 /// A panel: an opaque area of its own.
 class PanelView : public ControlArea {
@@ -283,8 +285,9 @@ void MainWindow::makeByKind(Control& control, ControlArea& area) {
 /// screen reader.
 void MainWindow::orderTabs() {
     std::vector<QWidget*> stops = inReadingOrder(*this);
-    std::ranges::stable_partition(
-        stops, [voice = findChild<QCheckBox*>()](const QWidget* stop) { return stop == voice; });
+    std::stable_partition(
+        stops.begin(), stops.end(),
+        [voice = findChild<QCheckBox*>()](const QWidget* stop) { return stop == voice; });
     desktop::setTabOrder(*this, stops);
 }
 

@@ -9,4 +9,4 @@ trap 'rm -rf -- "$home"' EXIT
 printf '[General]\nfont=DejaVu Sans,%s,-1,5,50,0,0,0,0,0\n' "$3" >"$home/kdeglobals"
 XDG_CONFIG_HOME=$home XDG_RUNTIME_DIR=$home QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME=kde \
     KDE_SESSION_VERSION=5 QT_SCALE_FACTOR=$2 \
-    xvfb-run -a -n $((10000 + $$ % 9000)) -s "-screen 0 $1x24" "${@:4}"
+    xvfb-run -a -n $((10000 + $$ % 9000)) -s "-screen 0 $1x24 -noreset" "${@:4}"

@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "app/window_events.h"
@@ -210,7 +211,10 @@ void Monkey::clickAnywhere() {
     if (!m_undoes && under &&
         (under->objectName() == "cmdUndo" || under->objectName() == "cmdRedo"))
         return;
-    Hand::click(*m_window, place, m_chance.pick(buttons));
+    const Qt::MouseButton button = m_chance.pick(buttons);
+    // The toolkit's menu of a scroll bar waits for a choice, and would wait for good.
+    if (button == Qt::RightButton && qobject_cast<const QScrollBar*>(under)) return;
+    Hand::click(*m_window, place, button);
 }
 
 void Monkey::pressAndLeave() {
