@@ -15,15 +15,15 @@
 #include <QToolBar>
 #include <utility>
 
-#include "core/constants.h"
 #include "desktop/art.h"
 #include "desktop/conversions.h"
 #include "desktop/enlargement.h"
-#include "desktop/message_box.h"
+#include "desktop/file_chooser.h"
 #include "desktop/question_sheet_pages.h"
 #include "desktop/screen_room.h"
 #include "desktop/theme.h"
 #include "presentation/sheet_texts.h"
+#include "view/path_text.h"
 
 namespace orvanta::desktop {
 
@@ -98,10 +98,10 @@ bool isWanted(const QPrinter& printer, int page) {
 }
 
 void tellWhatIsMissing(const QuestionSheets& sheets) {
-    MessageBox box({.text = {}, .icon = MessageIcon::Stop, .title = std::string(appTitle)},
-                   QApplication::activeWindow());
-    box.setText(fromCp1252(nothingToPrint) + u'\n' + fromPath(sheets.bankPath));
-    box.exec();
+    const FileChoice missing{.act = FileChoiceAct::Refuse,
+                             .path = nativeFromPath(sheets.bankPath),
+                             .reason = nothingToPrint};
+    boxOfRefusal(missing, QApplication::activeWindow())->exec();
 }
 
 }  // namespace
