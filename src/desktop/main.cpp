@@ -52,7 +52,9 @@ void setUnreadableSettingsAside() {
     constexpr qint64 most = 1 << 20;
     const QString settings =
         QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    const QString file = QDir(settings).filePath("Orvanta/Orvanta.ini");
+    const QString file = QDir(settings).filePath(
+        QStringLiteral("%1/%2.ini")
+            .arg(QCoreApplication::organizationName(), QCoreApplication::applicationName()));
     if (QFileInfo(file).size() > most) QFile::rename(file, file + ".damaged");
 }
 
@@ -97,8 +99,9 @@ int main(int argc, char** argv) {
         [&raise] {
             if (raise) raise();
         });
+    const std::string ofProgram = programFolder();
     ScratchLocks locks;
-    const auto scratch = scratchFolder(programFolder(), dataPath().toStdString(), locks);
+    const auto scratch = scratchFolder(ofProgram, dataPath().toStdString(), locks);
     if (!scratch) return EXIT_SUCCESS;
     removeLeftovers(*scratch);
 
@@ -107,7 +110,7 @@ int main(int argc, char** argv) {
     RescuedSaves rescuedSaves(rescue);
     DesktopPlatform desktop(disk);
     desktop.platform().failedSaves = &rescuedSaves;
-    Program program(desktop.platform(), pathFromNative(programFolder()), pathFromNative(*scratch));
+    Program program(desktop.platform(), pathFromNative(ofProgram), pathFromNative(*scratch));
     MainWindow window(program);
     window.tellOf(rescuedSaves);
     const AutoSaveTimer autoSave(program);
