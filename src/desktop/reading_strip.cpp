@@ -1,7 +1,7 @@
 #include "desktop/reading_strip.h"
 
 #include <QPainter>
-#include <QTextLayout>
+#include <QTextOption>
 #include <algorithm>
 
 #include "desktop/enlargement.h"
@@ -92,18 +92,10 @@ void ReadingStrip::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), enlarged(3),
                             enlarged(3));
     painter.setPen(palette().color(m_isHint ? QPalette::PlaceholderText : QPalette::WindowText));
-    QTextLayout layout(text(), font());
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    double top = 0;
-    for (QTextLine line; (line = layout.createLine()).isValid(); top += line.height()) {
-        line.setLineWidth(width() - 2 * (textMargin() + frame));
-        line.setPosition({0, top});
-    }
-    layout.endLayout();
-    layout.draw(&painter, QPointF(textMargin() + frame, textMargin()));
+    const int side = textMargin() + frame;
+    painter.drawText(QRectF(rect()).adjusted(side, textMargin(), -side, 0), text(), option);
 }
 
 }  // namespace orvanta::desktop
