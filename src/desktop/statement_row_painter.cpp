@@ -21,10 +21,10 @@ QColor inkOf(const Row& row) {
 }
 
 /// The chosen row is strong where the keyboard is, and quiet in the other lists.
-void drawGround(QPainter& painter, const QStyleOptionViewItem& option, bool hasKeyboard) {
+void drawGround(QPainter& painter, const QStyleOptionViewItem& option, const RowLengths& lengths,
+                bool hasKeyboard) {
     const QRect& place = option.rect;
     if (option.state & QStyle::State_Selected) {
-        const RowLengths lengths;
         const int edge = hasKeyboard ? lengths.edge : lengths.quietEdge;
         painter.fillRect(place, hasKeyboard ? theme::selection : theme::sideGround);
         painter.fillRect(QRect(place.topLeft(), QSize(edge, place.height())),
@@ -56,8 +56,7 @@ QStringList brokenAt(const QString& text, const QFont& font, int width, int most
 }
 
 void drawContent(QPainter& painter, const QRect& place, const Row& row, const QFont& font,
-                 int mostLines) {
-    const RowLengths lengths;
+                 const RowLengths& lengths, int mostLines) {
     const QRect room = place.adjusted(lengths.textLeft(row), 0, -lengths.gap, 0);
     rowIcon(row.image).paint(&painter, QRect(room.left() - lengths.gap - lengths.picture,
                                              place.top() + (place.height() - lengths.picture) / 2,
@@ -92,10 +91,10 @@ bool hasCounts(const Row& row, const MappingCounts* counts) {
 }
 
 /// Draws one number and its picture at the right of a place; returns where they begin.
-int drawCount(QPainter& painter, const QRect& place, StatementKind kind, int number, int width) {
+int drawCount(QPainter& painter, const QRect& place, const RowLengths& lengths, StatementKind kind,
+              int number, int width) {
     painter.drawText(QRect(place.right() - width, place.top(), width, place.height()),
                      Qt::AlignLeft | Qt::AlignVCenter, QString::number(number));
-    const RowLengths lengths;
     const int size = lengths.smallPicture, left = place.right() - width - lengths.numberGap - size;
     smallRowIcon(imageOf(kind))
         .paint(&painter, QRect(left, place.top() + (place.height() - size) / 2, size, size));
@@ -104,26 +103,26 @@ int drawCount(QPainter& painter, const QRect& place, StatementKind kind, int num
 
 /// Draws at the right of a row what is mapped under it, below each other if there are two lines;
 /// returns where that begins.
-int drawCounts(QPainter& painter, const QStyleOptionViewItem& option,
+int drawCounts(QPainter& painter, const QStyleOptionViewItem& option, const RowLengths& lengths,
                const MappingCounts::Count& count, int lines) {
     const QFontMetrics metrics(option.font);
-    const RowLengths lengths;
     painter.setFont(option.font);
     painter.setPen(option.palette.color(QPalette::PlaceholderText));
     const int strengths = numberWidth(count.strengths, metrics),
               weaknesses = numberWidth(count.weaknesses, metrics), gap = lengths.gap;
+    const auto draw = [&](const QRect& place, StatementKind kind, int number, int width) {
+        return drawCount(painter, place, lengths, kind, number, width) - gap;
+    };
     QRect place = option.rect.adjusted(0, 0, -gap, 0);
     if (lines == 1) {
-        place.setRight(
-            drawCount(painter, place, StatementKind::Weakness, count.weaknesses, weaknesses) - gap);
-        return drawCount(painter, place, StatementKind::Strength, count.strengths, strengths) - gap;
+        place.setRight(draw(place, StatementKind::Weakness, count.weaknesses, weaknesses));
+        return draw(place, StatementKind::Strength, count.strengths, strengths);
     }
     const int widest = std::max(strengths, weaknesses);
     const QRect upper(place.left(), place.center().y() - metrics.height() + 1, place.width(),
                       metrics.height());
-    drawCount(painter, upper.translated(0, metrics.height()), StatementKind::Weakness,
-              count.weaknesses, widest);
-    return drawCount(painter, upper, StatementKind::Strength, count.strengths, widest) - gap;
+    draw(upper.translated(0, metrics.height()), StatementKind::Weakness, count.weaknesses, widest);
+    return draw(upper, StatementKind::Strength, count.strengths, widest);
 }
 
 }  // namespace
@@ -180,16 +179,18 @@ QSize StatementRowPainter::sizeHint(const QStyleOptionViewItem& option, const QM
 void StatementRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                 const QModelIndex& index) const {
     painter->save();
+    const RowLengths lengths;  // read once for all of the row
     if (m_view.litRow() == index.row() + 1)
         drawDropGround(*painter, option.rect);
     else if (!m_view.isLit())
-        drawGround(*painter, option, m_view.hasFocus());
+        drawGround(*painter, option, lengths, m_view.hasFocus());
     const Row& row = m_list.row(index.row() + 1);
     QRect room = option.rect;
     const MappingCounts* counts = m_view.mappingCounts();
     if (hasCounts(row, counts))
-        room.setRight(drawCounts(*painter, option, counts->of(row.key), m_view.linesPerRow()));
-    drawContent(*painter, room, row, option.font, m_view.linesPerRow());
+        room.setRight(
+            drawCounts(*painter, option, lengths, counts->of(row.key), m_view.linesPerRow()));
+    drawContent(*painter, room, row, option.font, lengths, m_view.linesPerRow());
     painter->restore();
 }
 
@@ -211,7 +212,7 @@ QPixmap dragCard(const Row& row, const QFont& font, qreal pixelRatio) {
     painter.drawRoundedRect(QRectF(QPointF(), QSizeF(size)).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
     Row level = row;
     level.indent = 0;
-    drawContent(painter, QRect(QPoint(), size), level, font, 1);
+    drawContent(painter, QRect(QPoint(), size), level, font, lengths, 1);
     return card;
 }
 
