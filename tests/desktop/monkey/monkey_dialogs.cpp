@@ -45,7 +45,9 @@ void Monkey::actOnDialog(QWidget& dialog) {
     if (auto* edit = dynamic_cast<EditDialog*>(&dialog)) return actOnEdit(*edit);
     if (auto* report = dynamic_cast<ReportDialog*>(&dialog)) return actOnReport(*report);
     note("in another dialog");
-    if (m_chance.oneIn(3)) return closeBox(dialog);
+    // No line tells of the page that the link opens.
+    const bool isAtLink = dynamic_cast<LinkView*>(dialog.focusWidget());
+    if (m_chance.oneIn(3) || isAtLink) return closeBox(dialog);
     pressAnyKeyIn(dialog);
 }
 
