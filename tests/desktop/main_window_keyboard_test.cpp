@@ -7,6 +7,7 @@
 #include "desktop/dialogs.h"
 #include "desktop/theme.h"
 #include "painted_contrast.h"
+#include "program_dialogs.h"
 #include "window_bench.h"
 
 namespace orvanta::test {
@@ -101,18 +102,9 @@ TEST_F(Keyboard, GoesThroughAMappingScreenColumnByColumn) {
 }
 
 TEST_F(Keyboard, GoesThroughTheDialogsAsTheEyeDoes) {
-    FrmEdit edit;
-    EditDialog editDialog(analysis.program(), edit, nullptr);
-    FrmReportType report;
-    ReportDialog reportDialog(analysis.program(), report, nullptr);
-    FrmAbout about;
-    AboutDialog aboutDialog(analysis.program(), about, nullptr);
-    for (QDialog* dialog :
-         std::initializer_list<QDialog*>{&editDialog, &reportDialog, &aboutDialog}) {
-        dialog->show();
-        expectReadingOrder(*dialog);
-        dialog->hide();
-    }
+    ProgramDialogs(analysis.program()).showEach([](QDialog& dialog) {
+        expectReadingOrder(dialog);
+    });
 }
 
 TEST_F(Keyboard, ShowsWhereItIsOnEveryScreenOfAnAnalysis) {
@@ -133,18 +125,9 @@ TEST_F(Keyboard, ShowsWhereItIsOnTheScreensOfBrainstorming) {
 }
 
 TEST_F(Keyboard, ShowsWhereItIsInTheDialogs) {
-    FrmEdit edit;
-    EditDialog editDialog(analysis.program(), edit, nullptr);
-    FrmReportType report;
-    ReportDialog reportDialog(analysis.program(), report, nullptr);
-    FrmAbout about;
-    AboutDialog aboutDialog(analysis.program(), about, nullptr);
-    for (QDialog* dialog :
-         std::initializer_list<QDialog*>{&editDialog, &reportDialog, &aboutDialog}) {
-        dialog->show();
-        expectVisibleFocus(*dialog);
-        dialog->hide();
-    }
+    ProgramDialogs(analysis.program()).showEach([](QDialog& dialog) {
+        expectVisibleFocus(dialog);
+    });
 }
 
 TEST_F(Keyboard, StandsOutOfTheBlueGroundOfDialogs) {

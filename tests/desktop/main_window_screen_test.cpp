@@ -27,6 +27,7 @@
 #include "desktop/skinned_button_view.h"
 #include "letters.h"
 #include "printed_sheets.h"
+#include "program_dialogs.h"
 #include "window_bench.h"
 
 namespace orvanta::test {
@@ -137,11 +138,6 @@ void expectWhole(const QWidget& window, const std::string& step, std::size_t lea
 }
 
 void expectUsable(const QWidget& window, const std::string& step) { expectWhole(window, step, 7); }
-
-void expectUsable(QDialog& dialog) {
-    dialog.show();
-    expectWhole(dialog, dialog.objectName().toStdString(), 4);
-}
 
 /// Plays the module and has a look at each of its screens, by name.
 template <class Program, class Look>
@@ -312,16 +308,10 @@ TEST(AnyScreen, ShowsEveryControlOfAnalyzingInTheSmallestWindow) {
 TEST(AnyScreen, ShowsEveryControlOfTheDialogs) {
     WindowBench bench;
     bench.start();
-    FrmEdit edit;
-    edit.txtEdit.setText("A statement");
-    EditDialog editDialog(bench.program(), edit, nullptr);
-    expectUsable(editDialog);
-    FrmReportType report;
-    ReportDialog reportDialog(bench.program(), report, nullptr);
-    expectUsable(reportDialog);
-    FrmAbout about;
-    AboutDialog aboutDialog(bench.program(), about, nullptr);
-    expectUsable(aboutDialog);
+    ProgramDialogs dialogs(bench.program());
+    dialogs.edit.txtEdit.setText("A statement");
+    dialogs.showEach(
+        [](QDialog& dialog) { expectWhole(dialog, dialog.objectName().toStdString(), 4); });
 }
 
 TEST(AnyScreen, HoldsTheDialogsOfTheToolkit) {

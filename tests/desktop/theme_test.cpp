@@ -14,6 +14,7 @@
 #include "desktop/message_box.h"
 #include "desktop/statement_list_view.h"
 #include "painted_contrast.h"
+#include "program_dialogs.h"
 #include "window_bench.h"
 
 namespace orvanta::test {
@@ -271,19 +272,12 @@ TEST_P(Legibility, HoldsForEveryTextOfTheAnalyzeModule) {
 TEST_P(Legibility, HoldsForEveryTextOfTheDialogs) {
     WindowBench bench;
     bench.start();
-    FrmEdit edit;
-    edit.txtEdit.setText("A statement");
-    EditDialog editDialog(bench.program(), edit, nullptr);
-    FrmReportType report;
-    ReportDialog reportDialog(bench.program(), report, nullptr);
-    FrmAbout about;
-    AboutDialog aboutDialog(bench.program(), about, nullptr);
+    ProgramDialogs dialogs(bench.program());
+    dialogs.edit.txtEdit.setText("A statement");
+    dialogs.showEach([](QDialog& dialog) { expectLegibleTexts(dialog); });
     MessageBox messageBox({.text = "Do you want to overwrite the file?"}, nullptr);
-    for (QWidget* dialog :
-         std::initializer_list<QWidget*>{&editDialog, &reportDialog, &aboutDialog, &messageBox}) {
-        dialog->show();
-        expectLegibleTexts(*dialog);
-    }
+    messageBox.show();
+    expectLegibleTexts(messageBox);
 }
 
 TEST_P(DisabledControls, LookDisabled) {
