@@ -24,6 +24,7 @@ declare -A packages=(
     [changing]="bubblewrap lld"
     [packing]="dpkg-dev file gzip lintian desktop-file-utils appstream libxml2-utils"
     [fresh_system]="mmdebstrap"
+    [mingw]="g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine wine64 nsis zip"
 )
 declare -A what_for=(
     [build]="compiling"
@@ -43,6 +44,7 @@ declare -A what_for=(
     [changing]="trying changed sources where they can do no harm"
     [packing]="making and checking packages"
     [fresh_system]="a fresh Debian to try the package on"
+    [mingw]="making the program for Windows and running it"
 )
 declare -A needs=(
     [window]="build window"
@@ -58,6 +60,7 @@ declare -A needs=(
     [mutate]="changing"
     [package]="packing"
     [package_test]="fresh_system"
+    [windows]="build window libraries screen mingw"
 )
 
 for purpose in "$@"; do

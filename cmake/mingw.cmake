@@ -1,0 +1,25 @@
+# Programs for 64-bit Windows, made on Debian with its mingw-w64 and run there by wine.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(mingw x86_64-w64-mingw32)
+set(CMAKE_C_COMPILER ${mingw}-gcc-posix)
+set(CMAKE_CXX_COMPILER ${mingw}-g++-posix)
+set(CMAKE_RC_COMPILER ${mingw}-windres)
+set(CMAKE_CROSSCOMPILING_EMULATOR wine)
+
+# Two libraries are headers alone, so this system's serve Windows as well. They are seen through
+# links, as the folder in which they lie holds this system's own headers too.
+set(header_libraries ${CMAKE_BINARY_DIR}/header_libraries)
+file(MAKE_DIRECTORY ${header_libraries}/include ${header_libraries}/share/cmake)
+foreach(part include/boost include/nlohmann share/cmake/nlohmann_json)
+  if(EXISTS /usr/${part} AND NOT EXISTS ${header_libraries}/${part})
+    file(CREATE_LINK /usr/${part} ${header_libraries}/${part} SYMBOLIC)
+  endif()
+endforeach()
+
+list(APPEND CMAKE_PREFIX_PATH ${header_libraries})
+set(CMAKE_FIND_ROOT_PATH /usr/${mingw} ${header_libraries} ${ORVANTA_WINDOWS_QT})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
