@@ -8,8 +8,9 @@ set(CMAKE_RC_COMPILER ${mingw}-windres)
 set(CMAKE_CROSSCOMPILING_EMULATOR wine)
 
 # Two libraries are headers alone, so this system's serve Windows as well. They are seen through
-# links, as the folder in which they lie holds this system's own headers too.
-set(header_libraries ${CMAKE_BINARY_DIR}/header_libraries)
+# links, as the folder in which they lie holds this system's own headers too. All builds share them:
+# another path would be another command for the compiler's cache.
+cmake_path(SET header_libraries NORMALIZE ${CMAKE_CURRENT_LIST_DIR}/../build/header_libraries)
 file(MAKE_DIRECTORY ${header_libraries}/include ${header_libraries}/share/cmake)
 foreach(part include/boost include/nlohmann share/cmake/nlohmann_json)
   if(EXISTS /usr/${part} AND NOT EXISTS ${header_libraries}/${part})
@@ -17,7 +18,7 @@ foreach(part include/boost include/nlohmann share/cmake/nlohmann_json)
   endif()
 endforeach()
 
-list(APPEND CMAKE_PREFIX_PATH ${header_libraries})
+list(APPEND CMAKE_PREFIX_PATH ${header_libraries} ${ORVANTA_WINDOWS_QT})
 set(CMAKE_FIND_ROOT_PATH /usr/${mingw} ${header_libraries} ${ORVANTA_WINDOWS_QT})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

@@ -4,21 +4,14 @@
 
 #include "view/failure.h"
 #include "view/path_text.h"
+#include "view/windows_names.h"
 
 namespace orvanta {
 
 namespace {
 
 /// Of a text of the code page or a path.
-std::wstring wide(std::string_view text) {
-    const std::string utf8 = nativeFromPath(text);
-    const int length = static_cast<int>(utf8.size());
-    std::wstring result(utf8.size(), L'\0');  // at most a unit for a byte
-    if (length == 0) return result;
-    const int units = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, result.data(), length);
-    result.resize(static_cast<std::size_t>(units));
-    return result;
-}
+std::wstring wide(std::string_view text) { return native::wideFrom(nativeFromPath(text)); }
 
 class Variant {
 public:

@@ -1,5 +1,7 @@
 #include "view/file_dialog.h"
 
+#include "view/native_file.h"
+
 namespace orvanta {
 
 std::string_view endingIn(std::string_view filter) {
@@ -8,7 +10,7 @@ std::string_view endingIn(std::string_view filter) {
 }
 
 std::string withFilterEnding(const std::string& path, const std::string& filter) {
-    const auto nameStart = path.rfind(pathSeparator) + 1;  // 0 where there is no folder
+    const auto nameStart = path.find_last_of(native::pathSeparators) + 1;  // 0 where there is no folder
     if (nameStart == path.size() || path.find('.', nameStart) != std::string::npos) return path;
     return path + std::string(endingIn(filter));
 }

@@ -60,13 +60,7 @@ FileDisk::FileDisk(std::optional<RescueStore> rescue) : m_rescue(std::move(rescu
 }
 
 PathKind FileDisk::kindOf(const std::string& path) const {
-    try {
-        const FileKind kind = native::kindOf(nativeFromPath(path), Links::Follow);
-        if (kind == FileKind::Missing) return PathKind::Missing;
-        return kind == FileKind::Folder ? PathKind::Folder : PathKind::File;
-    } catch (const Failure&) {
-        return PathKind::Missing;
-    }
+    return native::pathKindOf(nativeFromPath(path));
 }
 
 std::string FileDisk::read(const std::string& path) const {

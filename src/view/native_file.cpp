@@ -1,7 +1,5 @@
 #include "view/native_file.h"
 
-#include <filesystem>
-
 namespace orvanta::native {
 
 namespace {
@@ -16,16 +14,12 @@ bool isPassing(std::string_view name) {
 
 }  // namespace
 
-std::vector<std::string> namesIn(const std::string& folder) {
-    std::vector<std::string> names;
-    std::error_code failed;
-    const auto* const utf8 = reinterpret_cast<const char8_t*>(folder.c_str());
-    std::filesystem::directory_iterator entry(std::filesystem::path(utf8), failed);
-    for (; !failed && entry != std::filesystem::directory_iterator(); entry.increment(failed)) {
-        const std::u8string name = entry->path().filename().u8string();
-        names.emplace_back(name.begin(), name.end());
-    }
-    return names;
+std::string folderOf(const std::string& name) {
+    const auto cut = name.find_last_of(pathSeparators);
+    if (cut == std::string::npos) return ".";
+    constexpr bool hasDrives = pathSeparator == '\\';
+    const bool isTop = cut == 0 || (hasDrives && cut == 2 && name[1] == ':');
+    return name.substr(0, isTop ? cut + 1 : cut);
 }
 
 void tryToRemove(const std::string& name) {

@@ -10,8 +10,16 @@
 #include "view/platform.h"
 
 /// The calls of the system on which the disk builds its rules; those of POSIX are in
-/// posix_file.cpp. Names are UTF-8. What fails, fails with the Failure that FileDisk tells.
+/// posix_file.cpp, those of Windows in windows_file.cpp. Names are UTF-8. What fails, fails with
+/// the Failure that FileDisk tells.
 namespace orvanta::native {
+
+/// All that part a path, the one that the program writes among them.
+#ifdef _WIN32
+constexpr std::string_view pathSeparators = "\\/";
+#else
+constexpr std::string_view pathSeparators = "/";
+#endif
 
 enum class FileKind { Missing, Plain, Folder, Link, Other };
 /// Whether a symbolic link at the end of a name stands for what it leads to or for itself.
@@ -29,17 +37,26 @@ struct FolderRefusal : Failure {
     explicit FolderRefusal(const Failure& failure) : Failure(failure) {}
 };
 
+#ifdef _WIN32
+using Descriptor = void*;
+/// What a new file in the place of a former one gets.
+enum class Rights { OfFolder, OfFormer };
+#else
+using Descriptor = int;
+using Rights = unsigned;  // the mode of a file
+#endif
+
+/// What the program takes for a file or a folder; never fails. Where the system has attribute
+/// words, only one that says "folder" and nothing else is a folder, and all the rest is files.
+PathKind pathKindOf(const std::string& name);
 /// Missing where nothing is there; fails where that can't be told.
 FileKind kindOf(const std::string& name, Links links);
 /// The name behind any links; there need be nothing. Links in a circle fail with PathFileAccess.
 std::string targetOf(std::string name);
-inline std::string folderOf(const std::string& name) {
-    const auto cut = name.rfind(pathSeparator);
-    if (cut == std::string::npos) return ".";
-    return name.substr(0, cut == 0 ? 1 : cut);
-}
+/// With its separator only where that is the whole name of the folder, a drive apart.
+std::string folderOf(const std::string& name);
 inline std::string_view withoutFolder(std::string_view name) {
-    return name.substr(name.rfind(pathSeparator) + 1);
+    return name.substr(name.find_last_of(pathSeparators) + 1);
 }
 /// The names in a folder, without their folder; none where it can't be looked into.
 std::vector<std::string> namesIn(const std::string& folder);
@@ -51,7 +68,8 @@ void requireWritable(const std::string& name);
 /// True for a folder that this user may look into and enter.
 bool isOpenFolder(const std::string& name);
 void makeFolder(const std::string& name);
-/// Makes a folder that only this user may enter, with its parents, unless it is there.
+/// Makes a folder that only this user may enter, with its parents, unless it is there. Windows
+/// leaves it to the folder around it who may.
 void makePrivateFolder(const std::string& name);
 void remove(const std::string& name);
 /// Removes what can be removed.
@@ -68,8 +86,8 @@ public:
     static File toRead(const std::string& name, Links links);
     /// To be read and written in place; never through a link.
     static File toChange(const std::string& name);
-    /// A new file of a name that nothing has yet, for this user alone. Fails with FolderRefusal
-    /// where the folder takes none.
+    /// A new file of a name that nothing has yet, for this user alone; on Windows for this program
+    /// alone while it is open. Fails with FolderRefusal where the folder takes none.
     static File passing(const std::string& folder);
 
     ~File();
@@ -91,9 +109,9 @@ public:
 private:
     friend class NewFile;
     friend void writeInto(const std::string& name, std::string_view bytes);
-    File(int descriptor, std::string name);
+    File(Descriptor descriptor, std::string name);
 
-    int m_descriptor;
+    Descriptor m_descriptor;
     std::string m_name;
 };
 
@@ -119,7 +137,7 @@ public:
 
 private:
     File m_file;
-    unsigned m_mode;
+    Rights m_rights;
     bool m_inPlace = false;
 };
 

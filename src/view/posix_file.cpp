@@ -165,6 +165,16 @@ FileKind kindOf(const std::string& name, Links links) {
     return look(name, links, status) ? kindFrom(status.st_mode) : FileKind::Missing;
 }
 
+PathKind pathKindOf(const std::string& name) {
+    try {
+        const FileKind kind = kindOf(name, Links::Follow);
+        if (kind == FileKind::Missing) return PathKind::Missing;
+        return kind == FileKind::Folder ? PathKind::Folder : PathKind::File;
+    } catch (const Failure&) {
+        return PathKind::Missing;
+    }
+}
+
 std::string targetOf(std::string name) {
     constexpr int mostLinks = 40;  // as many as the system itself follows
     for (int i = 0; i < mostLinks; ++i) {
@@ -173,6 +183,18 @@ std::string targetOf(std::string name) {
         name = std::move(to);
     }
     throw Failure(ErrorNumber::PathFileAccess);
+}
+
+std::vector<std::string> namesIn(const std::string& folder) {
+    std::vector<std::string> names;
+    std::error_code failed;
+    const auto* const utf8 = reinterpret_cast<const char8_t*>(folder.c_str());
+    std::filesystem::directory_iterator entry(std::filesystem::path(utf8), failed);
+    for (; !failed && entry != std::filesystem::directory_iterator(); entry.increment(failed)) {
+        const std::u8string name = entry->path().filename().u8string();
+        names.emplace_back(name.begin(), name.end());
+    }
+    return names;
 }
 
 bool isOwnPlainFile(const std::string& name, std::chrono::seconds olderThan) {
@@ -212,7 +234,8 @@ void writeInto(const std::string& name, std::string_view bytes) {
     file.close();
 }
 
-File::File(int descriptor, std::string name) : m_descriptor(descriptor), m_name(std::move(name)) {
+File::File(Descriptor descriptor, std::string name)
+    : m_descriptor(descriptor), m_name(std::move(name)) {
     if (descriptor < 0) fail(m_name);
 }
 
@@ -287,13 +310,13 @@ void File::close() {
 }
 
 NewFile::NewFile(const std::string& folder)
-    : m_file(File::passing(folder)), m_mode(S_IRUSR | S_IWUSR) {}
+    : m_file(File::passing(folder)), m_rights(S_IRUSR | S_IWUSR) {}
 
 NewFile::~NewFile() {
     if (!m_inPlace) ::unlink(m_file.name().c_str());
 }
 
-void NewFile::takeUsualRights() { m_mode = usualMode(); }
+void NewFile::takeUsualRights() { m_rights = usualMode(); }
 
 void NewFile::takeRightsOf(const std::string& former) {
     struct stat status {};
@@ -304,13 +327,13 @@ void NewFile::takeRightsOf(const std::string& former) {
     const bool listKept = groupKept && copyAccessList(former, m_file.name());
     for (const std::string& attribute : attributesOf(former))
         copyAttribute(attribute.c_str(), former, m_file.name());
-    m_mode = status.st_mode & (S_ISVTX | S_IRWXU | S_IRWXG | S_IRWXO);
+    m_rights = status.st_mode & (S_ISVTX | S_IRWXU | S_IRWXG | S_IRWXO);
     // Rather nobody's than another group's.
-    if (!listKept) m_mode &= ~static_cast<unsigned>(S_IRWXG);
+    if (!listKept) m_rights &= ~static_cast<Rights>(S_IRWXG);
 }
 
 void NewFile::takePlace(const std::string& name) {
-    if (uninterrupted([&] { return ::fchmod(m_file.m_descriptor, m_mode); }) != 0) fail(name);
+    if (uninterrupted([&] { return ::fchmod(m_file.m_descriptor, m_rights); }) != 0) fail(name);
     m_file.flush();
     m_file.close();
     if (::rename(m_file.name().c_str(), name.c_str()) != 0) failInFolder(name);

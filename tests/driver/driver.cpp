@@ -1,8 +1,7 @@
 #include "driver.h"
 
-#include <unistd.h>
-
 #include <algorithm>
+#include <cstdlib>
 
 #include "app/startup.h"
 #include "app/window_events.h"
@@ -338,7 +337,7 @@ void Driver::menu(const Json& line) {
 
 void Driver::close(const Json&) { m_stage.close(); }
 
-void Driver::kill(const Json&) { ::_exit(1); }
+void Driver::kill(const Json&) { std::_Exit(1); }
 
 void Driver::picture(const Json& line) {
     const std::string path = stringIn(line, "path");

@@ -1,6 +1,7 @@
 #include "driver_platform.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 
 #include "presentation/question_sheets.h"
@@ -10,6 +11,10 @@
 namespace orvanta::driver {
 
 namespace {
+
+std::filesystem::path pathFromUtf8(const std::string& name) {
+    return {std::u8string(name.begin(), name.end())};
+}
 
 Json pathOrNull(const std::optional<std::string>& path) {
     return path ? text(*path) : Json(nullptr);
@@ -47,7 +52,7 @@ std::optional<std::string> RecordedFileDialogs::choose(const FileDialogRequest& 
 
 RecordedSettings::RecordedSettings(EventLog& log, std::string path)
     : m_log(log), m_path(std::move(path)) {
-    std::ifstream file(m_path);
+    std::ifstream file(pathFromUtf8(m_path), std::ios::binary);
     m_values = Json::parse(file, nullptr, false);
     if (!m_values.is_object()) m_values = Json::object();
 }
@@ -65,7 +70,7 @@ void RecordedSettings::write(std::string_view section, std::string_view key,
     Json& values = m_values[std::string(section)];
     if (!values.is_object()) values = Json::object();
     values[std::string(key)] = text(value);
-    std::ofstream(m_path) << m_values.dump(2) << '\n';
+    std::ofstream(pathFromUtf8(m_path), std::ios::binary) << m_values.dump(2) << '\n';
     m_log.add({{"event", "setting"}, {"key", std::string(key)}, {"value", text(value)}});
 }
 

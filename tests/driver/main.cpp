@@ -1,10 +1,16 @@
 #include <cstdio>
 #include <iostream>
 #include <string>
-#include <string_view>
+#include <vector>
 
 #include "driver.h"
 #include "view/file_disk.h"
+#ifdef _WIN32
+#include <shellapi.h>
+#include <windows.h>
+
+#include "view/windows_names.h"
+#endif
 
 namespace {
 
@@ -16,16 +22,30 @@ struct Options {
     bool complete = false;
 };
 
-Options optionsFrom(int argc, char** argv) {
+/// Behind the program's own name, in UTF-8.
+std::vector<std::string> argumentsOf(int argc, char** argv) {
+#ifdef _WIN32
+    std::vector<std::string> arguments;
+    wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &argc);
+    for (int i = 1; i < argc; ++i) arguments.push_back(native::utf8From(words[i]));
+    LocalFree(words);
+    (void)argv;
+    return arguments;
+#else
+    return {argv + 1, argv + argc};
+#endif
+}
+
+Options optionsFrom(const std::vector<std::string>& arguments) {
     Options options;
-    for (int i = 1; i < argc; ++i) {
-        const std::string_view option = argv[i];
+    for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
+        const std::string& option = *argument;
         if (option == "--window") {
             options.window = true;
             continue;
         }
-        if (i + 1 == argc) return {};
-        const std::string value = windows1252From(argv[++i]);
+        if (argument + 1 == arguments.end()) return {};
+        const std::string value = windows1252From(*++argument);
         if (option == "--app")
             options.folders.app = value;
         else if (option == "--documents")
@@ -52,7 +72,7 @@ int play(driver::Stage& stage, const driver::Folders& folders) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const Options options = optionsFrom(argc, argv);
+    const Options options = optionsFrom(argumentsOf(argc, argv));
     if (!options.complete) {
         std::fputs("usage: orvanta_driver --app DIR --documents DIR --settings FILE [--window]\n",
                    stderr);

@@ -65,10 +65,10 @@ protected:
     }
 
     /// Performs the save with room for so many bytes in any file.
-    void performWithRoomFor(rlim_t room) {
+    void performWithRoomFor(std::uintmax_t room) {
         disk.room = room;
         GetParam().perform(*this);
-        disk.room = std::numeric_limits<rlim_t>::max();
+        disk.room = std::numeric_limits<std::uintmax_t>::max();
     }
     std::string saved() const { return folder.read(GetParam().target); }
 
@@ -128,12 +128,12 @@ const std::vector<Save> saves{
 INSTANTIATE_TEST_SUITE_P(Of, SaveOnAFullDisk, testing::ValuesIn(saves), NameOfParameter{});
 
 TEST_P(SaveOnAFullDisk, LeavesTheFormerFileByteForByteUntilTheNewOneIsThereWhole) {
-    performWithRoomFor(std::numeric_limits<rlim_t>::max());
+    performWithRoomFor(std::numeric_limits<std::uintmax_t>::max());
     const std::string whole = saved();
     ASSERT_FALSE(whole.empty());
     folder.write(GetParam().target, "former");
     const auto names = folder.names();
-    for (rlim_t room = 0; room < whole.size(); ++room) {
+    for (std::uintmax_t room = 0; room < whole.size(); ++room) {
         performWithRoomFor(room);
         ASSERT_EQ(saved(), "former") << "with room for " << room << " bytes";
         ASSERT_EQ(folder.names(), names);
@@ -149,7 +149,7 @@ TEST_P(SaveOnAFullDisk, LeavesNoPieceOfAFileWhereThereWasNone) {
 }
 
 TEST_P(SaveOnAFullDisk, TellsOfANamedFileThatWasNotWrittenAndHandsOverItsSession) {
-    performWithRoomFor(std::numeric_limits<rlim_t>::max());
+    performWithRoomFor(std::numeric_limits<std::uintmax_t>::max());
     EXPECT_TRUE(told.paths.empty());
     const std::string whole = saved();
     performWithRoomFor(10);

@@ -1,10 +1,12 @@
 #pragma once
 
-#include <sys/resource.h>
-
+#include <cstdint>
 #include <limits>
 
 #include "view/file_disk.h"
+#ifndef _WIN32
+#include <sys/resource.h>
+#endif
 
 namespace orvanta::test {
 
@@ -12,23 +14,23 @@ namespace orvanta::test {
 /// there as it does on a full device.
 class FileSizeLimit {
 public:
-    explicit FileSizeLimit(rlim_t bytes) {
-        ::getrlimit(RLIMIT_FSIZE, &m_former);
-        const rlimit limit{bytes, m_former.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &m_former); }
+    explicit FileSizeLimit(std::uintmax_t bytes);
+    ~FileSizeLimit();
     FileSizeLimit(const FileSizeLimit&) = delete;
     FileSizeLimit& operator=(const FileSizeLimit&) = delete;
 
 private:
+#ifdef _WIN32
+    std::uintmax_t m_former;
+#else
     rlimit m_former{};
+#endif
 };
 
 /// The real disk, on which a file fails behind so many bytes.
 class FailingDisk : public FileDisk {
 public:
-    rlim_t room = std::numeric_limits<rlim_t>::max();
+    std::uintmax_t room = std::numeric_limits<std::uintmax_t>::max();
 
     void replace(const std::string& path, std::string_view bytes) override {
         const FileSizeLimit limit(room);

@@ -1,13 +1,11 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <string>
 #include <vector>
 
 #include "failure_of.h"
-#include "ordinary_user.h"
 #include "temporary_folder.h"
 #include "view/file_disk.h"
 
@@ -27,19 +25,6 @@ protected:
     int errorOfReplacing(const std::string& path, const std::string& bytes = "new") {
         return failureOf([&] { disk.replace(path, bytes); });
     }
-
-    /// The same, done by an ordinary user.
-    template <class Act>
-    static int errorAsOrdinaryUser(Act act) {
-        return asOrdinaryUser([&] { return failureOf(act); });
-    }
-
-    struct stat statusOf(const std::string& name) const {
-        struct stat status {};
-        ::lstat((folder / name).c_str(), &status);
-        return status;
-    }
-    mode_t modeOf(const std::string& name) const { return statusOf(name).st_mode & 07777; }
 
     TemporaryFolder folder;
     FileDisk disk;

@@ -4,14 +4,14 @@
 #include <array>
 #include <string_view>
 
-#include "real_disk.h"
+#include "posix_disk.h"
 
 namespace orvanta::test {
 namespace {
 
 namespace fs = std::filesystem;
 
-class RightsOfAReplacedFile : public RealDisk {
+class RightsOfAReplacedFile : public PosixDisk {
 protected:
     RightsOfAReplacedFile() { folder.write("file", "former"); }
 
@@ -120,7 +120,7 @@ TEST_F(RightsOfAReplacedFile, AreNotWidenedByItsFolder) {
     EXPECT_EQ(modeOf("file"), 0660u);
 }
 
-TEST_F(RealDisk, GivesANewFileTheModeThatTheUserWants) {
+TEST_F(PosixDisk, GivesANewFileTheModeThatTheUserWants) {
     const mode_t former = ::umask(027);
     disk.replace(folder / "file", "new");
     ::umask(former);

@@ -1,5 +1,5 @@
 #include "failing_disk.h"
-#include "real_disk.h"
+#include "posix_disk.h"
 
 namespace orvanta::test {
 namespace {
@@ -8,7 +8,7 @@ namespace fs = std::filesystem;
 
 /// A folder, not this user's, with a file that everybody may write to. A locked one takes no new
 /// file; a sticky one takes files, but lets nobody replace those of others.
-class KeptFolder : public RealDisk, public testing::WithParamInterface<mode_t> {
+class KeptFolder : public PosixDisk, public testing::WithParamInterface<mode_t> {
 protected:
     KeptFolder() {
         fs::create_directory(folder / "kept");
@@ -49,7 +49,7 @@ TEST_P(KeptFolder, LetsAFileThatMayBeWrittenBeReplaced) {
 
 TEST_P(KeptFolder, KeepsAFileWholeWhereverTheWriteBreaksOff) {
     for (const std::string bytes : {"new and longer", "new"})
-        for (rlim_t room = 0; room < bytes.size(); ++room) {
+        for (std::uintmax_t room = 0; room < bytes.size(); ++room) {
             const FileSizeLimit limit(room);
             ASSERT_EQ(errorOfReplacing(bytes), pathFileAccess) << room;
             ASSERT_EQ(folder.read("kept/file"), "former") << room;
@@ -112,7 +112,7 @@ TEST_P(LockedFolder, DoesNotTouchAFileThatIsTooLargeToBePutBack) {
     EXPECT_EQ(statusOf("kept/file").st_size, bytes);
 }
 
-TEST_F(RealDisk, RescuesNothingWhereAFileIsReplacedAsAWhole) {
+TEST_F(PosixDisk, RescuesNothingWhereAFileIsReplacedAsAWhole) {
     folder.write("file", "former");
     FileDisk rescuing{RescueStore(folder / "rescue")};
     rescuing.replace(folder / "file", "new");
