@@ -1,5 +1,3 @@
-#include <signal.h>
-
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
@@ -9,7 +7,11 @@
 #include "difference.h"
 #include "driver_process.h"
 #include "scenario.h"
+#ifndef _WIN32
+#include <signal.h>
+
 #include "virtual_display.h"
+#endif
 
 namespace {
 
@@ -48,7 +50,7 @@ std::optional<Task> taskFrom(const std::vector<std::string>& words) {
         else if (last)
             return std::nullopt;
         else if (*word == "--driver")
-            task.setup.driver = fs::absolute(*++word);
+            task.setup.driver = fs::absolute(*++word).string();
         else if (*word == "--scenarios")
             task.scenarios = *++word;
         else if (*word == "--time-out")
@@ -66,7 +68,7 @@ std::vector<std::string> allIn(const fs::path& scenarios) {
     std::vector<std::string> names;
     for (const auto& entry : fs::recursive_directory_iterator(scenarios))
         if (entry.path().filename() == "lines.jsonl")
-            names.push_back(fs::relative(entry.path().parent_path(), scenarios).string());
+            names.push_back(fs::relative(entry.path().parent_path(), scenarios).generic_string());
     std::ranges::sort(names);
     return names;
 }
@@ -79,7 +81,7 @@ void keep(const std::vector<Played>& played, const fs::path& expected) {
 
 std::vector<Json> keptAnswers(const fs::path& expected) {
     std::vector<Json> answers;
-    std::ifstream in(expected);
+    std::ifstream in(expected, std::ios::binary);
     std::string line;
     while (std::getline(in, line)) {
         answers.push_back(Json::parse(line, nullptr, false));
@@ -120,8 +122,10 @@ bool passes(const Task& task, const std::string& name) {
 }
 
 int playAll(const Task& task) {
+#ifndef _WIN32
     std::optional<VirtualDisplay> display;
     if (task.xvfb) display.emplace();
+#endif
     const auto names = task.names.empty() ? allIn(task.scenarios) : task.names;
     std::size_t failed = 0;
     for (const std::string& name : names) {
@@ -136,8 +140,10 @@ int playAll(const Task& task) {
 }  // namespace
 
 int main(int argc, char** argv) {
+#ifndef _WIN32
     // A driver that has gone is told by the failing write.
     ::signal(SIGPIPE, SIG_IGN);
+#endif
     try {
         const auto task = taskFrom({argv + 1, argv + argc});
         if (task) return playAll(*task);

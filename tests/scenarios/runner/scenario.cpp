@@ -1,12 +1,13 @@
 #include "scenario.h"
 
-#include <stdlib.h>
-
+#include <algorithm>
 #include <fstream>
 #include <memory>
+#include <random>
 #include <sstream>
 
 #include "driver_process.h"
+#include "view/platform.h"
 #include "view/windows1252.h"
 
 // Besides the driver's own lines a scenario may hold lines for the one who plays it:
@@ -27,9 +28,12 @@ constexpr std::string_view folderWord = "$DIR";
 class TemporaryFolder {
 public:
     TemporaryFolder() {
-        std::string name = (fs::temp_directory_path() / "scenario-XXXXXX").string();
-        if (!::mkdtemp(name.data())) throw Broken("no temporary folder can be made");
-        m_path = fs::canonical(name);
+        fs::path folder;
+        do {
+            folder = fs::temp_directory_path() / ("scenario-" + std::to_string(m_random()));
+        } while (!fs::create_directory(folder));
+        fs::permissions(folder, fs::perms::owner_all);
+        m_path = fs::canonical(folder);
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
@@ -40,6 +44,7 @@ public:
     const fs::path& path() const { return m_path; }
 
 private:
+    std::random_device m_random;
     fs::path m_path;
 };
 
@@ -52,12 +57,29 @@ std::string replaced(std::string text, std::string_view what, std::string_view b
     return text;
 }
 
-/// The value with `what` replaced in each of its strings.
-Json replaced(const Json& value, std::string_view what, std::string_view by) {
-    if (value.is_string()) return replaced(value.get<std::string>(), what, by);
+/// A scenario is written with slashes. What follows the folder in a text is a path.
+std::string withSeparator(std::string text, char from, char to) {
+    const std::size_t folder = text.find(folderWord);
+    if (folder != text.npos)
+        std::replace(text.begin() + static_cast<std::ptrdiff_t>(folder), text.end(), from, to);
+    return text;
+}
+
+std::string ofSystem(const std::string& text, const fs::path& folder) {
+    return replaced(withSeparator(text, '/', pathSeparator), folderWord, folder.string());
+}
+
+std::string ofScenario(const std::string& text, const fs::path& folder) {
+    return withSeparator(replaced(text, folder.string(), folderWord), pathSeparator, '/');
+}
+
+/// The value with each of its strings changed so.
+template <class Change>
+Json changed(const Json& value, Change change) {
+    if (value.is_string()) return change(value.get<std::string>());
     if (!value.is_structured()) return value;
     Json result = value;
-    for (Json& inner : result) inner = replaced(inner, what, by);
+    for (Json& inner : result) inner = changed(inner, change);
     return result;
 }
 
@@ -110,19 +132,27 @@ private:
 
     void startDriver() {
         const fs::path& folder = m_folder.path();
-        std::vector<std::string> command{m_setup.driver,          "--app",         folder / "app",
-                                         "--documents",           folder / "docs", "--settings",
-                                         folder / "settings.json"};
+        const auto inFolder = [&](const char* name) { return (folder / name).string(); };
+        std::vector<std::string> command{
+            m_setup.driver,   "--app",      inFolder("app"),          "--documents",
+            inFolder("docs"), "--settings", inFolder("settings.json")};
         if (m_setup.window) command.push_back("--window");
         m_driver = std::make_unique<DriverProcess>(command, folder, m_deadline);
     }
 
     Json ask(const Json& line) {
         if (!m_driver) throw Broken("the program has ended, and the scenario goes on");
-        m_driver->send(replaced(line, folderWord, m_folder.path().string()).dump());
+        const fs::path& folder = m_folder.path();
+        m_driver->send(
+            changed(line, [&](const std::string& text) { return ofSystem(text, folder); }).dump());
         const Json answer = Json::parse(m_driver->receive(), nullptr, false);
         if (answer.is_discarded()) throw Broken("the driver's answer is no JSON");
-        return replaced(answer, m_folder.path().string(), folderWord);
+        return toScenario(answer);
+    }
+
+    Json toScenario(const Json& value) const {
+        return changed(
+            value, [this](const std::string& text) { return ofScenario(text, m_folder.path()); });
     }
 
     static bool hasExited(const Json& answer) {
@@ -155,8 +185,7 @@ private:
             lines.push_back(utf8From1252(std::string_view(bytes).substr(at, end - at)));
             at = end;
         }
-        return replaced({{"file", name}, {"lines", std::move(lines)}}, m_folder.path().string(),
-                        folderWord);
+        return toScenario({{"file", name}, {"lines", std::move(lines)}});
     }
 
     Json remove(const std::string& name) const {
@@ -187,7 +216,7 @@ bool isComment(const std::string& line) {
 
 std::vector<Played> play(const ScenarioSetup& setup, const fs::path& scenario) {
     Play play(setup, scenario);
-    std::ifstream lines(scenario / "lines.jsonl");
+    std::ifstream lines(scenario / "lines.jsonl", std::ios::binary);
     std::vector<Played> played;
     std::string line;
     while (std::getline(lines, line)) {

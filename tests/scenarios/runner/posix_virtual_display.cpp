@@ -1,5 +1,3 @@
-#include "virtual_display.h"
-
 #include <fcntl.h>
 #include <poll.h>
 #include <signal.h>
@@ -10,6 +8,7 @@
 #include <string>
 
 #include "driver_process.h"
+#include "virtual_display.h"
 
 namespace orvanta::scenarios {
 
