@@ -6,7 +6,6 @@
 #include "driver.h"
 #include "view/file_disk.h"
 #ifdef _WIN32
-#include <shellapi.h>
 #include <windows.h>
 
 #include "view/windows_names.h"
