@@ -5,8 +5,9 @@
 namespace orvanta::desktop {
 
 /// The right to use a folder's temporary files, which one running program has at a time. The
-/// system takes it back when the program ends, however it ends. It belongs to the open file: a file
-/// dialog that opens and closes the lock's file, as it does to tell the types of files, keeps it.
+/// system takes it back when the program ends, however it ends. On POSIX it belongs to an open
+/// file: a file dialog that opens and closes the lock's file, as it does to tell the types of
+/// files, keeps it. On Windows it is a mutex named after the folder.
 class InstanceLock {
 public:
     enum class Holder {
@@ -31,8 +32,14 @@ public:
 private:
     void release();
 
+#ifdef _WIN32
+    void* m_mutex = nullptr;
+    void* m_told = nullptr;  // where others read who holds it
+    unsigned long m_holder = 0;
+#else
     int m_file = -1;
     int m_holder = 0;  // the process of OwnProgram
+#endif
 };
 
 }  // namespace orvanta::desktop

@@ -38,15 +38,18 @@ QString dataPath() {
 
 QString rescuePath() { return QDir(dataPath()).filePath("rescue"); }
 
+std::string nameOf(const QString& path) { return QDir::toNativeSeparators(path).toStdString(); }
+
 /// The folder of the program file, as the system names it: the toolkit would lose bytes of a name
 /// that is not of its code.
 std::string programFolder() {
     std::error_code failure;
     const auto program = std::filesystem::read_symlink("/proc/self/exe", failure);
-    return failure ? QCoreApplication::applicationDirPath().toStdString()
+    return failure ? nameOf(QCoreApplication::applicationDirPath())
                    : program.parent_path().string();
 }
 
+#ifndef _WIN32
 /// A settings file that no memory can hold would end each start; it goes aside.
 void setUnreadableSettingsAside() {
     constexpr qint64 most = 1 << 20;
@@ -57,11 +60,13 @@ void setUnreadableSettingsAside() {
             .arg(QCoreApplication::organizationName(), QCoreApplication::applicationName()));
     if (QFileInfo(file).size() > most) QFile::rename(file, file + ".damaged");
 }
+#endif
 
 /// Programs that were killed while they wrote have left these, in folders of the program's own.
 void removeLeftovers(const std::string& scratch) {
-    const std::string own = dataPath().toStdString(), rescue = rescuePath().toStdString();
-    for (const std::string& folder : {scratch, scratch + "/System", own, rescue})
+    const std::string own = nameOf(dataPath()), rescue = nameOf(rescuePath());
+    for (const std::string& folder :
+         {scratch, scratch + orvanta::pathSeparator + "System", own, rescue})
         orvanta::FileDisk::removeLeftovers(orvanta::pathFromNative(folder));
 }
 
@@ -86,8 +91,10 @@ int main(int argc, char** argv) {
     QCoreApplication::setApplicationName(fromCp1252(appTitle));
     QGuiApplication::setDesktopFileName(QStringLiteral("orvanta"));
     QGuiApplication::setQuitOnLastWindowClosed(false);  // the splash goes before the window comes
+#ifndef _WIN32                                          // there they lie in the registry
     QSettings::setDefaultFormat(QSettings::IniFormat);
     setUnreadableSettingsAside();
+#endif
     applyTheme(application);
 
     std::function<void()> end, raise;
@@ -101,11 +108,11 @@ int main(int argc, char** argv) {
         });
     const std::string ofProgram = programFolder();
     ScratchLocks locks;
-    const auto scratch = scratchFolder(ofProgram, dataPath().toStdString(), locks);
+    const auto scratch = scratchFolder(ofProgram, nameOf(dataPath()), locks);
     if (!scratch) return EXIT_SUCCESS;
     removeLeftovers(*scratch);
 
-    const RescueStore rescue(rescuePath().toStdString());
+    const RescueStore rescue(nameOf(rescuePath()));
     FileDisk disk(rescue);
     RescuedSaves rescuedSaves(rescue);
     DesktopPlatform desktop(disk);

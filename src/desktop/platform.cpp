@@ -39,6 +39,9 @@ QUrl urlOf(const std::string& target) {
     return QUrl::fromLocalFile(text);
 }
 
+/// The path of a name from the toolkit, which parts all names with slashes.
+std::string systemPath(const QString& name) { return toPath(QDir::toNativeSeparators(name)); }
+
 /// The path of the copy that takes the target's place; empty if there is none.
 QString copyBeside(const std::string& target) {
     const std::optional<std::string> copy = installedCopy(target);
@@ -58,7 +61,7 @@ MessageAnswer DesktopMessageBoxes::show(const Message& message) {
 std::optional<std::string> DesktopFileDialogs::choose(const FileDialogRequest& request) {
     FileChooser chooser(request, FileRules::Heeded, owner());
     if (chooser.exec() != QDialog::Accepted) return std::nullopt;
-    return toPath(chooser.paths().front());
+    return systemPath(chooser.paths().front());
 }
 
 std::vector<std::string> DesktopFileDialogs::chooseSeveral(const FileDialogRequest& request) {
@@ -66,7 +69,7 @@ std::vector<std::string> DesktopFileDialogs::chooseSeveral(const FileDialogReque
     chooser.takeSeveral();
     if (chooser.exec() != QDialog::Accepted) return {};
     std::vector<std::string> paths;
-    for (const QString& path : chooser.paths()) paths.push_back(toPath(path));
+    for (const QString& path : chooser.paths()) paths.push_back(systemPath(path));
     return paths;
 }
 
@@ -127,7 +130,7 @@ void DesktopLifetime::reportUnhandled(const Failure& failure) {
 std::string DesktopFolders::documents() const {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     if (!folder.isEmpty()) QDir().mkpath(folder);
-    return toPath(folder);
+    return systemPath(folder);
 }
 
 DesktopPlatform::DesktopPlatform(Disk& disk)

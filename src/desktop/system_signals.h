@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <functional>
+#include <string>
 
 namespace orvanta::desktop {
 
@@ -10,17 +11,26 @@ namespace orvanta::desktop {
 class SystemSignals : public QObject {
 public:
     /// `end` runs for SIGTERM, SIGHUP and SIGINT, `raise` for the signal of a second start. Both
-    /// run from the event loop, that of a dialog included, never inside a handler.
+    /// run from the event loop, that of a dialog included, never inside a handler. Windows has no
+    /// signal that ends a program with windows.
     SystemSignals(std::function<void()> end, std::function<void()> raise);
     ~SystemSignals() override;
 
+#ifdef _WIN32
+    /// The name of the event that a second start sets for the first one, which is this process.
+    static std::wstring raiseEvent(unsigned long process);
+#else
     /// The signal that a second start sends to the first one.
     static int raiseSignal();
+#endif
 
 private:
     void take();
 
     std::function<void()> m_end, m_raise;
+#ifdef _WIN32
+    void* m_event = nullptr;
+#endif
 };
 
 }  // namespace orvanta::desktop

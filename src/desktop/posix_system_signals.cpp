@@ -1,5 +1,3 @@
-#include "desktop/system_signals.h"
-
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -8,6 +6,8 @@
 #include <cassert>
 #include <cerrno>
 #include <csignal>
+
+#include "desktop/system_signals.h"
 
 namespace orvanta::desktop {
 

@@ -1,5 +1,3 @@
-#include "desktop/instance_lock.h"
-
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -10,6 +8,7 @@
 #include <cerrno>
 #include <csignal>
 
+#include "desktop/instance_lock.h"
 #include "desktop/system_signals.h"
 
 namespace orvanta::desktop {
