@@ -10,7 +10,8 @@ std::string_view endingIn(std::string_view filter) {
 }
 
 std::string withFilterEnding(const std::string& path, const std::string& filter) {
-    const auto nameStart = path.find_last_of(native::pathSeparators) + 1;  // 0 where there is no folder
+    const auto nameStart =
+        path.find_last_of(native::pathSeparators) + 1;  // 0 where there is no folder
     if (nameStart == path.size() || path.find('.', nameStart) != std::string::npos) return path;
     return path + std::string(endingIn(filter));
 }
