@@ -302,7 +302,6 @@ void MainWindow::showSize() {
     setDesignSize(form.width, form.height);
     setMinimumSize(leastWindow().boundedTo(designSize()));
     resize(designSize().boundedTo(roomForWindow()));
-    placeAll();
 }
 
 void MainWindow::showShown() {

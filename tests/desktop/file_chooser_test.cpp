@@ -155,6 +155,16 @@ TEST(FileChooser, ShowsTheSizeTheKindAndTheDateOfAFileWhole) {
             << column;
 }
 
+TEST(FileChooser, SaysOnceWhichFilesItShows) {
+    for (const char* filter : {"Brainstorm (*.bsm)|*.bsm", "Brainstorm|*.bsm"}) {
+        const FileChooser chooser(
+            {.mode = FileDialogMode::Open, .filter = filter, .initialPath = {}, .fileName = {}},
+            FileRules::Heeded, nullptr);
+        EXPECT_EQ(chooser.nameFilters(), QStringList(QStringLiteral("Brainstorm (*.bsm)")))
+            << filter;
+    }
+}
+
 TEST_P(EitherChooser, EntersATypedFolder) {
     enter("Team");
     EXPECT_EQ(shown(), "Team");

@@ -45,6 +45,23 @@ TEST(ChosenRow, IsStrongInTheListThatHasTheKeyboardAndQuietInTheOthers) {
     }
 }
 
+TEST(RowOfTwoLines, HoldsOnBothAWordThatIsWiderThanTheList) {
+    WindowBench<AnalysisBench> bench;
+    bench.goTo(mappingSides()[0]);
+    bench.window().show();
+    auto& view = bench.widget<StatementListView>("lvOpportunity");
+    bench.list("lvOpportunity").setText(1, std::string(300, 'M'));
+    QCoreApplication::processEvents();
+    ASSERT_EQ(view.linesPerRow(), 2);
+    const QRect row = view.visualRect(view.indexAtPosition(1));
+    const QSize part(40, row.height() * 3 / 10);
+    for (const int top : {row.top(), row.bottom() - part.height()})
+        EXPECT_GT(writtenContrast(paintedAs(
+                      *view.viewport(), QRect({row.center().x() - part.width() / 2, top}, part))),
+                  4)
+            << "below " << top;
+}
+
 TEST(CountsInTheMappingList, StandAtTheRightOfARowAndFollowIt) {
     WindowBench<AnalysisBench> bench;
     bench.goTo(mappingSides()[0]);
