@@ -16,6 +16,8 @@
 #include "desktop/conversions.h"
 #include "desktop/enlargement.h"
 #include "desktop/file_pictures.h"
+#include "desktop/instance_lock.h"
+#include "desktop/own_folders.h"
 #include "desktop/screen_room.h"
 
 namespace orvanta::desktop {
@@ -44,12 +46,13 @@ QString startFolder(const std::string& initialPath) {
 
 FileChooser::FileChooser(const FileDialogRequest& request, FileRules rules, QWidget* owner)
     : QFileDialog(owner, {}, startFolder(request.initialPath), filterFrom(request.filter)),
-      m_place{
-          .mode = request.mode,
-          .filter = request.filter,
-          .folder = {},
-          .home = QDir::homePath().toStdString(),
-          .ownNames = {std::string(brainstormTemporaryName), std::string(analyzeTemporaryName)}},
+      m_place{.mode = request.mode,
+              .filter = request.filter,
+              .folder = {},
+              .home = QDir::homePath().toStdString(),
+              .ownNames = {std::string(brainstormTemporaryName), std::string(analyzeTemporaryName),
+                           lockName},
+              .ownFolder = rescuePath().toStdString()},
       m_rules(rules) {
     setOption(DontUseNativeDialog);
     setOption(DontConfirmOverwrite);

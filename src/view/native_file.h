@@ -43,6 +43,8 @@ inline std::string_view withoutFolder(std::string_view name) {
 }
 /// The names in a folder, without their folder; none where it can't be looked into.
 std::vector<std::string> namesIn(const std::string& folder);
+/// True if the file has a second name.
+bool hasSecondName(const std::string& name);
 /// A plain file of this user that was last written longer ago than this; no link.
 bool isOwnPlainFile(const std::string& name, std::chrono::seconds olderThan);
 
@@ -54,6 +56,9 @@ void makeFolder(const std::string& name);
 /// Makes a folder that only this user may enter, with its parents, unless it is there.
 void makePrivateFolder(const std::string& name);
 void remove(const std::string& name);
+/// A second name for the same file; it goes on when the first one goes.
+void giveSecondName(const std::string& name, const std::string& second);
+void rename(const std::string& name, const std::string& other);
 /// Removes what can be removed.
 void tryToRemove(const std::string& name);
 /// Removes the passing files that are this user's and older than a day: programs that were killed

@@ -55,6 +55,8 @@ protected:
         fs::create_symlink("Team", all / "here/link");
         fs::create_symlink("Team/new.bsm", all / "here/ahead.bsm");
         fs::create_symlink("own.tmp", all / "here/alias.bsm");
+        fs::create_directory(all / "here/Copies");
+        allow("here/Copies", 0777);
         fs::create_symlink("nowhere/new.bsm", all / "here/astray.bsm");
         fs::create_symlink("round.bsm", all / "here/round.bsm");
         ::mkfifo((all / "here/pipe.bsm").c_str(), 0666);
@@ -79,7 +81,8 @@ protected:
                                     .filter = "All Brainstorming Files (*.bsm)|*.bsm",
                                     .folder = all / "here",
                                     .home = all / "home",
-                                    .ownNames = {"own.tmp"}};
+                                    .ownNames = {"own.tmp"},
+                                    .ownFolder = all / "here/Copies"};
         const TemporaryFolder told;
         asOrdinaryUser([&] {
             told.write("choice", inWords(choiceOf(place, replaced(typed, "$", all.path()))));
@@ -153,6 +156,10 @@ INSTANTIATE_TEST_SUITE_P(
               "You may not look into this folder: $/here/closed"},
         Typed{"UnderANameOfTheProgramsOwnIsRefused", save, "Team/own.tmp",
               "The program keeps files of its own under this name: $/here/Team/own.tmp"},
+        Typed{"UnderANameOfAFileInTheMakingIsRefused", save, ".orvanta-AbC123",
+              "The program keeps files of its own under this name: $/here/.orvanta-AbC123"},
+        Typed{"IntoAFolderOfTheProgramsOwnIsRefused", save, "Copies/new",
+              "The program keeps only its newest copies in this folder: $/here/Copies"},
         Typed{"BehindALinkToANameOfTheProgramsOwnIsRefused", save, "alias",
               "The program keeps files of its own under this name: $/here/alias.bsm"},
         Typed{"OverAReadOnlyFileIsRefused", save, "mine",
