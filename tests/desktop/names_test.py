@@ -19,7 +19,7 @@ ONE, OTHER = "Δάφνη", "Φάνης"
 LOST = "Λήθη"
 
 
-def answer(program, strength):
+def begin(program, strength):
     program.press("Brainstorm")
     program.wait_for_label("Step 1 of 5")
     options = [n.get_name() for n in shown(program.window()) if n.get_role_name() == "radio button"]
@@ -31,6 +31,10 @@ def answer(program, strength):
     program.write("New Strength", strength)
     program.press("Add")
     program.wait_for_rows("Strength list", 1)
+
+
+def answer(program, strength):
+    begin(program, strength)
     press_until(program, "Next>>", lambda: has(program, "push button", "Save..."))
 
 
@@ -110,13 +114,29 @@ def settings_bring_the_folder_back(program, documents):
     browse(program, "ανάλυση", documents / "ανάλυση.aze")
 
 
+def a_session_behind_a_file_dialog_is_kept(program, _):
+    """The question before the dialog was answered No, and the program is ended instead."""
+    program.restart()
+    begin(program, "Skilled staff")
+    program.press("<<Back")
+    program.wait_for_label("Step 1 of 5")
+    program.press("Open Brainstorm File...")
+    program.press("No")
+    program.find("text", "File name:")
+    program.process.terminate()
+    program.wait_for_end()
+    copy = (program.folder / "brainstorm.tmp").read_text()
+    expect("Skilled staff" in copy, f"the copy holds {copy}")
+
+
 def main():
     if INSIDE not in os.environ:
         sys.exit(on_a_desktop_of_its_own())
     with Program(sys.argv[1], sys.argv[2], HOME, APP, DOCUMENTS) as program:
         documents = program.home / DOCUMENTS
         for claim in (two_sessions, a_failed_save_is_told, analyze, report,
-                      settings_bring_the_folder_back):
+                      settings_bring_the_folder_back,
+                      a_session_behind_a_file_dialog_is_kept):
             claim(program, documents)
     sys.exit(1 if failures else 0)
 

@@ -168,11 +168,14 @@ TEST(QuestionSheetPages, HaveRulesAsWideOnPaperAsAPencilLineInQuietInk) {
     const QuestionSheets sheets = sheetsWith(1);
     const auto pages = pagesOf(sheets);
     const QImage page = painted(sheets, pages, 0);
-    const int rule = static_cast<int>(pages[0].lines.back().bottom), across = page.width() / 2;
-    int height = 0;
-    for (int y = rule - 5; y <= rule + 5; ++y)
-        if (page.pixelColor(across, y) == theme::quietInk) ++height;
-    EXPECT_EQ(height, 2) << "0.2 mm";
+    const int ofTheName = static_cast<int>(24 * 200 / 25.4),
+              ofAnAnswer = static_cast<int>(pages[0].lines.back().bottom);
+    for (const int rule : {ofTheName, ofAnAnswer}) {
+        int height = 0;
+        for (int y = rule - 5; y <= rule + 5; ++y)
+            if (page.pixelColor(page.width() / 2, y) == theme::quietInk) ++height;
+        EXPECT_EQ(height, 2) << "0.2 mm";
+    }
 }
 
 TEST(QuestionSheetPages, PaintInsideThePaperAndLeaveNoPageBlank) {
