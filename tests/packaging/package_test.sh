@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Installs the Debian package on a fresh Debian in a folder, plays it there as an ordinary user,
-# removes it and looks for what it left. Takes root, mmdebstrap and this machine's own sources of
-# packages.
-#   package_test.sh PACKAGE.deb
+# Installs the Debian packages on a fresh Debian in a folder, first the program alone, plays it there
+# as an ordinary user, listens to it with and without the package of the sound, removes both and
+# looks for what they left. Takes root, mmdebstrap and this machine's own sources of packages.
+#   package_test.sh PACKAGE.deb SOUND_PACKAGE.deb
 set -euo pipefail
 package=$(realpath -- "$1")
+sound_package=$(realpath -- "$2")
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 
 root=$(mktemp -d)
@@ -52,11 +53,12 @@ needs_no_more_than_it_says() {
     inside apt-get -q purge -y orvanta >>"$root/log" 2>&1
 }
 
-plays() {
+# Hands the work to one of the programs beside this one.
+as_user_on_a_screen() {
     inside mkdir -p /tmp/play
-    cp desktop/accessibility_test.py desktop/names_test.py packaging/play_installed.py \
+    cp desktop/accessibility_test.py desktop/names_test.py packaging/*_installed.py \
         "$root/tmp/play"
-    as_user python3 -B /tmp/play/play_installed.py /usr/bin/orvanta
+    as_user python3 -B "/tmp/play/$1" /usr/bin/orvanta "${@:2}"
 }
 
 desktop_knows_its_formats() {
@@ -73,18 +75,24 @@ echo "-- a fresh Debian"
 mmdebstrap --quiet --variant=apt "$(sed -n "s/^VERSION_CODENAME=//p" /etc/os-release)" "$root" \
     "$(sources)"
 cp -- "$package" "$root/tmp/orvanta.deb"
+cp -- "$sound_package" "$root/tmp/orvanta-sound.deb"
 inside useradd --create-home dana
 inside apt-get -q update >"$root/log" 2>&1 || { cat "$root/log" >&2; fail "apt-get update"; }
 echo "-- the package alone"
 needs_no_more_than_it_says
 echo "-- the package, played"
-install_on_it xvfb xauth dbus at-spi2-core python3-gi gir1.2-atspi-2.0 shared-mime-info
+install_on_it xvfb xauth dbus at-spi2-core python3-gi gir1.2-atspi-2.0 shared-mime-info \
+    pulseaudio pulseaudio-utils
 files >"$root/tmp/before"
 install_on_it /tmp/orvanta.deb
 desktop_knows_its_formats
-plays
-echo "-- the package, removed"
-inside apt-get -q purge -y orvanta >>"$root/log" 2>&1
+as_user_on_a_screen play_installed.py
+as_user_on_a_screen listen_installed.py silent
+echo "-- with the package of the sound"
+install_on_it /tmp/orvanta-sound.deb
+as_user_on_a_screen listen_installed.py voice
+echo "-- both packages, removed"
+inside apt-get -q purge -y orvanta orvanta-sound >>"$root/log" 2>&1
 files >"$root/tmp/after"
-diff "$root/tmp/before" "$root/tmp/after" || fail "it leaves these files, or takes them"
-echo "The package was installed, played and removed."
+diff "$root/tmp/before" "$root/tmp/after" || fail "they leave these files, or take them"
+echo "The packages were installed, played, heard and removed."
