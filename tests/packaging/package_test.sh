@@ -42,15 +42,24 @@ files() {
         -o -path /var/log -o -path /var/cache/apt -o -path /var/lib/apt \) -prune -o -print | sort
 }
 
-# With what the package itself asks for and nothing else.
+purge_both() { inside apt-get -q purge -y orvanta orvanta-sound >>"$root/log" 2>&1; }
+
+finds_its_libraries() {
+    local missing
+    missing=$(inside ldd "/usr/lib/orvanta/$1" | grep 'not found' || true)
+    [[ -z $missing ]] || fail "these libraries of $1 are no dependencies: $missing"
+}
+
+# With what the packages themselves ask for and nothing else.
 needs_no_more_than_it_says() {
-    local missing said
+    local said
     install_on_it /tmp/orvanta.deb
-    missing=$(inside ldd /usr/lib/orvanta/orvanta | grep 'not found' || true)
-    [[ -z $missing ]] || fail "these libraries are no dependencies: $missing"
+    finds_its_libraries orvanta
     said=$(as_user orvanta 2>&1) && fail "without a display it starts"
     [[ $said == "Orvanta can't show its window"* ]] || fail "without a display it says: $said"
-    inside apt-get -q purge -y orvanta >>"$root/log" 2>&1
+    install_on_it /tmp/orvanta-sound.deb
+    finds_its_libraries liborvanta-sound.so
+    purge_both
 }
 
 # Hands the work to one of the programs beside this one.
@@ -78,7 +87,7 @@ cp -- "$package" "$root/tmp/orvanta.deb"
 cp -- "$sound_package" "$root/tmp/orvanta-sound.deb"
 inside useradd --create-home dana
 inside apt-get -q update >"$root/log" 2>&1 || { cat "$root/log" >&2; fail "apt-get update"; }
-echo "-- the package alone"
+echo "-- the packages alone"
 needs_no_more_than_it_says
 echo "-- the package, played"
 install_on_it xvfb xauth dbus at-spi2-core python3-gi gir1.2-atspi-2.0 shared-mime-info \
@@ -92,7 +101,7 @@ echo "-- with the package of the sound"
 install_on_it /tmp/orvanta-sound.deb
 as_user_on_a_screen listen_installed.py voice
 echo "-- both packages, removed"
-inside apt-get -q purge -y orvanta orvanta-sound >>"$root/log" 2>&1
+purge_both
 files >"$root/tmp/after"
 diff "$root/tmp/before" "$root/tmp/after" || fail "they leave these files, or take them"
 echo "The packages were installed, played, heard and removed."
