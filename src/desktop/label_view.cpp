@@ -16,7 +16,8 @@ LabelView::LabelView(Label& model, const PixelGrid& pixelGrid, QWidget* parent,
     const auto showModel = [this] {
         // A question may hold "&&", and blanks would put it beside the line of what is below.
         setText(fromCp1252(m_model.caption()).trimmed());
-        fit();
+        // The place that is still to come brings a fit of its own.
+        if (!testAttribute(Qt::WA_PendingResizeEvent)) fit();
     };
     model.changed.subscribe(showModel);
     showModel();
