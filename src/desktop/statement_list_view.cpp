@@ -219,8 +219,11 @@ void StatementListView::carry() {
 
 /// Drops the row at a point of the screen.
 void StatementListView::land(const QPoint& place) {
-    if (StatementListView* list = statementListAt(place))
-        list->dropAt(m_list, list->viewport()->mapFromGlobal(place)).finish(m_program);
+    StatementListView* list = statementListAt(place);
+    if (!list) return;
+    const QPoint point = list->viewport()->mapFromGlobal(place);
+    if (list->viewport()->rect().contains(point))  // a strip covers the rows beyond, or a frame
+        list->dropAt(m_list, point).finish(m_program);
 }
 
 void StatementListView::dragEnterEvent(QDragEnterEvent* event) { passOver(*event); }
