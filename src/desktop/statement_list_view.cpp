@@ -71,6 +71,12 @@ StatementListView::~StatementListView() {
     if (m_strip) m_strip->leave(*this);
 }
 
+/// What is filled anew begins at its top.
+void StatementListView::reset() {
+    QListView::reset();
+    verticalScrollBar()->setValue(0);
+}
+
 void StatementListView::showSelection() {
     if (m_model.isChanging()) return;
     m_showing = true;

@@ -138,6 +138,19 @@ TEST_F(StatementListViewTest, BringsAnAddedRowIntoView) {
         view().visualRect(view().indexAtPosition(105)).center()));
 }
 
+TEST_F(StatementListViewTest, StandsAtItsTopOnceItWasClearedAndFilledAnew) {
+    const auto fill = [this] {
+        for (int i = 0; i < 100; ++i) list().add({.key = {}, .text = "Row", .image = 1});
+    };
+    fill();
+    QCoreApplication::processEvents();
+    view().verticalScrollBar()->setValue(500);
+    list().clear();
+    fill();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view().verticalScrollBar()->value(), 0);
+}
+
 TEST_F(StatementListViewTest, ShowsWholeRowsAboveTheChosenStatement) {
     for (int row = 0; row < 40; ++row)
         list().add({.key = {}, .text = std::string(600, 'W'), .image = 1});
