@@ -130,6 +130,9 @@ protected:
     EitherChooser() { show(GetParam()); }
 };
 
+/// Also on the screens of a desktop that opens what is clicked once.
+class ChooserOnAnyScreen : public ChooserOnScreen {};
+
 INSTANTIATE_TEST_SUITE_P(ToOpenOrToSave, EitherChooser,
                          testing::Values(FileDialogMode::Open, FileDialogMode::Save));
 
@@ -312,6 +315,16 @@ TEST_F(ChooserOnScreen, ForSeveralTakesTheClickedFilesInTheirOrder) {
     click("team2.bsm");
     click("ann.bsm", Qt::ControlModifier);
     EXPECT_EQ(typed(), "\"team2.bsm\" \"ann.bsm\"");
+    pressButton();
+    EXPECT_EQ(taken(), "team2.bsm, ann.bsm");
+}
+
+TEST_F(ChooserOnAnyScreen, ForSeveralStaysOpenWhileTheyAreClicked) {
+    showForSeveral();
+    click("team2.bsm");
+    EXPECT_EQ(shown(), ".");
+    click("ann.bsm", Qt::ControlModifier);
+    EXPECT_EQ(shown(), ".");
     pressButton();
     EXPECT_EQ(taken(), "team2.bsm, ann.bsm");
 }
