@@ -175,6 +175,23 @@ TEST_F(Keyboard, GoesOnAndTypesTheNextAnswerWithoutTheMouse) {
     EXPECT_EQ(bench.window().focusWidget(), &bench.widget("txtStrength"));
 }
 
+TEST_F(Keyboard, TypesIntoTheNextAnswerWhatCameRightBehindTheKeyThatWentOn) {
+    analysis.next(1);
+    analysis.window().activateWindow();
+    QApplication::setActiveWindow(&analysis.window());
+    QCoreApplication::processEvents();
+    const auto press = [this](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(analysis.window().focusWidget(), key, modifiers);
+    };
+    press(Qt::Key_Return, Qt::ControlModifier);
+    press(Qt::Key_A);
+    EXPECT_EQ(analysis.form().txtAWeakness.text(), "a");
+    analysis.widget("imgBtnANext").setFocus();
+    press(Qt::Key_Space);
+    press(Qt::Key_B);
+    EXPECT_EQ(analysis.form().txtAOpportunity.text(), "b");
+}
+
 TEST_F(Keyboard, LeavesTheFocusAloneWhereTheMouseGoesOn) {
     analysis.next(1);
     QCoreApplication::processEvents();
