@@ -192,6 +192,18 @@ TEST_F(Keyboard, TypesIntoTheNextAnswerWhatCameRightBehindTheKeyThatWentOn) {
     EXPECT_EQ(analysis.form().txtAOpportunity.text(), "b");
 }
 
+TEST_F(Keyboard, GoesOnFromALinkAsFromAnyControl) {
+    auto& link = analysis.widget<QAbstractButton>("lblMerge");
+    int presses = 0;
+    QObject::connect(&link, &QAbstractButton::clicked, &link, [&presses] { ++presses; });
+    QTest::keyClick(&link, Qt::Key_Return, Qt::ControlModifier);
+    QTest::keyClick(&link, Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier);
+    EXPECT_EQ(presses, 0);
+    EXPECT_EQ(analysis.stepsShown(), Texts{"fraAWSummary"});
+    QTest::keyClick(&link, Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(presses, 1);
+}
+
 TEST_F(Keyboard, LeavesTheFocusAloneWhereTheMouseGoesOn) {
     analysis.next(1);
     QCoreApplication::processEvents();
