@@ -112,6 +112,8 @@ void StatementListView::keyPressEvent(QKeyEvent* event) {
         m_hand = Hand::CalledOff;
         return;
     }
+    const bool turns = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
+    if (turns && m_strip->turn(event->key() == Qt::Key_Left ? -1 : 1)) return;
     const bool moves = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
     if (!moves || m_list.hasSelection() || m_list.count() == 0)
         return QListView::keyPressEvent(event);
