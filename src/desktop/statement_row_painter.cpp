@@ -130,9 +130,11 @@ int textRoom(const Row& row, int rowWidth, int lines, const MappingCounts* count
 
 void drawHint(QPainter& painter, const QWidget& viewport, int top, const QString& hint) {
     const int margin = enlarged(16);
+    const QRect room = viewport.rect().adjusted(margin, top + margin, -margin, 0);
+    constexpr int broken = static_cast<int>(Qt::AlignLeft | Qt::AlignTop) | Qt::TextWordWrap;
+    if (painter.boundingRect(room, broken, hint).bottom() > room.bottom()) return;
     painter.setPen(viewport.palette().color(QPalette::PlaceholderText));
-    painter.drawText(viewport.rect().adjusted(margin, top + margin, -margin, 0),
-                     static_cast<int>(Qt::AlignLeft | Qt::AlignTop) | Qt::TextWordWrap, hint);
+    painter.drawText(room, broken, hint);
 }
 
 void drawDropGround(QPainter& painter, const QRect& place) {
