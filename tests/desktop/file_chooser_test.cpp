@@ -329,6 +329,26 @@ TEST_F(ChooserOnAnyScreen, ForSeveralStaysOpenWhileTheyAreClicked) {
     EXPECT_EQ(taken(), "team2.bsm, ann.bsm");
 }
 
+TEST_F(ChooserOnScreen, ForSeveralTakesAllFilesOfAFolderByKeysThoughItHasFoldersToo) {
+    showForSeveral();
+    auto& files = *nameBox().window()->findChild<QTreeView*>(QStringLiteral("treeView"));
+    files.setFocus();
+    files.setCurrentIndex(files.model()->index(0, 0, files.rootIndex()));
+    QTest::keyClick(&files, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(typed(), R"("ann.bsm" "bo.bsm" "team2.bsm")");
+    pressEnter();
+    EXPECT_EQ(taken(), "ann.bsm, bo.bsm, team2.bsm");
+}
+
+TEST_F(ChooserOnScreen, ForSeveralEntersByKeyAFolderThatIsChosenAlone) {
+    showForSeveral();
+    click("ann.bsm");
+    click("Team");
+    nameBox().window()->findChild<QTreeView*>(QStringLiteral("treeView"))->setFocus();
+    pressEnter();
+    EXPECT_EQ(shown(), "Team");
+}
+
 TEST_F(ChooserOnScreen, ForSeveralTakesAllFilesFromOneToAnother) {
     showForSeveral();
     click("ann.bsm");
