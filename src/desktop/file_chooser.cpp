@@ -11,8 +11,10 @@
 #include <QTreeView>
 #include <algorithm>
 #include <cassert>
+#include <initializer_list>
 
 #include "core/session_state.h"
+#include "desktop/clicks.h"
 #include "desktop/conversions.h"
 #include "desktop/enlargement.h"
 #include "desktop/file_pictures.h"
@@ -78,9 +80,23 @@ void FileChooser::showOwnPictures() {
 /// The toolkit's own mode for several files would turn off the button at a name without its ending.
 void FileChooser::takeSeveral() {
     m_severalFiles = true;
-    files()->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    findChild<QListView*>(QStringLiteral("listView"))
-        ->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    auto* icons = findChild<QListView*>(QStringLiteral("listView"));
+    for (QAbstractItemView* view : std::initializer_list<QAbstractItemView*>{files(), icons}) {
+        view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+        view->installEventFilter(this);
+    }
+}
+
+/// Where several are selected, Enter takes the files; the toolkit would look at the row alone that
+/// was reached last, and open it if that is a folder.
+bool FileChooser::eventFilter(QObject* watched, QEvent* event) {
+    const auto* view = qobject_cast<QAbstractItemView*>(watched);
+    if (!view || event->type() != QEvent::KeyPress ||
+        !isPressByEnter(static_cast<QKeyEvent&>(*event)) ||
+        view->selectionModel()->selectedRows().size() < 2)
+        return QFileDialog::eventFilter(watched, event);
+    accept();
+    return true;
 }
 
 QLineEdit* FileChooser::nameBox() const {

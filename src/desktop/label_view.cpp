@@ -1,8 +1,8 @@
 #include "desktop/label_view.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 
+#include "desktop/clicks.h"
 #include "desktop/enlargement.h"
 #include "desktop/theme.h"
 
@@ -56,8 +56,7 @@ LinkView::LinkView(Label& model, Ground ground, const PixelGrid& pixelGrid, QWid
 }
 
 void LinkView::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
-        return QPushButton::keyPressEvent(event);
+    if (!isPressByEnter(*event)) return QPushButton::keyPressEvent(event);
     click();
 }
 

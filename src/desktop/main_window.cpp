@@ -362,7 +362,7 @@ void MainWindow::focusScreen() {
 
 void MainWindow::goOnByKey() {
     m_wentOnByKey = true;
-    screenMayDiffer();
+    focusScreen();  // at once: what was typed behind the key may be waiting
 }
 
 /// Keys that what has the keyboard has no use for. A list keeps the keys that turn its pages, also

@@ -71,6 +71,12 @@ StatementListView::~StatementListView() {
     if (m_strip) m_strip->leave(*this);
 }
 
+/// What is filled anew begins at its top.
+void StatementListView::reset() {
+    QListView::reset();
+    verticalScrollBar()->setValue(0);
+}
+
 void StatementListView::showSelection() {
     if (m_model.isChanging()) return;
     m_showing = true;
@@ -106,6 +112,8 @@ void StatementListView::keyPressEvent(QKeyEvent* event) {
         m_hand = Hand::CalledOff;
         return;
     }
+    const bool turns = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
+    if (turns && m_strip->turn(event->key() == Qt::Key_Left ? -1 : 1)) return;
     const bool moves = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
     if (!moves || m_list.hasSelection() || m_list.count() == 0)
         return QListView::keyPressEvent(event);
@@ -219,8 +227,11 @@ void StatementListView::carry() {
 
 /// Drops the row at a point of the screen.
 void StatementListView::land(const QPoint& place) {
-    if (StatementListView* list = statementListAt(place))
-        list->dropAt(m_list, list->viewport()->mapFromGlobal(place)).finish(m_program);
+    StatementListView* list = statementListAt(place);
+    if (!list) return;
+    const QPoint point = list->viewport()->mapFromGlobal(place);
+    if (list->viewport()->rect().contains(point))  // a strip covers the rows beyond, or a frame
+        list->dropAt(m_list, point).finish(m_program);
 }
 
 void StatementListView::dragEnterEvent(QDragEnterEvent* event) { passOver(*event); }

@@ -46,6 +46,8 @@ public:
     /// drop is taken there.
     Drop dropAt(const StatementList& from, const QPoint& point);
 
+    void reset() override;
+
 protected:
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;

@@ -172,6 +172,27 @@ TEST_P(QuickDrag, RanksTheRowThatItTook) {
     EXPECT_EQ(bench.texts("lvAOpportunity"), (Texts{before[1], before[2], before[0]}));
 }
 
+TEST_F(RealDrag, TakesNothingBackOnTheFrameOfAList) {
+    bench.map("lvStrengthOp", 2, "lvOpportunity", 1);
+    QCoreApplication::processEvents();
+    const auto& list = bench.widget<StatementListView>("lvStrengthOp");
+    const int rows = bench.list("lvOpportunity").count();
+    drag(opportunity(2), list.mapToGlobal(QPoint(1, list.height() / 2)), 12);
+    EXPECT_EQ(bench.list("lvOpportunity").count(), rows);
+}
+
+TEST_P(QuickDrag, TakesNothingBackOnTheStripThatShowsAStatementWhole) {
+    bench.map("lvStrengthOp", 2, "lvOpportunity", 1);
+    bench.list("lvStrengthOp").add({.key = "S9", .text = std::string(255, 'W'), .image = 1});
+    QCoreApplication::processEvents();
+    const auto& list = bench.widget<StatementListView>("lvStrengthOp");
+    ASSERT_LT(list.viewport()->geometry().bottom(), list.height() - 20) << "the strip shows";
+    const int rows = bench.list("lvOpportunity").count();
+    drag(opportunity(2), list.mapToGlobal(QPoint(list.width() / 2, list.height() - 10)),
+         GetParam());
+    EXPECT_EQ(bench.list("lvOpportunity").count(), rows);
+}
+
 TEST_F(RealDrag, IsCalledOffWithEscape) {
     Hand hand;
     const int rows = bench.list("lvOpportunity").count();

@@ -62,6 +62,30 @@ TEST(RowOfTwoLines, HoldsOnBothAWordThatIsWiderThanTheList) {
             << "below " << top;
 }
 
+TEST(HintOfAnEmptyList, IsWholeOrNotThere) {
+    QWidget viewport;
+    const auto paintedIn = [&viewport](int height) {
+        viewport.resize(160, height);
+        QImage image(viewport.size(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        drawHint(painter, viewport, 0, QStringLiteral("Drag a strength onto an opportunity."));
+        return image;
+    };
+    const auto isBlank = [](const QImage& image) {
+        QImage white = image;
+        white.fill(Qt::white);
+        return image == white;
+    };
+    const QImage whole = paintedIn(200);
+    ASSERT_FALSE(isBlank(whole));
+    int last = whole.height() - 1;
+    while (isBlank(whole.copy(0, last, whole.width(), 1))) --last;
+    EXPECT_TRUE(isBlank(paintedIn(last)));
+    EXPECT_TRUE(isBlank(paintedIn(10)));
+    EXPECT_FALSE(isBlank(paintedIn(last + whole.height() / 10)));
+}
+
 TEST(CountsInTheMappingList, StandAtTheRightOfARowAndFollowIt) {
     WindowBench<AnalysisBench> bench;
     bench.goTo(mappingSides()[0]);
