@@ -196,12 +196,11 @@ TEST_F(Keyboard, GoesOnFromALinkAsFromAnyControl) {
     auto& link = analysis.widget<QAbstractButton>("lblMerge");
     int presses = 0;
     QObject::connect(&link, &QAbstractButton::clicked, &link, [&presses] { ++presses; });
-    QTest::keyClick(&link, Qt::Key_Return, Qt::ControlModifier);
-    QTest::keyClick(&link, Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier);
-    EXPECT_EQ(presses, 0);
-    EXPECT_EQ(analysis.stepsShown(), Texts{"fraAWSummary"});
     QTest::keyClick(&link, Qt::Key_Enter, Qt::KeypadModifier);
     EXPECT_EQ(presses, 1);
+    QTest::keyClick(&link, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(presses, 1);
+    EXPECT_EQ(analysis.stepsShown(), Texts{"fraASSummary"});
 }
 
 TEST_F(Keyboard, LeavesTheFocusAloneWhereTheMouseGoesOn) {
