@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Makes the Debian package and the tarball of the portable folder, has Debian's own tools look at
-# the package, and leaves both in build/package/packages/.
+# Makes the Debian packages, the program and its sound, and the tarball of the portable folder, has
+# Debian's own tools look at the packages, and leaves all in build/package/packages/.
 #   scripts/package.sh          makes them
-#   scripts/package.sh test     and installs, plays and removes the package on a fresh Debian in a
+#   scripts/package.sh test     and installs, plays and removes the packages on a fresh Debian in a
 #                               folder; takes root
 set -euo pipefail
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
@@ -18,12 +18,12 @@ case ${1:-} in
     *) echo "usage: $0 [test]" >&2; exit 2 ;;
 esac
 
-# Prints what is wrong with the package; silent when all is well.
-check_package() {
+# Prints what is wrong with the packages; silent when all is well.
+check_packages() {
     local content
     content=$(mktemp -d)
     dpkg-deb -x "$1" "$content"
-    lintian --allow-root --fail-on error,warning -- "$1"
+    lintian --allow-root --fail-on error,warning -- "$@"
     desktop-file-validate "$content"/usr/share/applications/*.desktop
     appstreamcli validate --no-net "$content"/usr/share/metainfo/*.metainfo.xml
     xmllint --noout "$content"/usr/share/mime/packages/*.xml
@@ -43,7 +43,7 @@ cmake --build --preset package
     { echo "No package without the voice: its clips were not made." >&2; exit 1; }
 rm -rf -- "$build/packages"
 (cd "$build" && cpack)
-package=$(echo "$build"/packages/orvanta_*.deb)
-check_package "$package"
-if [[ ${1:-} == test ]]; then tests/packaging/package_test.sh "$package"; fi
+packages=("$build"/packages/orvanta_*.deb "$build"/packages/orvanta-sound_*.deb)
+check_packages "${packages[@]}"
+if [[ ${1:-} == test ]]; then tests/packaging/package_test.sh "${packages[@]}"; fi
 ls -l "$build/packages"/orvanta*

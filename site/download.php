@@ -18,6 +18,7 @@ const SYSTEMS = [
     '/^orvanta-.*-setup\.exe$/i' => 'Orvanta for Windows',
     '/^orvanta-.*-portable\.zip$/i' => 'Orvanta for Windows, to use without installing',
     '/^orvanta_.*\.deb$/i' => 'Orvanta for Debian and Ubuntu',
+    '/^orvanta-sound_.*\.deb$/i' => 'Its voice for Debian and Ubuntu, to be installed with it',
     '/^orvanta-.*\.tar\.gz$/i' => 'Orvanta for other Linux systems',
 ];
 

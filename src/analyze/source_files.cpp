@@ -9,6 +9,7 @@
 #include "core/mapping_side.h"
 #include "core/messages.h"
 #include "core/remembered_paths.h"
+#include "sessionfiles/analyze_file.h"
 #include "sessionfiles/brainstorm_file.h"
 
 namespace orvanta {
@@ -66,6 +67,8 @@ bool consolidateSourceFiles(Program& program) {
         refuse(program.platform.messages, "No brainstorm files opened for analyze.");
         return false;
     }
+    FailedSaves* const failedSaves = program.platform.failedSaves;
+    if (failedSaves && form.editAFlag) failedSaves->analysisReplaced(analyzeBytes(form, false));
     clearAnalye(program);
     bool anyFound = false;
     for (const std::string& path : form.lstFiles.items()) {

@@ -14,4 +14,9 @@ void whenClicked(QAbstractButton& button, std::function<void()> act) {
     });
 }
 
+bool isPressByEnter(const QKeyEvent& event) {
+    const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    return isEnter && !(event.modifiers() & Qt::ControlModifier);
+}
+
 }  // namespace orvanta::desktop

@@ -52,7 +52,6 @@ void ControlArea::hold(Control& control, QWidget& widget) {
     assert(widget.parentWidget() == this);
     m_held.emplace_back(&control, &widget);
     control.changed.subscribe([this, &control, &widget] { place(control, widget); });
-    place(control, widget);
 }
 
 void ControlArea::showUncovered() {

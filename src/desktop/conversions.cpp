@@ -2,12 +2,11 @@
 
 #include <QGuiApplication>
 #include <QScreen>
-#include <QTextLayout>
-#include <QTextOption>
 #include <QToolTip>
 #include <cmath>
 
 #include "desktop/enlargement.h"
+#include "desktop/text_lines.h"
 #include "view/path_text.h"
 #include "view/windows1252.h"
 
@@ -15,29 +14,17 @@ namespace orvanta::desktop {
 
 namespace {
 
-QStringList linesOfToolTip(const QString& paragraph, int width) {
-    QTextLayout layout(paragraph, QToolTip::font());
-    layout.setTextOption(QTextOption());
-    QStringList lines;
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width);
-        lines << paragraph.mid(line.textStart(), line.textLength()).trimmed();
-    }
-    layout.endLayout();
-    return lines;
-}
-
 /// In as few lines as can be, and these as even as the words allow.
 QString brokenEvenly(const QString& paragraph) {
     const int widest = enlarged(360);
-    const auto count = linesOfToolTip(paragraph, widest).size();
+    const auto count = linesOf(paragraph, QToolTip::font(), widest).size();
     int tooNarrow = 0, wideEnough = widest;
     while (count > 1 && wideEnough - tooNarrow > 1) {
         const int width = (tooNarrow + wideEnough) / 2;
-        (linesOfToolTip(paragraph, width).size() > count ? tooNarrow : wideEnough) = width;
+        (linesOf(paragraph, QToolTip::font(), width).size() > count ? tooNarrow : wideEnough) =
+            width;
     }
-    return linesOfToolTip(paragraph, wideEnough).join(u'\n');
+    return linesOf(paragraph, QToolTip::font(), wideEnough).join(u'\n');
 }
 
 }  // namespace

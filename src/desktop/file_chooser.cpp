@@ -11,11 +11,15 @@
 #include <QTreeView>
 #include <algorithm>
 #include <cassert>
+#include <initializer_list>
 
 #include "core/session_state.h"
+#include "desktop/clicks.h"
 #include "desktop/conversions.h"
 #include "desktop/enlargement.h"
 #include "desktop/file_pictures.h"
+#include "desktop/instance_lock.h"
+#include "desktop/own_folders.h"
 #include "desktop/screen_room.h"
 
 namespace orvanta::desktop {
@@ -44,12 +48,13 @@ QString startFolder(const std::string& initialPath) {
 
 FileChooser::FileChooser(const FileDialogRequest& request, FileRules rules, QWidget* owner)
     : QFileDialog(owner, {}, startFolder(request.initialPath), filterFrom(request.filter)),
-      m_place{
-          .mode = request.mode,
-          .filter = request.filter,
-          .folder = {},
-          .home = QDir::homePath().toStdString(),
-          .ownNames = {std::string(brainstormTemporaryName), std::string(analyzeTemporaryName)}},
+      m_place{.mode = request.mode,
+              .filter = request.filter,
+              .folder = {},
+              .home = QDir::homePath().toStdString(),
+              .ownNames = {std::string(brainstormTemporaryName), std::string(analyzeTemporaryName),
+                           lockName},
+              .ownFolder = rescuePath().toStdString()},
       m_rules(rules) {
     setOption(DontUseNativeDialog);
     setOption(DontConfirmOverwrite);
@@ -75,9 +80,23 @@ void FileChooser::showOwnPictures() {
 /// The toolkit's own mode for several files would turn off the button at a name without its ending.
 void FileChooser::takeSeveral() {
     m_severalFiles = true;
-    files()->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    findChild<QListView*>(QStringLiteral("listView"))
-        ->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    auto* icons = findChild<QListView*>(QStringLiteral("listView"));
+    for (QAbstractItemView* view : std::initializer_list<QAbstractItemView*>{files(), icons}) {
+        view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+        view->installEventFilter(this);
+    }
+}
+
+/// Where several are selected, Enter takes the files; the toolkit would look at the row alone that
+/// was reached last, and open it if that is a folder.
+bool FileChooser::eventFilter(QObject* watched, QEvent* event) {
+    const auto* view = qobject_cast<QAbstractItemView*>(watched);
+    if (!view || event->type() != QEvent::KeyPress ||
+        !isPressByEnter(static_cast<QKeyEvent&>(*event)) ||
+        view->selectionModel()->selectedRows().size() < 2)
+        return QFileDialog::eventFilter(watched, event);
+    accept();
+    return true;
 }
 
 QLineEdit* FileChooser::nameBox() const {

@@ -32,6 +32,7 @@ public:
 
 protected:
     void accept() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void showOwnPictures();

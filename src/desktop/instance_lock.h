@@ -4,6 +4,8 @@
 
 namespace orvanta::desktop {
 
+constexpr const char* lockName = "orvanta.lock";
+
 /// The right to use a folder's temporary files, which one running program has at a time. The
 /// system takes it back when the program ends, however it ends. On POSIX it belongs to an open
 /// file: a file dialog that opens and closes the lock's file, as it does to tell the types of

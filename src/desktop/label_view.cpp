@@ -1,8 +1,8 @@
 #include "desktop/label_view.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 
+#include "desktop/clicks.h"
 #include "desktop/enlargement.h"
 #include "desktop/theme.h"
 
@@ -16,7 +16,8 @@ LabelView::LabelView(Label& model, const PixelGrid& pixelGrid, QWidget* parent,
     const auto showModel = [this] {
         // A question may hold "&&", and blanks would put it beside the line of what is below.
         setText(fromCp1252(m_model.caption()).trimmed());
-        fit();
+        // The place that is still to come brings a fit of its own.
+        if (!testAttribute(Qt::WA_PendingResizeEvent)) fit();
     };
     model.changed.subscribe(showModel);
     showModel();
@@ -55,8 +56,7 @@ LinkView::LinkView(Label& model, Ground ground, const PixelGrid& pixelGrid, QWid
 }
 
 void LinkView::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
-        return QPushButton::keyPressEvent(event);
+    if (!isPressByEnter(*event)) return QPushButton::keyPressEvent(event);
     click();
 }
 

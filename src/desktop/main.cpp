@@ -18,7 +18,9 @@
 #include "desktop/auto_save_timer.h"
 #include "desktop/conversions.h"
 #include "desktop/display_needed.h"
+#include "desktop/last_copy.h"
 #include "desktop/main_window.h"
+#include "desktop/own_folders.h"
 #include "desktop/platform.h"
 #include "desktop/scratch_folder.h"
 #include "desktop/system_signals.h"
@@ -30,13 +32,6 @@
 namespace {
 
 using namespace orvanta::desktop;
-
-/// The user's own folder for this program; it need not be there.
-QString dataPath() {
-    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
-}
-
-QString rescuePath() { return QDir(dataPath()).filePath("rescue"); }
 
 std::string nameOf(const QString& path) { return QDir::toNativeSeparators(path).toStdString(); }
 
@@ -114,7 +109,7 @@ int main(int argc, char** argv) {
 
     const RescueStore rescue(nameOf(rescuePath()));
     FileDisk disk(rescue);
-    RescuedSaves rescuedSaves(rescue);
+    RescuedSaves rescuedSaves(rescue, *scratch);
     DesktopPlatform desktop(disk);
     desktop.platform().failedSaves = &rescuedSaves;
     Program program(desktop.platform(), pathFromNative(ofProgram), pathFromNative(*scratch));
@@ -131,8 +126,12 @@ int main(int argc, char** argv) {
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
                      [&program] { copyUnsavedSession(program); });
     desktop.setProgram(program);
+    const LastCopy lastCopy(application, [&program] { copyUnsavedSession(program); });
     startProgram(program);
+    rescuedSaves.keepSessionsNotShown(program.frmMain);
     const int result = ended ? EXIT_SUCCESS : QApplication::exec();
+    // A dialog that stood open at the end has given its session back only now.
+    if (ended) copyUnsavedSession(program);
     // All is saved by now, and cleaning up would wait for the sound for good.
     if (!desktop.endSound()) std::_Exit(result);
     return result;

@@ -175,7 +175,10 @@ void MainWindow::makeButtons() {
     for (const Button button : allOf<Button>) {
         SkinnedButton& model = m_program.frmMain.buttons[button];
         makeSkinnedButton(model, areaOf(model.image),
-                          {[this, button] { buttonPressed(m_program, button); },
+                          {[this, button] {
+                               personActs();
+                               buttonPressed(m_program, button);
+                           },
                            [this, button] {
                                buttonReleased(m_program, button);
                                m_whereaboutsView->mayDiffer();
@@ -302,7 +305,6 @@ void MainWindow::showSize() {
     setDesignSize(form.width, form.height);
     setMinimumSize(leastWindow().boundedTo(designSize()));
     resize(designSize().boundedTo(roomForWindow()));
-    placeAll();
 }
 
 void MainWindow::showShown() {
@@ -360,7 +362,7 @@ void MainWindow::focusScreen() {
 
 void MainWindow::goOnByKey() {
     m_wentOnByKey = true;
-    screenMayDiffer();
+    focusScreen();  // at once: what was typed behind the key may be waiting
 }
 
 /// Keys that what has the keyboard has no use for. A list keeps the keys that turn its pages, also
@@ -389,8 +391,13 @@ bool MainWindow::event(QEvent* event) {
 /// A press in a dialog is none: it may close the very box behind which the words have come up.
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     const auto* widget = qobject_cast<QWidget*>(watched);
-    if (m_saves && widget && widget->window() == this && isPress(*event)) m_saves->forget();
+    if (widget && widget->window() == this && isPress(*event)) personActs();
     return ControlArea::eventFilter(watched, event);
+}
+
+/// Also by way of an assistive program, which presses neither key nor mouse.
+void MainWindow::personActs() {
+    if (m_saves) m_saves->forget();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(windowClosing(m_program)); }

@@ -50,6 +50,7 @@ private:
     void showShown();
     void screenMayDiffer();
     void focusScreen();
+    void personActs();
     void forgetHiddenFocus();
     void goOnByKey();
     const Panel* screen() const;

@@ -64,14 +64,15 @@ MessageBox::MessageBox(const Message& message, QWidget* owner)
 /// The toolkit fits the box to its text, so that a short one stands small above its icon's middle.
 /// The room is beside the text: a least width of its own would keep a long one from being broken.
 void MessageBox::giveRoom() {
-    constexpr int leftBeside = 480;  // the toolkit makes no box wider than a screen less this
+    // The toolkit makes no box wider than a small screen, or than a larger one less some pixels.
+    constexpr int widestSmall = 1024, leftBeside = 480;
     auto* words = findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
     auto* grid = qobject_cast<QGridLayout*>(layout());
     assert(words && grid);
     words->setMinimumHeight(style()->pixelMetric(QStyle::PM_MessageBoxIconSize));
     const QMargins margins = grid->contentsMargins();
-    const int narrowest =
-        std::min(enlarged(320), screen()->availableGeometry().width() - leftBeside);
+    const int room = screen()->availableGeometry().width();
+    const int narrowest = std::min(enlarged(320), room > widestSmall ? room - leftBeside : room);
     grid->addItem(new QSpacerItem(narrowest - margins.left() - margins.right(), 0),
                   grid->rowCount(), 0, 1, grid->columnCount());
 }

@@ -3,9 +3,11 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <string>
 #include <utility>
 
 #include "desktop/clicks.h"
@@ -20,6 +22,36 @@ void follow(Control& model, Show show) {
     model.changed.subscribe(show);
     show();
 }
+
+/// Breaks the tool tip that a control has from the start into lines when it is first asked for.
+/// Most are never, and the lines of all would take longer than anything else at the start.
+class ToolTipLines : public QObject {
+public:
+    ToolTipLines(const Control& model, QWidget& widget)
+        : QObject(&widget), m_model(model), m_widget(widget), m_told(model.toolTip()) {
+        widget.installEventFilter(this);
+    }
+
+    void follow() {
+        if (m_model.toolTip() != m_told) show();
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::ToolTip && m_widget.toolTip().isEmpty()) show();
+        return false;
+    }
+
+private:
+    void show() {
+        m_told = m_model.toolTip();
+        m_widget.setToolTip(shownToolTip(fromCp1252(m_told)));
+    }
+
+    const Control& m_model;
+    QWidget& m_widget;
+    std::string m_told;
+};
 
 void showFont(const TextControl& model, QWidget& widget, const ControlArea& area) {
     widget.setFont(area.pixelGrid().font(model.fontSize(), model.isBold()));
@@ -42,10 +74,11 @@ void describe(const Control& model, QWidget& widget) {
 void mirrorControl(Control& model, QWidget& widget, ControlArea& area) {
     widget.setObjectName(fromCp1252(model.name()));
     area.hold(model, widget);
-    follow(model, [&model, &widget] {
+    auto* toolTip = new ToolTipLines(model, widget);
+    follow(model, [&model, &widget, toolTip] {
         widget.setVisible(model.isUncovered());
         widget.setEnabled(model.isEnabled());
-        widget.setToolTip(shownToolTip(fromCp1252(model.toolTip())));
+        toolTip->follow();
         describe(model, widget);
         if (!model.accessibleName().empty())
             widget.setAccessibleName(fromCp1252(model.accessibleName()));

@@ -51,7 +51,7 @@ InstanceLock::Holder InstanceLock::take(const std::string& folder) {
     release();
     // In a folder that several users share the file is the first one's, and closed to the others.
     m_file =
-        ::open((folder + "/orvanta.lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+        ::open((folder + "/" + lockName).c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
     if (m_file < 0) return errno == EACCES ? Holder::Nobody : Holder::ThisProgram;
     if (::flock(m_file, LOCK_EX | LOCK_NB) == 0) {
         writeProcess(m_file);

@@ -1,11 +1,11 @@
 #include "desktop/reading_strip.h"
 
 #include <QPainter>
-#include <QTextOption>
 #include <algorithm>
 
 #include "desktop/enlargement.h"
 #include "desktop/statement_list_view.h"
+#include "desktop/text_lines.h"
 #include "desktop/theme.h"
 
 namespace orvanta::desktop {
@@ -81,7 +81,45 @@ void ReadingStrip::tell(const StatementListView& list) {
 void ReadingStrip::showChoice() {
     const QString chosen = m_told ? m_told->chosenText() : QString();
     m_isHint = chosen.isEmpty();
-    setText(m_isHint ? QStringLiteral("Choose a row to read it whole.") : chosen);
+    const QString shown = m_isHint ? QStringLiteral("Choose a row to read it whole.") : chosen;
+    if (shown == text()) return;
+    m_page = 0;
+    setText(shown);
+}
+
+QStringList ReadingStrip::lines() const {
+    return linesOf(text(), font(), width() - 2 * (textMargin() + frame));
+}
+
+/// Where there are several, the last line tells of them.
+int ReadingStrip::linesPerPage(int lines) const {
+    const int fitting = (height() - 2 * textMargin()) / fontMetrics().lineSpacing();
+    return std::max(1, lines > fitting ? fitting - 1 : lines);
+}
+
+int ReadingStrip::pages() const {
+    const auto count = static_cast<int>(lines().size()), each = linesPerPage(count);
+    return (count + each - 1) / each;
+}
+
+QStringList ReadingStrip::page() const {
+    const QStringList all = lines();
+    const int each = linesPerPage(static_cast<int>(all.size()));
+    return all.mid(std::min(m_page, pages() - 1) * each, each);
+}
+
+bool ReadingStrip::turn(int pages) {
+    const int last = this->pages() - 1;
+    m_page = std::clamp(std::min(m_page, last) + pages, 0, last);
+    update();
+    return last > 0;
+}
+
+QString ReadingStrip::footer() const {
+    const int last = pages();
+    if (last == 1) return {};
+    const QString words = QStringLiteral("Page %1 of %2. The Left and Right keys turn the pages.");
+    return words.arg(std::min(m_page + 1, last)).arg(last);
 }
 
 void ReadingStrip::paintEvent(QPaintEvent*) {
@@ -91,11 +129,14 @@ void ReadingStrip::paintEvent(QPaintEvent*) {
     painter.setBrush(theme::sideGround);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), enlarged(3),
                             enlarged(3));
-    painter.setPen(palette().color(m_isHint ? QPalette::PlaceholderText : QPalette::WindowText));
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     const int side = textMargin() + frame;
-    painter.drawText(QRectF(rect()).adjusted(side, textMargin(), -side, 0), text(), option);
+    const QRect room = rect().adjusted(side, textMargin(), -side, -textMargin());
+    const QColor quiet = palette().color(QPalette::PlaceholderText);
+    painter.setPen(m_isHint ? quiet : palette().color(QPalette::WindowText));
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignTop, page().join(u'\n'));
+    painter.setPen(quiet);
+    const QString shown = fontMetrics().elidedText(footer(), Qt::ElideRight, room.width());
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignBottom, shown);
 }
 
 }  // namespace orvanta::desktop

@@ -7,9 +7,10 @@ namespace orvanta::desktop {
 
 class StatementListView;
 
-/// The chosen statement whole, at the foot of a screen's lists, where their rows cut some. All
-/// lists of a screen share one, which is as wide as they are together, and keep their rows above
-/// it. It shows the choice of the list that has the keyboard, else the choice that changed last.
+/// The chosen statement whole, if need be page by page, at the foot of a screen's lists, where
+/// their rows cut some. All lists of a screen share one, which is as wide as they are together, and
+/// keep their rows above it. It shows the choice of the list that has the keyboard, else the choice
+/// that changed last.
 class ReadingStrip : public QLabel {
 public:
     /// The strip of the screen that a list lies on; the list joins those that share it.
@@ -22,6 +23,13 @@ public:
     void tell(const StatementListView& list);
     void leave(StatementListView& list);
 
+    /// A statement that does not fit is read page by page.
+    int pages() const;
+    /// The lines of the page that shows.
+    QStringList page() const;
+    /// Turns so many pages on, or back below 0, as far as there are any. False if there is but one.
+    bool turn(int pages);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
@@ -31,10 +39,14 @@ private:
     QRect placeOfLists() const;
     int neededHeight(const QRect& lists) const;
     void showChoice();
+    QStringList lines() const;
+    int linesPerPage(int lines) const;
+    QString footer() const;
 
     std::vector<StatementListView*> m_lists;
     const StatementListView* m_told = nullptr;  // the list whose choice shows
     bool m_isHint = true;                       // nothing is chosen
+    int m_page = 0;                             // from 0; may be beyond the last
 };
 
 }  // namespace orvanta::desktop

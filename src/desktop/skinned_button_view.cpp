@@ -1,6 +1,5 @@
 #include "desktop/skinned_button_view.h"
 
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <cassert>
@@ -51,9 +50,7 @@ void ButtonPictureView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ButtonPictureView::keyPressEvent(QKeyEvent* event) {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!isEnter || event->modifiers() & Qt::ControlModifier)
-        return QPushButton::keyPressEvent(event);
+    if (!isPressByEnter(*event)) return QPushButton::keyPressEvent(event);
     click();
 }
 

@@ -12,6 +12,7 @@ StatementListModel::StatementListModel(StatementList& list, QObject* parent)
       describe([](int) { return std::string(); }),
       selectionMayDiffer([] {}),
       rowCameIn([](int) {}),
+      rowWentOut([](int) {}),
       m_list(list) {
     list.watch(*this);
 }
@@ -58,10 +59,11 @@ void StatementListModel::rowAboutToBeRemoved(int position) {
     beginRemoveRows({}, position - 1, position - 1);
 }
 
-void StatementListModel::rowRemoved(int) {
+void StatementListModel::rowRemoved(int position) {
     assert(m_changing);
     endRemoveRows();
     m_changing = false;
+    rowWentOut(position);
     rowsDiffer();
     selectionMayDiffer();
 }
@@ -81,6 +83,7 @@ void StatementListModel::cleared() {
     assert(m_changing);
     endResetModel();
     m_changing = false;
+    rowWentOut(0);
     rowsDiffer();
     selectionMayDiffer();
 }

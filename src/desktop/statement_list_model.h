@@ -22,7 +22,8 @@ public:
     std::function<std::string(int position)> describe;  // for those who do not see the row
     std::function<void()> selectionMayDiffer;           // the view's is to follow the list's
     std::function<void(int position)> rowCameIn;
-    std::function<void()> rowsDiffer;  // one was changed or taken out, or all were
+    std::function<void(int position)> rowWentOut;  // 0: all did
+    std::function<void()> rowsDiffer;              // one was changed or taken out, or all were
 
 private:
     void rowAboutToBeInserted(int position) override;

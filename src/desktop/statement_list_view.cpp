@@ -53,6 +53,7 @@ StatementListView::StatementListView(Program& program, StatementList& list, QWid
         if (m_mappingCounts) viewport()->update();
         showSelection();
     };
+    m_model.rowWentOut = [this](int position) { m_wentOut = position; };
     m_model.rowsDiffer = [this] {
         if (!std::exchange(m_measuring, true))
             QTimer::singleShot(0, this, [this] { measureRows(); });
@@ -70,14 +71,22 @@ StatementListView::~StatementListView() {
     if (m_strip) m_strip->leave(*this);
 }
 
+/// What is filled anew begins at its top.
+void StatementListView::reset() {
+    QListView::reset();
+    verticalScrollBar()->setValue(0);
+}
+
 void StatementListView::showSelection() {
     if (m_model.isChanging()) return;
     m_showing = true;
     const QModelIndex index = indexAtPosition(m_list.selected());
-    if (index.isValid())
+    if (index.isValid()) {
         selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
-    else
+        m_wentOut = 0;
+    } else {
         selectionModel()->clear();
+    }
     m_showing = false;
     m_strip->tell(*this);
 }
@@ -96,16 +105,20 @@ void StatementListView::selectionChanged(const QItemSelection& selected,
     m_list.select(chosen.isEmpty() ? 0 : chosen.front().row() + 1);
 }
 
-/// The first key in a list where nothing is chosen chooses its first row, which Qt would pass over.
+/// The first key in a list where nothing is chosen goes on from where a row was taken out, or
+/// chooses the first row, which Qt would pass over.
 void StatementListView::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && m_hand == Hand::Takes) {
         m_hand = Hand::CalledOff;
         return;
     }
+    const bool turns = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
+    if (turns && m_strip->turn(event->key() == Qt::Key_Left ? -1 : 1)) return;
     const bool moves = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
     if (!moves || m_list.hasSelection() || m_list.count() == 0)
         return QListView::keyPressEvent(event);
-    m_list.select(1);
+    const int next = event->key() == Qt::Key_Down ? m_wentOut : m_wentOut - 1;
+    m_list.select(std::clamp(next, 1, m_list.count()));
     scrollTo(currentIndex());
 }
 
@@ -214,8 +227,11 @@ void StatementListView::carry() {
 
 /// Drops the row at a point of the screen.
 void StatementListView::land(const QPoint& place) {
-    if (StatementListView* list = statementListAt(place))
-        list->dropAt(m_list, list->viewport()->mapFromGlobal(place)).finish(m_program);
+    StatementListView* list = statementListAt(place);
+    if (!list) return;
+    const QPoint point = list->viewport()->mapFromGlobal(place);
+    if (list->viewport()->rect().contains(point))  // a strip covers the rows beyond, or a frame
+        list->dropAt(m_list, point).finish(m_program);
 }
 
 void StatementListView::dragEnterEvent(QDragEnterEvent* event) { passOver(*event); }

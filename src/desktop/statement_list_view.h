@@ -46,6 +46,8 @@ public:
     /// drop is taken there.
     Drop dropAt(const StatementList& from, const QPoint& point);
 
+    void reset() override;
+
 protected:
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;
@@ -94,6 +96,7 @@ private:
     QPointer<ReadingStrip> m_strip;
     bool m_showing = false;
     int m_rowsCameIn = 0, m_lastCameIn = 0;  // since the last look at the event queue
+    int m_wentOut = 0;  // where a row was taken out last, until one is chosen; 0: nowhere
     Hand m_hand = Hand::Free;
     DropPreview m_preview;  // of the drag that is over the list
     int m_previewRow = 0;

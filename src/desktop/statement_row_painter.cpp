@@ -1,7 +1,6 @@
 #include "desktop/statement_row_painter.h"
 
 #include <QPainter>
-#include <QTextLayout>
 #include <algorithm>
 #include <cmath>
 
@@ -9,6 +8,7 @@
 #include "desktop/art.h"
 #include "desktop/conversions.h"
 #include "desktop/statement_list_view.h"
+#include "desktop/text_lines.h"
 #include "desktop/theme.h"
 
 namespace orvanta::desktop {
@@ -36,25 +36,6 @@ void drawGround(QPainter& painter, const QStyleOptionViewItem& option, const Row
                      option.palette.color(QPalette::Midlight));
 }
 
-/// The text in as many lines as it needs; the last one that there may be is cut.
-QStringList brokenAt(const QString& text, const QFont& font, int width, int mostLines) {
-    QStringList lines;
-    QTextLayout layout(text, font);
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    int begin = 0;
-    for (QTextLine line; lines.size() + 1 < mostLines && (line = layout.createLine()).isValid();) {
-        line.setLineWidth(width);
-        if (begin + line.textLength() >= text.length()) break;
-        lines << text.mid(begin, line.textLength()).trimmed();
-        begin += line.textLength();
-    }
-    layout.endLayout();
-    return lines << QFontMetrics(font).elidedText(text.mid(begin), Qt::ElideRight, width);
-}
-
 void drawContent(QPainter& painter, const QRect& place, const Row& row, const QFont& font,
                  const RowLengths& lengths, int mostLines) {
     const QRect room = place.adjusted(lengths.textLeft(row), 0, -lengths.gap, 0);
@@ -63,7 +44,8 @@ void drawContent(QPainter& painter, const QRect& place, const Row& row, const QF
                                              lengths.picture, lengths.picture));
     painter.setFont(font);
     painter.setPen(inkOf(row));
-    const QStringList lines = brokenAt(lineOf(row.text), font, room.width(), mostLines);
+    QStringList lines = linesOf(lineOf(row.text), font, room.width(), mostLines);
+    lines.back() = painter.fontMetrics().elidedText(lines.back(), Qt::ElideRight, room.width());
     const int height = painter.fontMetrics().height();
     QRect line(room.left(), room.center().y() - static_cast<int>(lines.size()) * height / 2 + 1,
                room.width(), height);
@@ -148,9 +130,11 @@ int textRoom(const Row& row, int rowWidth, int lines, const MappingCounts* count
 
 void drawHint(QPainter& painter, const QWidget& viewport, int top, const QString& hint) {
     const int margin = enlarged(16);
+    const QRect room = viewport.rect().adjusted(margin, top + margin, -margin, 0);
+    constexpr int broken = static_cast<int>(Qt::AlignLeft | Qt::AlignTop) | Qt::TextWordWrap;
+    if (painter.boundingRect(room, broken, hint).bottom() > room.bottom()) return;
     painter.setPen(viewport.palette().color(QPalette::PlaceholderText));
-    painter.drawText(viewport.rect().adjusted(margin, top + margin, -margin, 0),
-                     static_cast<int>(Qt::AlignLeft | Qt::AlignTop) | Qt::TextWordWrap, hint);
+    painter.drawText(room, broken, hint);
 }
 
 void drawDropGround(QPainter& painter, const QRect& place) {

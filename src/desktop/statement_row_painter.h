@@ -46,7 +46,7 @@ int rowHeight(const QFontMetrics& metrics, int lines = 1);
 int textRoom(const Row& row, int rowWidth, int lines, const MappingCounts* counts,
              const LetterWidths& letters, const RowLengths& lengths = {});
 
-/// What a list says below its rows, from `top` of its viewport down.
+/// What a list says below its rows, from `top` of its viewport down, if all of it fits.
 void drawHint(QPainter& painter, const QWidget& viewport, int top, const QString& hint);
 
 /// The ground of what would take a drop.

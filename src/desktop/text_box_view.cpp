@@ -73,7 +73,7 @@ QString TextBoxView::accepted(const std::string& typed) {
 
 /// True for keys that the box has no use for and the window has.
 bool TextBoxView::isTheWindows(const QKeyEvent& event) const {
-    if (event.modifiers() != Qt::ControlModifier) return false;
+    if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::ControlModifier) return false;
     switch (event.key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:

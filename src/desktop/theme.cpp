@@ -185,6 +185,14 @@ public:
         return QProxyStyle::subControlRect(control, option, part, widget);
     }
 
+    /// A desktop that opens what is clicked once would close a file dialog with the first of
+    /// several files.
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* more) const override {
+        if (hint == SH_ItemView_ActivateItemOnSingleClick) return 0;
+        return QProxyStyle::styleHint(hint, option, widget, more);
+    }
+
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
                     const QWidget* widget) const override {
         const int usual = QProxyStyle::pixelMetric(metric, option, widget);

@@ -12,7 +12,7 @@ namespace orvanta {
 
 // A session in a file that a person named, or in a temporary one, which is the program's own.
 
-/// Tells Platform::failedSaves of a failure, and passes it on.
+// Both tell Platform::failedSaves of a failure, and pass it on.
 inline void writeNamedSession(const Platform& platform, const std::string& fileName,
                               std::string_view bytes) {
     try {
@@ -23,9 +23,19 @@ inline void writeNamedSession(const Platform& platform, const std::string& fileN
     }
 }
 
+inline void writeCopy(const Platform& platform, const std::string& fileName,
+                      std::string_view bytes) {
+    try {
+        platform.disk.replaceOwn(fileName, bytes);
+    } catch (const Failure&) {
+        if (platform.failedSaves) platform.failedSaves->copyNotWritten(fileName, bytes);
+        throw;
+    }
+}
+
 inline void writeSession(const Platform& platform, const std::string& fileName,
                          std::string_view bytes, bool temporary) {
-    if (temporary) return platform.disk.replaceOwn(fileName, bytes);
+    if (temporary) return writeCopy(platform, fileName, bytes);
     writeNamedSession(platform, fileName, bytes);
 }
 

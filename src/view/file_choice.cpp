@@ -22,6 +22,7 @@ constexpr std::string_view noFolder = "This folder does not exist:",
                            folderOfThatName = "There is a folder of this name:",
                            noPlainFile = "No file can be saved under this name:",
                            ownFile = "The program keeps files of its own under this name:",
+                           ownFolder = "The program keeps only its newest copies in this folder:",
                            noFileButFolder = "This is a folder:",
                            unusable = "This name can't be used:";
 
@@ -104,7 +105,15 @@ FileChoice toSave(const std::string& path) {
 }
 
 bool isOwnName(const FileDialogPlace& place, const std::string& path) {
-    return std::ranges::find(place.ownNames, native::withoutFolder(path)) != place.ownNames.end();
+    const std::string_view name = native::withoutFolder(path);
+    return name.starts_with(native::passingPrefix) ||
+           std::ranges::find(place.ownNames, name) != place.ownNames.end();
+}
+
+bool isInOwnFolder(const FileDialogPlace& place, const std::string& path) {
+    std::error_code unknown;
+    return std::filesystem::equivalent(pathFrom(native::folderOf(path)), pathFrom(place.ownFolder),
+                                       unknown);
 }
 
 FileChoice toRead(const std::string& path) {
@@ -133,8 +142,9 @@ FileChoice judged(const FileDialogPlace& place, const std::string& typed, const 
     if (namesAFolder(typed)) return refusal(noFolder, path);
     if (place.mode == FileDialogMode::Open) return toOpen(path, endingIn(place.filter));
     const std::string saved = withFilterEnding(path, place.filter);
-    if (isOwnName(place, saved) || isOwnName(place, native::targetOf(saved)))
-        return refusal(ownFile, saved);
+    const std::string target = native::targetOf(saved);
+    if (isOwnName(place, saved) || isOwnName(place, target)) return refusal(ownFile, saved);
+    if (isInOwnFolder(place, target)) return refusal(ownFolder, native::folderOf(target));
     return toSave(saved);
 }
 

@@ -20,6 +20,8 @@ struct FileDialogPlace {
     std::string folder, home;
     /// Names of the program's own files, which it writes and removes: no file of a person's.
     std::vector<std::string> ownNames{};
+    /// A folder in which the program removes files by itself, a whole path; empty for none.
+    std::string ownFolder{};
 };
 
 enum class FileChoiceAct { EnterFolder, TakeFile, Refuse };
@@ -36,7 +38,7 @@ struct FileChoice {
 /// A folder is entered, whatever leads to it: a name, a path, "..", "~" for the person's own
 /// folder. A name to save to gets the filter's ending if it holds no point; a file to open is
 /// looked for with the ending where there is none without. Refused is what could not be saved to
-/// or read, and to save under a name of the program's own.
+/// or read, and to save under a name or into a folder of the program's own.
 FileChoice choiceOf(const FileDialogPlace& place, const std::string& typed);
 
 /// The same for a name that can only be a file's: a folder is refused.

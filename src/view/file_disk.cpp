@@ -76,19 +76,23 @@ void FileDisk::replace(const std::string& path, std::string_view bytes) {
     const std::string name = nativeFromPath(path);
     const FileKind kind = native::kindOf(name, Links::Follow);
     if (kind == FileKind::Other) return native::writeInto(name, bytes);
-    put(native::targetOf(name), kind, bytes);
+    const std::string target = native::targetOf(name);
+    // A rename would not ask for the right to write the file itself.
+    if (kind == FileKind::Plain) native::requireWritable(target);
+    put(target, kind, bytes);
 }
 
 void FileDisk::replaceOwn(const std::string& path, std::string_view bytes) {
     const std::string name = nativeFromPath(path);
-    put(name, native::kindOf(name, Links::Keep), bytes);
+    const FileKind kind = native::kindOf(name, Links::Keep);
+    // Nobody made the copy of a session read-only to keep it: the session behind it would be lost.
+    if (kind == FileKind::Plain && !m_rescue) native::requireWritable(name);
+    put(name, kind, bytes);
 }
 
 void FileDisk::put(const std::string& target, native::FileKind kind, std::string_view bytes) const {
     if (kind == FileKind::Folder) throw Failure(ErrorNumber::PathFileAccess);
     const bool there = kind == FileKind::Plain;
-    // A rename would not ask for the right to write the file itself.
-    if (there) native::requireWritable(target);
     try {
         writeBeside(target, bytes, there);
     } catch (const native::FolderRefusal&) {

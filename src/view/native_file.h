@@ -60,6 +60,8 @@ inline std::string_view withoutFolder(std::string_view name) {
 }
 /// The names in a folder, without their folder; none where it can't be looked into.
 std::vector<std::string> namesIn(const std::string& folder);
+/// True if the file has a second name.
+bool hasSecondName(const std::string& name);
 /// A plain file of this user that was last written longer ago than this; no link.
 bool isOwnPlainFile(const std::string& name, std::chrono::seconds olderThan);
 
@@ -72,6 +74,9 @@ void makeFolder(const std::string& name);
 /// leaves it to the folder around it who may.
 void makePrivateFolder(const std::string& name);
 void remove(const std::string& name);
+/// A second name for the same file; it goes on when the first one goes.
+void giveSecondName(const std::string& name, const std::string& second);
+void rename(const std::string& name, const std::string& other);
 /// Removes what can be removed.
 void tryToRemove(const std::string& name);
 /// Removes the passing files that are this user's and older than a day: programs that were killed

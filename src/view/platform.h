@@ -181,12 +181,17 @@ public:
     virtual std::string documents() const = 0;
 };
 
-/// Hears of what a person saved under a name and the disk did not take.
+/// Hears of what the disk did not take, and of what is about to be lost.
 class FailedSaves {
 public:
     virtual ~FailedSaves() = default;
     /// The bytes of a session that were meant for this path and are in no file.
     virtual void sessionNotWritten(const std::string& path, std::string_view bytes) = 0;
+    /// The bytes of the open session that were meant for the program's own copy of it.
+    virtual void copyNotWritten(const std::string& path, std::string_view bytes) = 0;
+    /// The bytes of an analysis with changes of which no question was asked: another one takes its
+    /// place.
+    virtual void analysisReplaced(std::string_view bytes) = 0;
     /// A report; what it was made from still stands in its own file.
     virtual void documentNotWritten(const std::string& path) = 0;
 };

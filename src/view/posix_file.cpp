@@ -93,6 +93,11 @@ std::string ledToBy(const std::string& name) {
     return to.starts_with('/') ? to : folderOf(name) + '/' + to;
 }
 
+bool isRefusalOfRights(int error) {
+    return error == EPERM || error == EACCES || error == ENOTSUP || error == ENOSYS ||
+           error == EINVAL;
+}
+
 mode_t usualMode() {
     const mode_t mask = ::umask(0);
     ::umask(mask);
@@ -204,6 +209,11 @@ bool isOwnPlainFile(const std::string& name, std::chrono::seconds olderThan) {
            std::time(nullptr) - status.st_mtime > olderThan.count();
 }
 
+bool hasSecondName(const std::string& name) {
+    struct stat status {};
+    return look(name, Links::Keep, status) && status.st_nlink > 1;
+}
+
 void requireWritable(const std::string& name) {
     if (::access(name.c_str(), W_OK) != 0) fail(name);
 }
@@ -224,6 +234,14 @@ void makePrivateFolder(const std::string& name) {
 
 void remove(const std::string& name) {
     if (::unlink(name.c_str()) != 0) fail(name);
+}
+
+void giveSecondName(const std::string& name, const std::string& second) {
+    if (::link(name.c_str(), second.c_str()) != 0) fail(name);
+}
+
+void rename(const std::string& name, const std::string& other) {
+    if (::rename(name.c_str(), other.c_str()) != 0) fail(name);
 }
 
 void writeInto(const std::string& name, std::string_view bytes) {
@@ -333,7 +351,11 @@ void NewFile::takeRightsOf(const std::string& former) {
 }
 
 void NewFile::takePlace(const std::string& name) {
-    if (uninterrupted([&] { return ::fchmod(m_file.m_descriptor, m_rights); }) != 0) fail(name);
+    // A medium without rights, or whose files all belong to somebody else, keeps its own; the file
+    // has none too many before.
+    if (uninterrupted([&] { return ::fchmod(m_file.m_descriptor, m_rights); }) != 0 &&
+        !isRefusalOfRights(errno))
+        fail(name);
     m_file.flush();
     m_file.close();
     if (::rename(m_file.name().c_str(), name.c_str()) != 0) failInFolder(name);

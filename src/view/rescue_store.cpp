@@ -55,19 +55,29 @@ std::string RescueStore::keep(std::string_view name, std::string_view bytes) con
     native::removeLeftovers(m_folder);
     native::NewFile copy(m_folder);
     copy.write(bytes);
-    std::string path = freePath(native::withoutFolder(name));
+    std::string path = freePath(m_folder, native::withoutFolder(name));
     copy.takePlace(path);
     dropOldCopies(path);
     return path;
 }
 
-std::string RescueStore::pathOf(const std::string& name) const {
-    return m_folder + pathSeparator + name;
+std::string RescueStore::keepFile(const std::string& file, std::string_view name) const {
+    try {
+        native::makePrivateFolder(m_folder);
+        std::string path = freePath(m_folder, name);
+        native::giveSecondName(file, path);
+        dropOldCopies(path);
+        return path;
+    } catch (const Failure&) {
+        std::string path = freePath(native::folderOf(file), name);
+        native::rename(file, path);
+        return path;
+    }
 }
 
-std::string RescueStore::freePath(std::string_view name) const {
+std::string RescueStore::freePath(const std::string& folder, std::string_view name) const {
     for (Time time = m_clock();; time += std::chrono::milliseconds(1)) {
-        std::string path = pathOf(stampOf(time).append(shortened(name)));
+        std::string path = folder + pathSeparator + stampOf(time).append(shortened(name));
         if (native::kindOf(path, native::Links::Keep) == native::FileKind::Missing) return path;
     }
 }
@@ -75,13 +85,14 @@ std::string RescueStore::freePath(std::string_view name) const {
 void RescueStore::dropOldCopies(const std::string& newest) const {
     std::vector<std::string> copies = native::namesIn(m_folder);
     // The one just made stays, though a clock that was ahead may have named others after it.
-    std::erase_if(copies,
-                  [&](const std::string& name) { return !isCopy(name) || pathOf(name) == newest; });
+    std::erase_if(copies, [&](const std::string& name) {
+        return !isCopy(name) || name == native::withoutFolder(newest);
+    });
     constexpr std::size_t others = copiesKept - 1;
     if (copies.size() <= others) return;
     std::ranges::sort(copies, std::greater());
     copies.erase(copies.begin(), copies.begin() + others);
-    for (const std::string& name : copies) native::tryToRemove(pathOf(name));
+    for (const std::string& name : copies) native::tryToRemove(m_folder + pathSeparator + name);
 }
 
 }  // namespace orvanta

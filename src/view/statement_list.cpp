@@ -17,43 +17,49 @@ constexpr std::uint64_t firstRank = std::uint64_t{1} << 62;
 StatementList::StatementList(ControlSet& owner, std::string name, AfterRemoval afterRemoval)
     : Control(owner, std::move(name), this), m_afterRemoval(afterRemoval) {}
 
-StatementList::Entry& StatementList::entry(int position) const {
+/// Fails with IndexOutOfBounds.
+std::size_t StatementList::indexOf(int position) const {
     if (position < 1 || position > count()) throw Failure(ErrorNumber::IndexOutOfBounds);
-    return *m_rows[static_cast<std::size_t>(position) - 1];
+    return static_cast<std::size_t>(position) - 1;
 }
 
-int StatementList::positionOf(const Entry& entry) const {
-    const auto found = std::ranges::lower_bound(m_rows, entry.rank, {}, &Entry::rank);
+int StatementList::positionOfRank(Rank rank) const {
+    const auto found = std::ranges::lower_bound(m_rows, rank, {}, &Entry::rank);
     return static_cast<int>(found - m_rows.begin()) + 1;
 }
 
 int StatementList::positionOf(std::string_view key) const {
     const auto found = m_byKey.find(key);
-    return found == m_byKey.end() ? 0 : positionOf(**found);
+    return found == m_byKey.end() ? 0 : positionOfRank(found->rank);
 }
 
 /// A rank between those of the neighbours of a place where a row is about to go in.
-std::uint64_t StatementList::rankFor(int position) {
+StatementList::Rank StatementList::rankFor(int position) {
     if (m_rows.empty()) return firstRank;
     const auto index = static_cast<std::size_t>(position) - 1;
-    if (index == 0 && m_rows.front()->rank > rankGap) return m_rows.front()->rank - rankGap;
-    if (index == m_rows.size() && m_rows.back()->rank < ~rankGap)
-        return m_rows.back()->rank + rankGap;
-    const std::uint64_t below = index == 0 ? 0 : m_rows[index - 1]->rank;
-    const std::uint64_t above = index == m_rows.size() ? ~std::uint64_t{0} : m_rows[index]->rank;
+    if (index == 0 && m_rows.front().rank > rankGap) return m_rows.front().rank - rankGap;
+    if (index == m_rows.size() && m_rows.back().rank < ~rankGap)
+        return m_rows.back().rank + rankGap;
+    const Rank below = index == 0 ? 0 : m_rows[index - 1].rank;
+    const Rank above = index == m_rows.size() ? ~Rank{0} : m_rows[index].rank;
     if (above - below > 1) return below + (above - below) / 2;
-
-    std::uint64_t rank = firstRank;  // no room left between the two: spread all rows anew
-    for (const auto& row : m_rows) row->rank = rank += rankGap;
+    spreadRanks();
     return rankFor(position);
+}
+
+/// Leaves room between all rows.
+void StatementList::spreadRanks() {
+    const int selectedPosition = selected();
+    Rank rank = firstRank;
+    for (Entry& row : m_rows) {
+        row.rank = rank += rankGap;
+        if (!row.row->key.empty()) m_byKey.find(row.row->key)->rank = rank;
+    }
+    if (selectedPosition != 0) m_selected = entry(selectedPosition).rank;
 }
 
 void StatementList::refuseTakenKey(std::string_view key) const {
     if (!key.empty() && m_byKey.contains(key)) throw Failure(ErrorNumber::KeyNotUnique);
-}
-
-void StatementList::forgetKey(Entry& entry) {
-    if (!entry.row->key.empty()) m_byKey.erase(&entry);
 }
 
 void StatementList::watch(StatementListObserver& observer) {
@@ -69,20 +75,26 @@ void StatementList::tell(void (StatementListObserver::*event)(Positions...),
     for (auto* observer : m_observers) (observer->*event)(positions...);
 }
 
-Row& StatementList::Entry::own() {
-    if (row.use_count() > 1) row = std::make_shared<Row>(*row);
+/// The row, to be changed here alone.
+Row& StatementList::ownRow(int position) {
+    RowPointer& row = m_rows[indexOf(position)].row;
+    if (row->use_count() > 1) {
+        const RowPointer copy = new SharedRow(*row);
+        if (!row->key.empty()) m_byKey.find(row->key)->row = copy.get();
+        row = copy;
+    }
     return *row;
 }
 
-void StatementList::insertEntry(int position, std::shared_ptr<Row> row) {
+void StatementList::insertEntry(int position, RowPointer row) {
     if (position < 1 || position > count() + 1) throw Failure(ErrorNumber::IndexOutOfBounds);
     // All memory is asked for before the list changes, and before anybody is told that it will.
-    auto entry = std::make_unique<Entry>(Entry{std::move(row), rankFor(position)});
+    const Rank rank = rankFor(position);
     if (m_rows.size() == m_rows.capacity()) m_rows.reserve(2 * m_rows.size() + 1);
-    if (!entry->row->key.empty() && !m_byKey.insert(entry.get()).second)
+    if (!row->key.empty() && !m_byKey.insert({row.get(), rank}).second)
         throw Failure(ErrorNumber::KeyNotUnique);
     tell(&StatementListObserver::rowAboutToBeInserted, position);
-    m_rows.insert(m_rows.begin() + (position - 1), std::move(entry));
+    m_rows.insert(m_rows.begin() + (position - 1), {std::move(row), rank});
     tell(&StatementListObserver::rowInserted, position);
 }
 
@@ -90,19 +102,19 @@ void StatementList::addAll(const StatementList& other) {
     assert(&other != this);
     m_rows.reserve(m_rows.size() + other.m_rows.size());
     m_byKey.reserve(m_byKey.size() + other.m_byKey.size());
-    for (const auto& entry : other.m_rows) insertEntry(count() + 1, entry->row);
+    for (const auto& entry : other.m_rows) insertEntry(count() + 1, entry.row);
 }
 
 void StatementList::remove(int position) {
-    Entry& gone = entry(position);
+    const Entry& gone = entry(position);
     tell(&StatementListObserver::rowAboutToBeRemoved, position);
-    const bool wasSelected = &gone == m_selected;
-    forgetKey(gone);
+    const bool wasSelected = gone.rank == m_selected;
+    if (!gone.row->key.empty()) m_byKey.erase(gone.row->key);
     m_rows.erase(m_rows.begin() + (position - 1));
     if (wasSelected) {
         const int next = std::min(position, count());
         const bool none = next == 0 || m_afterRemoval == AfterRemoval::SelectNone;
-        m_selected = none ? nullptr : &entry(next);
+        m_selected = none ? 0 : entry(next).rank;
     }
     tell(&StatementListObserver::rowRemoved, position);
     if (wasSelected) tell(&StatementListObserver::selectionChanged);
@@ -113,24 +125,23 @@ void StatementList::clear() {
     tell(&StatementListObserver::aboutToBeCleared);
     m_byKey.clear();
     m_rows.clear();
-    m_selected = nullptr;
+    m_selected = 0;
     tell(&StatementListObserver::cleared);
 }
 
 template <class Change>
 void StatementList::changeRow(int position, Change change) {
-    change(entry(position).own());
+    change(ownRow(position));
     tell(&StatementListObserver::rowChanged, position);
 }
 
 void StatementList::setKey(int position, std::string key) {
-    Entry& changed = entry(position);
-    if (changed.row->key == key) return;
+    if (row(position).key == key) return;
     refuseTakenKey(key);
-    Row& row = changed.own();  // first, since it may find no memory
-    forgetKey(changed);
+    Row& row = ownRow(position);  // first, since it may find no memory
+    if (!row.key.empty()) m_byKey.erase(row.key);
     row.key = std::move(key);
-    if (!changed.row->key.empty()) m_byKey.insert(&changed);
+    if (!row.key.empty()) m_byKey.insert({&row, entry(position).rank});
     tell(&StatementListObserver::rowChanged, position);
 }
 
@@ -148,7 +159,7 @@ void StatementList::setIndent(int position, int indent) {
 }
 
 void StatementList::select(int position) {
-    Entry* chosen = position == 0 ? nullptr : &entry(position);
+    const Rank chosen = position == 0 ? 0 : entry(position).rank;
     if (chosen == m_selected) return;
     m_selected = chosen;
     tell(&StatementListObserver::selectionChanged);

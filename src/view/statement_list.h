@@ -1,9 +1,11 @@
 #pragma once
 
+#include <boost/smart_ptr/intrusive_ptr.hpp>
+#include <boost/smart_ptr/intrusive_ref_counter.hpp>
 #include <boost/unordered/unordered_flat_set.hpp>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -52,9 +54,9 @@ enum class AfterRemoval { SelectNeighbour, SelectNone };
 /// An ordered list of statement rows with at most one of them selected. The rows are the
 /// session's data. Positions count from 1.
 ///
-/// Rows stay where they are in memory, so that the key index can point at them. Each carries a
-/// rank that grows along the list; a position is found from a row by bisecting on the ranks. What
-/// a row says can be held in common with rows of other lists, until one of them is changed.
+/// Each row carries a rank that grows along the list. The key index tells the rank, and a position
+/// is found by bisecting on the ranks. What a row says can be held in common with rows of other
+/// lists, until one of them is changed.
 class StatementList : public Control {
 public:
     StatementList(ControlSet& owner, std::string name,
@@ -82,9 +84,7 @@ public:
 
     /// Adds a row at a position from 1 to count() + 1. Fails with IndexOutOfBounds or
     /// KeyNotUnique, the list unchanged.
-    void insert(int position, Row row) {
-        insertEntry(position, std::make_shared<Row>(std::move(row)));
-    }
+    void insert(int position, Row row) { insertEntry(position, new SharedRow(std::move(row))); }
 
     /// Fails with IndexOutOfBounds.
     void remove(int position);
@@ -97,55 +97,66 @@ public:
     void setIndent(int position, int indent);
 
     /// Position of the selected row, from 1; 0 for none.
-    int selected() const { return m_selected ? positionOf(*m_selected) : 0; }
-    bool hasSelection() const override { return m_selected; }
+    int selected() const { return m_selected ? positionOfRank(m_selected) : 0; }
+    bool hasSelection() const override { return m_selected != 0; }
     /// The selected row; null for none.
-    const Row* selectedRow() const { return m_selected ? m_selected->row.get() : nullptr; }
+    const Row* selectedRow() const { return m_selected ? &row(selected()) : nullptr; }
     /// 0 selects none. Fails with IndexOutOfBounds.
     void select(int position);
 
     void watch(StatementListObserver& observer);
 
 private:
-    struct Entry {
-        std::shared_ptr<Row> row;
-        std::uint64_t rank;
+    using Rank = std::uint64_t;  // from 1
 
-        /// The row, to be changed here alone.
-        Row& own();
+    /// A row that counts the lists that hold it. All lists live in one thread.
+    struct SharedRow : Row, boost::intrusive_ref_counter<SharedRow, boost::thread_unsafe_counter> {
+        explicit SharedRow(Row row) : Row(std::move(row)) {}
     };
-    /// The index takes an entry for the key of its row.
+    using RowPointer = boost::intrusive_ptr<SharedRow>;
+
+    struct Entry {
+        RowPointer row;
+        Rank rank;
+    };
+    /// What the index holds of an entry. Both may change as long as the key does not.
+    struct IndexEntry {
+        mutable const Row* row;
+        mutable Rank rank;
+    };
     struct KeyHash {
         using is_transparent = void;
         std::size_t operator()(std::string_view key) const {
             return std::hash<std::string_view>()(key);
         }
-        std::size_t operator()(const Entry* entry) const { return (*this)(entry->row->key); }
+        std::size_t operator()(const IndexEntry& entry) const { return (*this)(entry.row->key); }
     };
     struct SameKey {
         using is_transparent = void;
         static std::string_view keyOf(std::string_view key) { return key; }
-        static std::string_view keyOf(const Entry* entry) { return entry->row->key; }
+        static std::string_view keyOf(const IndexEntry& entry) { return entry.row->key; }
         bool operator()(const auto& one, const auto& other) const {
             return keyOf(one) == keyOf(other);
         }
     };
 
-    Entry& entry(int position) const;
-    void insertEntry(int position, std::shared_ptr<Row> row);
-    int positionOf(const Entry& entry) const;
-    std::uint64_t rankFor(int position);
+    std::size_t indexOf(int position) const;
+    const Entry& entry(int position) const { return m_rows[indexOf(position)]; }
+    Row& ownRow(int position);
+    void insertEntry(int position, RowPointer row);
+    int positionOfRank(Rank rank) const;
+    Rank rankFor(int position);
+    void spreadRanks();
     void refuseTakenKey(std::string_view key) const;
-    void forgetKey(Entry& entry);
     template <class Change>
     void changeRow(int position, Change change);
     template <class... Positions>
     void tell(void (StatementListObserver::*event)(Positions...), Positions... positions);
     bool isTelling() const { return m_tellingDepth > 0; }
 
-    std::vector<std::unique_ptr<Entry>> m_rows;
-    boost::unordered_flat_set<Entry*, KeyHash, SameKey> m_byKey;  // those that have a key
-    Entry* m_selected = nullptr;
+    std::vector<Entry> m_rows;
+    boost::unordered_flat_set<IndexEntry, KeyHash, SameKey> m_byKey;  // those that have a key
+    Rank m_selected = 0;                                              // 0: none
     AfterRemoval m_afterRemoval;
     std::vector<StatementListObserver*> m_observers;
     int m_tellingDepth = 0;

@@ -292,6 +292,22 @@ void makePrivateFolder(const std::string& name) {
         fail(name);
 }
 
+bool hasSecondName(const std::string& name) {
+    const Handle file(openAs(longName(name), 0));
+    BY_HANDLE_FILE_INFORMATION data;
+    return file.isOpen() && GetFileInformationByHandle(file.get(), &data) &&
+           data.nNumberOfLinks > 1;
+}
+
+void giveSecondName(const std::string& name, const std::string& second) {
+    if (!CreateHardLinkW(longName(second).c_str(), longName(name).c_str(), nullptr)) fail(name);
+}
+
+void rename(const std::string& name, const std::string& other) {
+    if (!MoveFileExW(longName(name).c_str(), longName(other).c_str(), MOVEFILE_WRITE_THROUGH))
+        fail(name);
+}
+
 void remove(const std::string& name) {
     if (!DeleteFileW(longName(name).c_str())) fail(name);
 }

@@ -190,6 +190,28 @@ TEST_F(SourceFiles, WithoutOpportunitiesLeaveTheirListsEmptyAndTheWizardMovesOn)
     EXPECT_TRUE(bench.form().fraASSummary.isVisible());
 }
 
+TEST_F(SourceFiles, HandOverTheAnalysisThatTheyReplaceIfItWasChanged) {
+    struct : FailedSaves {
+        Texts replaced;
+        void sessionNotWritten(const std::string&, std::string_view) override {}
+        void copyNotWritten(const std::string&, std::string_view) override {}
+        void analysisReplaced(std::string_view bytes) override { replaced.emplace_back(bytes); }
+        void documentNotWritten(const std::string&) override {}
+    } told;
+    bench.program().platform.failedSaves = &told;
+    addStrengths("docs/a.bsm", "Ann", {"Brand"});
+    bench.click("ANext");
+    bench.click("ABack");
+    bench.click("ANext");
+    EXPECT_EQ(told.replaced, Texts{});
+    bench.enter("txtAStrength", {"Own fleet"});
+    bench.click("ABack");
+    bench.click("ANext");
+    ASSERT_EQ(told.replaced.size(), 1U);
+    EXPECT_NE(told.replaced[0].find("Own fleet"), std::string::npos);
+    bench.program().platform.failedSaves = nullptr;
+}
+
 TEST_F(SourceFiles, ThatAreAllMissingEmptyTheListAndTheSession) {
     addStrengths("docs/a.bsm", "Ann", {"Brand"});
     bench.click("ANext");

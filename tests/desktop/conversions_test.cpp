@@ -63,6 +63,14 @@ TEST(ShownToolTip, IsBrokenIntoFewLinesOfEvenWidth) {
     }
 }
 
+TEST(ShownToolTip, BreaksAWordThatIsWiderThanItself) {
+    QTextDocument document;
+    document.setHtml(shownToolTip("See " + QString(400, u'W') + " there"));
+    const QFontMetrics metrics(QToolTip::font());
+    for (const QString& line : document.toPlainText().split(u'\n'))
+        EXPECT_LE(metrics.horizontalAdvance(line), 360) << line.toStdString();
+}
+
 TEST(PixelGrid, CountsInTheTwipsOfItsScreenAndRoundsToWholePixels) {
     const ScreenOf ordinary(15), large(12);
     EXPECT_EQ(PixelGrid(ordinary).exact({1500}), 100);

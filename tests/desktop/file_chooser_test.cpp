@@ -130,6 +130,9 @@ protected:
     EitherChooser() { show(GetParam()); }
 };
 
+/// Also on the screens of a desktop that opens what is clicked once.
+class ChooserOnAnyScreen : public ChooserOnScreen {};
+
 INSTANTIATE_TEST_SUITE_P(ToOpenOrToSave, EitherChooser,
                          testing::Values(FileDialogMode::Open, FileDialogMode::Save));
 
@@ -153,6 +156,16 @@ TEST(FileChooser, ShowsTheSizeTheKindAndTheDateOfAFileWhole) {
         EXPECT_GE(files.columnWidth(column),
                   static_cast<const QAbstractItemView&>(files).sizeHintForColumn(column))
             << column;
+}
+
+TEST(FileChooser, SaysOnceWhichFilesItShows) {
+    for (const char* filter : {"Brainstorm (*.bsm)|*.bsm", "Brainstorm|*.bsm"}) {
+        const FileChooser chooser(
+            {.mode = FileDialogMode::Open, .filter = filter, .initialPath = {}, .fileName = {}},
+            FileRules::Heeded, nullptr);
+        EXPECT_EQ(chooser.nameFilters(), QStringList(QStringLiteral("Brainstorm (*.bsm)")))
+            << filter;
+    }
 }
 
 TEST_P(EitherChooser, EntersATypedFolder) {
@@ -304,6 +317,36 @@ TEST_F(ChooserOnScreen, ForSeveralTakesTheClickedFilesInTheirOrder) {
     EXPECT_EQ(typed(), "\"team2.bsm\" \"ann.bsm\"");
     pressButton();
     EXPECT_EQ(taken(), "team2.bsm, ann.bsm");
+}
+
+TEST_F(ChooserOnAnyScreen, ForSeveralStaysOpenWhileTheyAreClicked) {
+    showForSeveral();
+    click("team2.bsm");
+    EXPECT_EQ(shown(), ".");
+    click("ann.bsm", Qt::ControlModifier);
+    EXPECT_EQ(shown(), ".");
+    pressButton();
+    EXPECT_EQ(taken(), "team2.bsm, ann.bsm");
+}
+
+TEST_F(ChooserOnScreen, ForSeveralTakesAllFilesOfAFolderByKeysThoughItHasFoldersToo) {
+    showForSeveral();
+    auto& files = *nameBox().window()->findChild<QTreeView*>(QStringLiteral("treeView"));
+    files.setFocus();
+    files.setCurrentIndex(files.model()->index(0, 0, files.rootIndex()));
+    QTest::keyClick(&files, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(typed(), R"("ann.bsm" "bo.bsm" "team2.bsm")");
+    pressEnter();
+    EXPECT_EQ(taken(), "ann.bsm, bo.bsm, team2.bsm");
+}
+
+TEST_F(ChooserOnScreen, ForSeveralEntersByKeyAFolderThatIsChosenAlone) {
+    showForSeveral();
+    click("ann.bsm");
+    click("Team");
+    nameBox().window()->findChild<QTreeView*>(QStringLiteral("treeView"))->setFocus();
+    pressEnter();
+    EXPECT_EQ(shown(), "Team");
 }
 
 TEST_F(ChooserOnScreen, ForSeveralTakesAllFilesFromOneToAnother) {

@@ -55,7 +55,7 @@ class Place:
         self.copy = self.folder / "brainstorm.tmp"
         self.copy.write_text(LEFT_BEHIND, newline="")
 
-    def start(self, name="home", user=None, arguments=()):
+    def start(self, name="home", user=None, arguments=(), **variables):
         home = self.root / name
         home.mkdir(mode=0o700, exist_ok=True)
         if user:
@@ -63,6 +63,7 @@ class Place:
         environment = dict(os.environ, HOME=str(home), XDG_CONFIG_HOME=str(home),
                            XDG_DATA_HOME=str(home), XDG_RUNTIME_DIR=str(home),
                            PULSE_SERVER=f"unix:{home}/no-server", QT_QPA_PLATFORM="offscreen")
+        environment.update(variables)
         process = subprocess.Popen([self.binary, *arguments], env=environment, user=user,
                                    group=user)
         atexit.register(process.kill)  # a claim that fails leaves it running otherwise
@@ -94,6 +95,31 @@ def signals_keep_the_session(binary, data):
         process.send_signal(number)
         ends_well(process, number.name)
         expect(place.copy.read_bytes().decode() == COPIED, f"{number.name} copies the session")
+
+
+def shows_a_window(screen, name):
+    found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", name],
+                           env=dict(os.environ, DISPLAY=screen), capture_output=True, check=False)
+    return found.returncode == 0
+
+
+def the_end_of_the_display_keeps_the_session(binary, data):
+    for number in (signal.SIGTERM, signal.SIGKILL):
+        reading, writing = os.pipe()
+        display = subprocess.Popen(["Xvfb", "-displayfd", str(writing)], pass_fds=[writing],
+                                   stderr=subprocess.DEVNULL)
+        os.close(writing)
+        with open(reading, encoding="ascii") as told:
+            screen = ":" + told.readline().strip()
+        place = Place(binary, data)
+        process = place.start(QT_QPA_PLATFORM="xcb", DISPLAY=screen)
+        wait_for(lambda: place.is_locked_by(process), "the start")
+        wait_for(lambda: shows_a_window(screen, "Orvanta"), "the window")
+        display.send_signal(number)
+        display.wait()
+        process.wait(PATIENCE)
+        expect(place.copy.read_bytes().decode() == COPIED,
+               f"the end of the display by {number.name} copies the session")
 
 
 def a_start_removes_old_leftovers(binary, data):
@@ -246,7 +272,7 @@ def a_start_without_a_display_says_so(binary, data):
 
 
 if __name__ == "__main__":
-    for claim in (signals_keep_the_session, arguments_are_not_read,
+    for claim in (signals_keep_the_session, the_end_of_the_display_keeps_the_session, arguments_are_not_read,
                   a_second_start_leaves_the_first_alone, another_user_has_a_folder_of_their_own,
                   a_session_in_the_users_own_folder_is_found,
                   a_folder_may_have_a_name_that_is_no_text,

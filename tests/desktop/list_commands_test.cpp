@@ -140,6 +140,34 @@ TEST_P(MenusOfMappingScreens, DeleteRemovesWhileTheListHasTheKeyboard) {
     EXPECT_EQ(bench.keys(side.list).size(), 3u);
 }
 
+TEST_P(MenusOfMappingScreens, AKeyGoesOnFromWhereTheRemovedRowWas) {
+    const MappingSide& side = GetParam();
+    QAbstractItemView& list = view(side.list);
+    list.setFocus();
+    bench.map(side.strengths, 1, side.list, 3);
+    ASSERT_EQ(bench.list(side.list).selected(), 4);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    EXPECT_EQ(bench.list(side.list).selected(), 0) << "nothing is chosen until a key is pressed";
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(bench.list(side.list).selected(), 4);
+    bench.select(side.list, 2);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QTest::keyClick(&list, Qt::Key_Up);
+    EXPECT_EQ(bench.list(side.list).selected(), 1);
+}
+
+TEST_P(MenusOfMappingScreens, AKeyBeginsAtTheFirstRowWhereNoRowWasRemoved) {
+    const MappingSide& side = GetParam();
+    QAbstractItemView& list = view(side.list);
+    list.setFocus();
+    bench.map(side.strengths, 1, side.list, 3);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    bench.select(side.list, 3);
+    bench.list(side.list).select(0);
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(bench.list(side.list).selected(), 1);
+}
+
 TEST_P(MenusOfMappingScreens, RemoveIsGreyWhileNoRowIsSelected) {
     const MappingSide& side = GetParam();
     bench.select(side.list, 0);

@@ -175,6 +175,34 @@ TEST_F(Keyboard, GoesOnAndTypesTheNextAnswerWithoutTheMouse) {
     EXPECT_EQ(bench.window().focusWidget(), &bench.widget("txtStrength"));
 }
 
+TEST_F(Keyboard, TypesIntoTheNextAnswerWhatCameRightBehindTheKeyThatWentOn) {
+    analysis.next(1);
+    analysis.window().activateWindow();
+    QApplication::setActiveWindow(&analysis.window());
+    QCoreApplication::processEvents();
+    const auto press = [this](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(analysis.window().focusWidget(), key, modifiers);
+    };
+    press(Qt::Key_Return, Qt::ControlModifier);
+    press(Qt::Key_A);
+    EXPECT_EQ(analysis.form().txtAWeakness.text(), "a");
+    analysis.widget("imgBtnANext").setFocus();
+    press(Qt::Key_Space);
+    press(Qt::Key_B);
+    EXPECT_EQ(analysis.form().txtAOpportunity.text(), "b");
+}
+
+TEST_F(Keyboard, GoesOnFromALinkAsFromAnyControl) {
+    auto& link = analysis.widget<QAbstractButton>("lblMerge");
+    int presses = 0;
+    QObject::connect(&link, &QAbstractButton::clicked, &link, [&presses] { ++presses; });
+    QTest::keyClick(&link, Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(presses, 1);
+    QTest::keyClick(&link, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(presses, 1);
+    EXPECT_EQ(analysis.stepsShown(), Texts{"fraASSummary"});
+}
+
 TEST_F(Keyboard, LeavesTheFocusAloneWhereTheMouseGoesOn) {
     analysis.next(1);
     QCoreApplication::processEvents();

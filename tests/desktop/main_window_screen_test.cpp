@@ -321,6 +321,7 @@ TEST(AnyScreen, HoldsTheDialogsOfTheToolkit) {
                        nullptr);
     message.show();
     expectOnScreen(message, "message");
+    EXPECT_GE(message.width(), enlarged(320));
     for (const QAbstractButton* button : message.findChildren<QAbstractButton*>())
         EXPECT_GE(button->width(), neededBy(*button).width()) << button->text().toStdString();
     MessageBox longOne({.text = "Is this to be kept?\n" + words(40), .icon = MessageIcon::Stop},

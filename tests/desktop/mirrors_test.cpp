@@ -2,11 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QToolTip>
 
 namespace orvanta::test {
 
@@ -55,6 +58,18 @@ TEST_F(Mirrors, HideWhatComesUnderAPanel) {
     EXPECT_FALSE(widget.isHidden());
     model.setCoveredBy(&stack);
     EXPECT_TRUE(widget.isHidden());
+}
+
+TEST_F(Mirrors, TellTheToolTipToAPointerThatRestsAndFollowItsChange) {
+    CheckBox model(controls, "chkAny", "Any");
+    model.setToolTip("Less < more");
+    QWidget& widget = *makeCheckBox(model, area, [](bool) {});
+    QHelpEvent rests(QEvent::ToolTip, {}, {});
+    QApplication::sendEvent(&widget, &rests);
+    EXPECT_EQ(widget.toolTip(), shownToolTip("Less < more"));
+    model.setToolTip("Other");
+    EXPECT_EQ(widget.toolTip(), shownToolTip("Other"));
+    QToolTip::hideText();
 }
 
 TEST_F(Mirrors, FollowTheNameForThoseWhoDoNotSeeTheControl) {

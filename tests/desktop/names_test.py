@@ -7,6 +7,7 @@ As accessibility_test.py does: on a display and a bus of its own, through the bu
 """
 
 import os
+import resource
 import sys
 
 from accessibility_test import (INSIDE, Atspi, Program, acknowledge, act, expect, failures, has,
@@ -15,9 +16,10 @@ from accessibility_test import (INSIDE, Atspi, Program, acknowledge, act, expect
 HOME, APP, DOCUMENTS = "日本 – Łódź", "Πρόγραμμα", "文書"
 # Two names that the code page writes alike, with five question marks.
 ONE, OTHER = "Δάφνη", "Φάνης"
+LOST = "Λήθη"
 
 
-def brainstorm(program, name, strength):
+def begin(program, strength):
     program.press("Brainstorm")
     program.wait_for_label("Step 1 of 5")
     options = [n.get_name() for n in shown(program.window()) if n.get_role_name() == "radio button"]
@@ -29,7 +31,14 @@ def brainstorm(program, name, strength):
     program.write("New Strength", strength)
     program.press("Add")
     program.wait_for_rows("Strength list", 1)
+
+
+def answer(program, strength):
+    begin(program, strength)
     press_until(program, "Next>>", lambda: has(program, "push button", "Save..."))
+
+
+def save(program, name):
     program.press("Save...")
     choose(program, "Save", name)
     acknowledge(program, "message after saving", "Your brainstorming session completed.")
@@ -44,10 +53,22 @@ def choose(program, button, name):
 
 def two_sessions(program, documents):
     """One in the folder that the first dialog offers, the other beside it."""
-    brainstorm(program, ONE, "Own fleet")
-    brainstorm(program, OTHER, "Loyal customers")
+    for name, strength in ((ONE, "Own fleet"), (OTHER, "Loyal customers")):
+        answer(program, strength)
+        save(program, name)
     names = sorted(file.name for file in (documents / "My SWOT").iterdir())
     expect(names == sorted([f"{ONE}.bsm", f"{OTHER}.bsm"]), f"the saved files are {names}")
+
+
+def a_failed_save_is_told(program, _):
+    """As on a full disk: no file may grow beyond a hundred bytes."""
+    answer(program, "Skilled staff")
+    process, limit = program.process.pid, resource.RLIMIT_FSIZE
+    whole = resource.prlimit(process, limit)
+    resource.prlimit(process, limit, (100, whole[1]))
+    save(program, LOST)
+    program.wait_for_label(f"{LOST}.bsm was not written")
+    resource.prlimit(process, limit, whole)
 
 
 def analyze(program, documents):
@@ -93,12 +114,29 @@ def settings_bring_the_folder_back(program, documents):
     browse(program, "ανάλυση", documents / "ανάλυση.aze")
 
 
+def a_session_behind_a_file_dialog_is_kept(program, _):
+    """The question before the dialog was answered No, and the program is ended instead."""
+    program.restart()
+    begin(program, "Skilled staff")
+    program.press("<<Back")
+    program.wait_for_label("Step 1 of 5")
+    program.press("Open Brainstorm File...")
+    program.press("No")
+    program.find("text", "File name:")
+    program.process.terminate()
+    program.wait_for_end()
+    copy = (program.folder / "brainstorm.tmp").read_text()
+    expect("Skilled staff" in copy, f"the copy holds {copy}")
+
+
 def main():
     if INSIDE not in os.environ:
         sys.exit(on_a_desktop_of_its_own())
     with Program(sys.argv[1], sys.argv[2], HOME, APP, DOCUMENTS) as program:
         documents = program.home / DOCUMENTS
-        for claim in (two_sessions, analyze, report, settings_bring_the_folder_back):
+        for claim in (two_sessions, a_failed_save_is_told, analyze, report,
+                      settings_bring_the_folder_back,
+                      a_session_behind_a_file_dialog_is_kept):
             claim(program, documents)
     sys.exit(1 if failures else 0)
 

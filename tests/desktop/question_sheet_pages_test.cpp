@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <map>
 
+#include "desktop/theme.h"
 #include "printed_sheets.h"
 
 namespace orvanta::test {
@@ -28,6 +29,14 @@ QImage paper(const QSizeF& size = a4) {
 
 std::vector<SheetPage> pagesOf(const QuestionSheets& sheets, const QSizeF& size = a4) {
     return sheetPages(sheets, size, paper(size));
+}
+
+QImage painted(const QuestionSheets& sheets, const std::vector<SheetPage>& pages,
+               std::size_t index) {
+    QImage image = paper();
+    QPainter painter(&image);
+    paintSheetPage(painter, sheets, pages, index, a4);
+    return image;
 }
 
 class Paper : public testing::TestWithParam<QSizeF> {};
@@ -88,6 +97,17 @@ TEST_P(Paper, HoldsEachLineAboveItsFoot) {
         for (const SheetLine& line : page.lines) EXPECT_LT(line.bottom, size.height() - 50);
 }
 
+TEST_P(Paper, HoldsEachLineWhollyBelowTheOneBefore) {
+    const double millimetre = 200 / 25.4;
+    for (const SheetPage& page : pagesOf(sheetsWith(11, "a b c d e f g h "), GetParam())) {
+        double before = 0;
+        for (const SheetLine& line : page.lines) {
+            EXPECT_GT(line.bottom, before + 3 * millimetre);
+            before = line.bottom;
+        }
+    }
+}
+
 TEST(QuestionSheetPages, KeepTheNumberAndTheRulesOfAQuestionWithoutWords) {
     QuestionSheets sheets = sheetsWith(3);
     sheets.questions[StatementKind::Strength][1].clear();
@@ -144,14 +164,25 @@ TEST(QuestionSheetPages, BreakAQuestionLongerThanAPageRatherThanCutIt) {
     EXPECT_EQ(all, "T1: " + words);
 }
 
+TEST(QuestionSheetPages, HaveRulesAsWideOnPaperAsAPencilLineInQuietInk) {
+    const QuestionSheets sheets = sheetsWith(1);
+    const auto pages = pagesOf(sheets);
+    const QImage page = painted(sheets, pages, 0);
+    const int ofTheName = static_cast<int>(24 * 200 / 25.4),
+              ofAnAnswer = static_cast<int>(pages[0].lines.back().bottom);
+    for (const int rule : {ofTheName, ofAnAnswer}) {
+        int height = 0;
+        for (int y = rule - 5; y <= rule + 5; ++y)
+            if (page.pixelColor(page.width() / 2, y) == theme::quietInk) ++height;
+        EXPECT_EQ(height, 2) << "0.2 mm";
+    }
+}
+
 TEST(QuestionSheetPages, PaintInsideThePaperAndLeaveNoPageBlank) {
     const QuestionSheets sheets = sheetsWith(12);
     const auto pages = pagesOf(sheets);
     for (std::size_t i = 0; i < pages.size(); ++i) {
-        QImage image = paper();
-        QPainter painter(&image);
-        paintSheetPage(painter, sheets, pages, i, a4);
-        painter.end();
+        const QImage image = painted(sheets, pages, i);
         int inked = 0;
         for (int y = 0; y < image.height(); ++y)
             for (int x = 0; x < image.width(); ++x)

@@ -4,6 +4,7 @@
 
 #include <QtTest>
 
+#include "painted_contrast.h"
 #include "window_bench.h"
 
 namespace orvanta::test {
@@ -30,6 +31,18 @@ protected:
 
 TEST_F(SkinnedButtonView, IsHitOnItsCaption) {
     EXPECT_EQ(hit().objectName(), QStringLiteral("lblBtnBrainstorm"));
+}
+
+TEST_F(SkinnedButtonView, HasItsCaptionInTheMiddle) {
+    QWidget& caption = bench.widget("lblBtnBrainstorm");
+    const QImage whole = paintedAs(caption);
+    const QImage painted = whole.copy(whole.rect().adjusted(10, 10, -10, -10));  // no round corners
+    QRect ink;
+    for (int y = 0; y < painted.height(); ++y)
+        for (int x = 0; x < painted.width(); ++x)
+            if (painted.pixelColor(x, y).lightness() > 200) ink |= QRect(x, y, 1, 1);
+    ASSERT_GT(painted.width(), ink.width() + 20);
+    EXPECT_NEAR(ink.center().x(), painted.rect().center().x(), 2);
 }
 
 TEST_F(SkinnedButtonView, IsPressedAndLetGoOnItsCaption) {

@@ -14,6 +14,17 @@ namespace {
 
 using namespace orvanta::desktop;
 
+class PaintCount : public QObject {
+public:
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::Paint;
+        return false;
+    }
+};
+
 /// A drag in the real window, event by event.
 class DragFeedback : public testing::Test {
 protected:
@@ -114,6 +125,16 @@ TEST_F(DragFeedback, LightsTheWholeOpportunityThatTakesAStatement) {
     for (const int y : {row.height() / 4, row.height() * 3 / 4})
         EXPECT_EQ(row.pixelColor(row.width() - 5, y), ground) << "at height " << y;
     EXPECT_NE(ground, QColor(Qt::white));
+}
+
+TEST_F(DragFeedback, PutsOutTheLightOfAListThatIsLeft) {
+    dragRow("lvWeaknessOp", 1, "lvOpportunity", 3);
+    QCoreApplication::processEvents();
+    PaintCount paints;
+    view("lvOpportunity").viewport()->installEventFilter(&paints);
+    leave("lvOpportunity");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return paints.count > 0; }, 2000));
+    EXPECT_EQ(view("lvOpportunity").litRow(), 0);
 }
 
 TEST_F(DragFeedback, NamesTheStatementAndTheOpportunityThatTakesIt) {

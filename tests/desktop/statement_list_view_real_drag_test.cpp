@@ -26,6 +26,11 @@ public:
     void move(const QPoint& from, const QPoint& to, int motions) {
         for (int i = 1; i <= motions; ++i) *this << "mousemove" << from + (to - from) * i / motions;
     }
+    /// Presses and moves on.
+    void take(const QPoint& from, const QPoint& to, int motions) {
+        press(from);
+        move(from, to, motions);
+    }
     void rest(const char* seconds) { *this << "sleep" << seconds; }
     void release() {
         *this << "mouseup"
@@ -98,10 +103,13 @@ protected:
         return {view.viewport()->mapToGlobal(rect.topLeft()), rect.size()};
     }
 
+    QPoint strength() { return rowOf("lvStrengthOp", 2).center(); }
+    QPoint weakness() { return rowOf("lvWeaknessOp", 1).center(); }
+    QPoint opportunity(int row) { return rowOf("lvOpportunity", row).center(); }
+
     void drag(const QPoint& from, const QPoint& to, int motions) {
         Hand hand;
-        hand.press(from);
-        hand.move(from, to, motions);
+        hand.take(from, to, motions);
         hand.release();
         hand.act();
     }
@@ -125,7 +133,7 @@ INSTANTIATE_TEST_SUITE_P(Of, QuickDrag, testing::Values(1, 2, 3, 5, 12),
 }  // namespace
 
 TEST_F(RealDrag, MapsAStrengthOntoTheOpportunityItIsDroppedOn) {
-    drag(rowOf("lvStrengthOp", 2).center(), rowOf("lvOpportunity", 1).center(), 12);
+    drag(strength(), opportunity(1), 12);
     EXPECT_EQ(bench.keys("lvOpportunity")[1], "O1-S2");
     EXPECT_EQ(bench.list("lvOpportunity").selected(), 2);
     EXPECT_EQ(bench.list("lvStrengthOp").selected(), 2);
@@ -135,23 +143,22 @@ TEST_P(QuickDrag, MapsTheStatementThatItTookFromAnyPlaceOfItsRow) {
     const QRect row = rowOf("lvStrengthOp", 2);
     for (const QPoint& from :
          {row.center(), row.topLeft() + QPoint(2, 1), row.bottomRight() - QPoint(2, 1)}) {
-        drag(from, rowOf("lvOpportunity", 1).center(), GetParam());
+        drag(from, opportunity(1), GetParam());
         ASSERT_EQ(bench.keys("lvOpportunity")[1], "O1-S2");
         bench.list("lvOpportunity").remove(2);
     }
 }
 
 TEST_P(QuickDrag, MapsWhatItTookEvenBehindADragThatCameToNothing) {
-    const QRect weakness = rowOf("lvWeaknessOp", 1);
-    drag(weakness.center(), QPoint(5, 5), GetParam());
-    drag(rowOf("lvStrengthOp", 2).center(), rowOf("lvOpportunity", 1).center(), GetParam());
+    drag(weakness(), QPoint(5, 5), GetParam());
+    drag(strength(), opportunity(1), GetParam());
     EXPECT_EQ(bench.keys("lvOpportunity")[1], "O1-S2");
 }
 
 TEST_P(QuickDrag, TakesAMappedRowBack) {
-    drag(rowOf("lvStrengthOp", 2).center(), rowOf("lvOpportunity", 1).center(), GetParam());
+    drag(strength(), opportunity(1), GetParam());
     const int mapped = bench.list("lvOpportunity").count();
-    drag(rowOf("lvOpportunity", 2).center(), rowOf("lvStrengthOp", 1).center(), GetParam());
+    drag(opportunity(2), rowOf("lvStrengthOp", 1).center(), GetParam());
     EXPECT_EQ(bench.list("lvOpportunity").count(), mapped - 1);
 }
 
@@ -165,12 +172,31 @@ TEST_P(QuickDrag, RanksTheRowThatItTook) {
     EXPECT_EQ(bench.texts("lvAOpportunity"), (Texts{before[1], before[2], before[0]}));
 }
 
+TEST_F(RealDrag, TakesNothingBackOnTheFrameOfAList) {
+    bench.map("lvStrengthOp", 2, "lvOpportunity", 1);
+    QCoreApplication::processEvents();
+    const auto& list = bench.widget<StatementListView>("lvStrengthOp");
+    const int rows = bench.list("lvOpportunity").count();
+    drag(opportunity(2), list.mapToGlobal(QPoint(1, list.height() / 2)), 12);
+    EXPECT_EQ(bench.list("lvOpportunity").count(), rows);
+}
+
+TEST_P(QuickDrag, TakesNothingBackOnTheStripThatShowsAStatementWhole) {
+    bench.map("lvStrengthOp", 2, "lvOpportunity", 1);
+    bench.list("lvStrengthOp").add({.key = "S9", .text = std::string(255, 'W'), .image = 1});
+    QCoreApplication::processEvents();
+    const auto& list = bench.widget<StatementListView>("lvStrengthOp");
+    ASSERT_LT(list.viewport()->geometry().bottom(), list.height() - 20) << "the strip shows";
+    const int rows = bench.list("lvOpportunity").count();
+    drag(opportunity(2), list.mapToGlobal(QPoint(list.width() / 2, list.height() - 10)),
+         GetParam());
+    EXPECT_EQ(bench.list("lvOpportunity").count(), rows);
+}
+
 TEST_F(RealDrag, IsCalledOffWithEscape) {
     Hand hand;
-    const QPoint from = rowOf("lvStrengthOp", 2).center(), to = rowOf("lvOpportunity", 1).center();
     const int rows = bench.list("lvOpportunity").count();
-    hand.press(from);
-    hand.move(from, to, 5);
+    hand.take(strength(), opportunity(1), 5);
     hand.rest("0.1");
     hand.pressEscape();
     hand.rest("0.1");
@@ -181,7 +207,6 @@ TEST_F(RealDrag, IsCalledOffWithEscape) {
 
 TEST_F(RealDrag, IsCalledOffWithEscapeEvenIfTheButtonIsLetGoAtOnceBehindIt) {
     const int rows = bench.list("lvOpportunity").count();
-    const QPoint from = rowOf("lvStrengthOp", 2).center(), to = rowOf("lvOpportunity", 1).center();
     whenLit("lvOpportunity", 1, [] {
         Hand hand;
         hand.pressEscape();
@@ -189,23 +214,20 @@ TEST_F(RealDrag, IsCalledOffWithEscapeEvenIfTheButtonIsLetGoAtOnceBehindIt) {
         hand.actUnseen();
     });
     Hand hand;
-    hand.press(from);
-    hand.move(from, to, 5);
+    hand.take(strength(), opportunity(1), 5);
     hand.act();
     EXPECT_EQ(bench.list("lvOpportunity").count(), rows);
 }
 
 TEST_F(RealDrag, StaysCalledOffThoughThePointerMovesOnWithTheButtonDown) {
     Hand hand;
-    const QPoint from = rowOf("lvStrengthOp", 2).center(), to = rowOf("lvOpportunity", 1).center();
     const int rows = bench.list("lvOpportunity").count();
-    hand.press(from);
-    hand.move(from, to, 5);
+    hand.take(strength(), opportunity(1), 5);
     hand.rest("0.1");
     hand.pressEscape();
     hand.rest("0.1");
-    hand.move(to, from, 3);
-    hand.move(from, to, 3);
+    hand.move(opportunity(1), strength(), 3);
+    hand.move(strength(), opportunity(1), 3);
     hand.rest("0.1");
     hand.release();
     hand.act();
@@ -214,10 +236,8 @@ TEST_F(RealDrag, StaysCalledOffThoughThePointerMovesOnWithTheButtonDown) {
 
 TEST_F(RealDrag, IsCalledOffWithEscapeBeforeTheWindowSawAnyOfIt) {
     Hand hand;
-    const QPoint from = rowOf("lvStrengthOp", 2).center(), to = rowOf("lvOpportunity", 1).center();
     const int rows = bench.list("lvOpportunity").count();
-    hand.press(from);
-    hand.move(from, to, 5);
+    hand.take(strength(), opportunity(1), 5);
     hand.pressEscape();
     hand.release();
     hand.actUnseen();
@@ -226,28 +246,20 @@ TEST_F(RealDrag, IsCalledOffWithEscapeBeforeTheWindowSawAnyOfIt) {
 }
 
 TEST_P(QuickDrag, LandsWhereItWasLetGoThoughThePointerWentOnUnseen) {
-    const QPoint from = rowOf("lvStrengthOp", 2).center(), to = rowOf("lvOpportunity", 1).center();
     Hand hand;
-    hand.press(from);
-    hand.move(from, to, GetParam());
+    hand.take(strength(), opportunity(1), GetParam());
     hand.release();
-    hand.move(to, rowOf("lvOpportunity", 2).center(), 2);
+    hand.move(opportunity(1), opportunity(2), 2);
     hand.actUnseen();
     QTest::qWait(100);
     EXPECT_EQ(bench.keys("lvOpportunity")[1], "O1-S2");
 }
 
 TEST_F(RealDrag, LandsWhereItWasLetGoThoughAnotherOneFollowedUnseen) {
-    const QPoint strength = rowOf("lvStrengthOp", 2).center(),
-                 weakness = rowOf("lvWeaknessOp", 1).center(),
-                 first = rowOf("lvOpportunity", 2).center(),
-                 second = rowOf("lvOpportunity", 1).center();
     Hand hand;
-    hand.press(strength);
-    hand.move(strength, first, 3);
+    hand.take(strength(), opportunity(2), 3);
     hand.release();
-    hand.press(weakness);
-    hand.move(weakness, second, 3);
+    hand.take(weakness(), opportunity(1), 3);
     hand.release();
     hand.actUnseen();
     QTest::qWait(100);
@@ -262,9 +274,7 @@ TEST_F(RealDrag, LandsOnTheRowThatTheWheelBroughtUnderThePointer) {
             .add({.key = "O" + std::to_string(100 + i), .text = "Row", .image = 3});
     QCoreApplication::processEvents();
     Hand hand;
-    const QPoint from = rowOf("lvStrengthOp", 2).center(), to = rowOf("lvOpportunity", 2).center();
-    hand.press(from);
-    hand.move(from, to, 5);
+    hand.take(strength(), opportunity(2), 5);
     hand.rest("0.1");
     hand.turnWheel(2);
     hand.rest("0.1");

@@ -31,6 +31,9 @@ ReadingStrip& stripOf(const QWidget& list) {
     return dynamic_cast<ReadingStrip&>(*list.parentWidget()->findChild<QWidget*>("readingStrip"));
 }
 
+/// What it shows, on one line.
+std::string pageOf(const ReadingStrip& strip) { return toCp1252(strip.page().join(u' ')); }
+
 /// In the window.
 QRect placeOf(const QWidget& widget) {
     return {widget.mapTo(widget.window(), QPoint()), widget.size()};
@@ -138,6 +141,19 @@ TEST_F(StatementListViewTest, BringsAnAddedRowIntoView) {
         view().visualRect(view().indexAtPosition(105)).center()));
 }
 
+TEST_F(StatementListViewTest, StandsAtItsTopOnceItWasClearedAndFilledAnew) {
+    const auto fill = [this] {
+        for (int i = 0; i < 100; ++i) list().add({.key = {}, .text = "Row", .image = 1});
+    };
+    fill();
+    QCoreApplication::processEvents();
+    view().verticalScrollBar()->setValue(500);
+    list().clear();
+    fill();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view().verticalScrollBar()->value(), 0);
+}
+
 TEST_F(StatementListViewTest, ShowsWholeRowsAboveTheChosenStatement) {
     for (int row = 0; row < 40; ++row)
         list().add({.key = {}, .text = std::string(600, 'W'), .image = 1});
@@ -202,6 +218,16 @@ protected:
 
     StatementListView& view(const char* name) { return bench.widget<StatementListView>(name); }
 
+    /// All that the strip shows while a key turns its pages, on one line.
+    std::string readByTurning(StatementListView& list, Qt::Key key) {
+        std::string page = pageOf(stripOf(list)), read = page;
+        for (;; read += ' ' + page) {
+            QTest::keyClick(&list, key);
+            if (pageOf(stripOf(list)) == page) return read;
+            page = pageOf(stripOf(list));
+        }
+    }
+
     WindowBench<AnalysisBench> bench;
     std::string longest;
 };
@@ -213,6 +239,36 @@ TEST_F(ListsSideBySide, ShowTheLongestStatementWholeInTheSmallestWindow) {
     EXPECT_LE(strip.heightForWidth(strip.width()), strip.height());
     for (const char* name : {"lvStrengthOp", "lvOpportunity", "lvWeaknessOp"})
         expectRowsAbove(view(name), strip);
+}
+
+TEST_F(ListsSideBySide, TurnThePagesOfAStatementThatIsTooLongForTheStrip) {
+    const ReadingStrip& strip = stripOf(view("lvStrengthOp"));
+    StatementListView& list = view("lvStrengthOp");
+    list.setFocus();
+    for (int i = 0; i < 200; ++i) longest += " word" + std::to_string(i);
+    bench.list("lvStrengthOp").setText(bench.list("lvStrengthOp").count(), longest);
+    QCoreApplication::processEvents();
+    const std::string first = pageOf(strip);
+    EXPECT_EQ(readByTurning(list, Qt::Key_Right), longest);
+    readByTurning(list, Qt::Key_Left);
+    EXPECT_EQ(pageOf(strip), first);
+    QTest::keyClick(&list, Qt::Key_Right);
+    ASSERT_NE(pageOf(strip), first);
+    QTest::keyClick(&list, Qt::Key_Up);
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(pageOf(strip), first) << "of a row that is chosen anew";
+}
+
+TEST_F(ListsSideBySide, PaintNothingOfAPageBeyondTheStrip) {
+    const ReadingStrip& strip = stripOf(view("lvStrengthOp"));
+    for (const std::size_t length : {100, 1'000, 20'000}) {
+        longest.resize(length, 'W');
+        bench.list("lvStrengthOp").setText(bench.list("lvStrengthOp").count(), longest);
+        QCoreApplication::processEvents();
+        const auto lines = static_cast<int>(strip.page().size()) + (strip.pages() > 1 ? 1 : 0);
+        EXPECT_LE(lines * strip.fontMetrics().lineSpacing(), strip.height()) << length;
+        EXPECT_EQ(strip.pages() > 1, length > 100) << length;
+    }
 }
 
 TEST_F(ListsSideBySide, ShowWhatIsChosenInTheOneThatHasTheKeyboard) {

@@ -45,6 +45,47 @@ TEST(ChosenRow, IsStrongInTheListThatHasTheKeyboardAndQuietInTheOthers) {
     }
 }
 
+TEST(RowOfTwoLines, HoldsOnBothAWordThatIsWiderThanTheList) {
+    WindowBench<AnalysisBench> bench;
+    bench.goTo(mappingSides()[0]);
+    bench.window().show();
+    auto& view = bench.widget<StatementListView>("lvOpportunity");
+    bench.list("lvOpportunity").setText(1, std::string(300, 'M'));
+    QCoreApplication::processEvents();
+    ASSERT_EQ(view.linesPerRow(), 2);
+    const QRect row = view.visualRect(view.indexAtPosition(1));
+    const QSize part(40, row.height() * 3 / 10);
+    for (const int top : {row.top(), row.bottom() - part.height()})
+        EXPECT_GT(writtenContrast(paintedAs(
+                      *view.viewport(), QRect({row.center().x() - part.width() / 2, top}, part))),
+                  4)
+            << "below " << top;
+}
+
+TEST(HintOfAnEmptyList, IsWholeOrNotThere) {
+    QWidget viewport;
+    const auto paintedIn = [&viewport](int height) {
+        viewport.resize(160, height);
+        QImage image(viewport.size(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        drawHint(painter, viewport, 0, QStringLiteral("Drag a strength onto an opportunity."));
+        return image;
+    };
+    const auto isBlank = [](const QImage& image) {
+        QImage white = image;
+        white.fill(Qt::white);
+        return image == white;
+    };
+    const QImage whole = paintedIn(200);
+    ASSERT_FALSE(isBlank(whole));
+    int last = whole.height() - 1;
+    while (isBlank(whole.copy(0, last, whole.width(), 1))) --last;
+    EXPECT_TRUE(isBlank(paintedIn(last)));
+    EXPECT_TRUE(isBlank(paintedIn(10)));
+    EXPECT_FALSE(isBlank(paintedIn(last + whole.height() / 10)));
+}
+
 TEST(CountsInTheMappingList, StandAtTheRightOfARowAndFollowIt) {
     WindowBench<AnalysisBench> bench;
     bench.goTo(mappingSides()[0]);

@@ -105,6 +105,12 @@ TEST_F(TextBoxViewTest, ReportsEnterAsAReturnCharacter) {
     EXPECT_EQ(model.text(), "");
 }
 
+TEST_F(TextBoxViewTest, LeavesEnterWithCtrlToTheWindowAlsoFromTheNumberPad) {
+    QTest::keyClick(&view, Qt::Key_Return, Qt::ControlModifier);
+    QTest::keyClick(&view, Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier);
+    EXPECT_EQ(typed, "");
+}
+
 TEST_F(PathBoxView, ShowsANameOfTheSystemAndKeepsItsPathWhileNobodyChangesIt) {
     EXPECT_EQ(view.text(), greek);
     EXPECT_EQ(model.text(), toPath(greek));

@@ -81,6 +81,18 @@ TEST_F(WhereaboutsLine, FollowsAWizardWhoseQuestionsAreAllTheSame) {
     EXPECT_TRUE(told().starts_with("Step 2 of 5: Strengths, question 2 of 3."));
 }
 
+TEST_F(WhereaboutsLine, HasItsPicturesInTheMiddleBetweenItsTopAndTheSegments) {
+    bench.openBrainstorm();
+    told();
+    const QImage line = paintedAs(bench.widget("lblWhereabouts"));
+    const QRect room = bench.widget("lblWhereabouts").contentsRect().adjusted(0, 0, 0, -6);
+    QRect ink;
+    for (int y = 0; y < room.bottom(); ++y)
+        for (int x = room.left(); x < room.left() + 16; ++x)
+            if (line.pixelColor(x, y) != QColor(Qt::white)) ink |= QRect(x, y, 1, 1);
+    EXPECT_NEAR(ink.center().y(), room.center().y(), 1);
+}
+
 TEST_F(WhereaboutsLine, CoversNothing) {
     bench.openBrainstorm();
     told();

@@ -49,6 +49,16 @@ TEST_F(AFailingCall, ThatRefusesANewFileHasTheFileWrittenOver) {
     EXPECT_EQ(rescued(), "former");
 }
 
+// As on a stick whose files all belong to somebody else.
+TEST_F(AFailingCall, ThatRefusesRightsLeavesTheFileWithNoneTooMany) {
+    for (const int error : {EPERM, EACCES, ENOTSUP}) {
+        EXPECT_EQ(errorWhere("fchmod", error), noError) << error;
+        EXPECT_EQ(folder.read("file"), "new");
+        EXPECT_EQ(std::filesystem::status(folder / "file").permissions(),
+                  std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+    }
+}
+
 TEST_F(AFailingCall, IsToldAsWhatItIs) {
     for (const char* call : {"mkostemp", "pwrite", "fchmod", "fsync", "close", "rename"}) {
         EXPECT_EQ(errorWhere(call, ENOSPC), diskFull) << call;

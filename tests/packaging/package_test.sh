@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Installs the Debian package on a fresh Debian in a folder, plays it there as an ordinary user,
-# removes it and looks for what it left. Takes root, mmdebstrap and this machine's own sources of
-# packages.
-#   package_test.sh PACKAGE.deb
+# Installs the Debian packages on a fresh Debian in a folder, first the program alone, plays it there
+# as an ordinary user, listens to it with and without the package of the sound, removes both and
+# looks for what they left. Takes root, mmdebstrap and this machine's own sources of packages.
+#   package_test.sh PACKAGE.deb SOUND_PACKAGE.deb
 set -euo pipefail
 package=$(realpath -- "$1")
+sound_package=$(realpath -- "$2")
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 
 root=$(mktemp -d)
@@ -41,22 +42,32 @@ files() {
         -o -path /var/log -o -path /var/cache/apt -o -path /var/lib/apt \) -prune -o -print | sort
 }
 
-# With what the package itself asks for and nothing else.
-needs_no_more_than_it_says() {
-    local missing said
-    install_on_it /tmp/orvanta.deb
-    missing=$(inside ldd /usr/lib/orvanta/orvanta | grep 'not found' || true)
-    [[ -z $missing ]] || fail "these libraries are no dependencies: $missing"
-    said=$(as_user orvanta 2>&1) && fail "without a display it starts"
-    [[ $said == "Orvanta can't show its window"* ]] || fail "without a display it says: $said"
-    inside apt-get -q purge -y orvanta >>"$root/log" 2>&1
+purge_both() { inside apt-get -q purge -y orvanta orvanta-sound >>"$root/log" 2>&1; }
+
+finds_its_libraries() {
+    local missing
+    missing=$(inside ldd "/usr/lib/orvanta/$1" | grep 'not found' || true)
+    [[ -z $missing ]] || fail "these libraries of $1 are no dependencies: $missing"
 }
 
-plays() {
+# With what the packages themselves ask for and nothing else.
+needs_no_more_than_it_says() {
+    local said
+    install_on_it /tmp/orvanta.deb
+    finds_its_libraries orvanta
+    said=$(as_user orvanta 2>&1) && fail "without a display it starts"
+    [[ $said == "Orvanta can't show its window"* ]] || fail "without a display it says: $said"
+    install_on_it /tmp/orvanta-sound.deb
+    finds_its_libraries liborvanta-sound.so
+    purge_both
+}
+
+# Hands the work to one of the programs beside this one.
+as_user_on_a_screen() {
     inside mkdir -p /tmp/play
-    cp desktop/accessibility_test.py desktop/names_test.py packaging/play_installed.py \
+    cp desktop/accessibility_test.py desktop/names_test.py packaging/*_installed.py \
         "$root/tmp/play"
-    as_user python3 -B /tmp/play/play_installed.py /usr/bin/orvanta
+    as_user python3 -B "/tmp/play/$1" /usr/bin/orvanta "${@:2}"
 }
 
 desktop_knows_its_formats() {
@@ -73,18 +84,24 @@ echo "-- a fresh Debian"
 mmdebstrap --quiet --variant=apt "$(sed -n "s/^VERSION_CODENAME=//p" /etc/os-release)" "$root" \
     "$(sources)"
 cp -- "$package" "$root/tmp/orvanta.deb"
+cp -- "$sound_package" "$root/tmp/orvanta-sound.deb"
 inside useradd --create-home dana
 inside apt-get -q update >"$root/log" 2>&1 || { cat "$root/log" >&2; fail "apt-get update"; }
-echo "-- the package alone"
+echo "-- the packages alone"
 needs_no_more_than_it_says
 echo "-- the package, played"
-install_on_it xvfb xauth dbus at-spi2-core python3-gi gir1.2-atspi-2.0 shared-mime-info
+install_on_it xvfb xauth dbus at-spi2-core python3-gi gir1.2-atspi-2.0 shared-mime-info \
+    pulseaudio pulseaudio-utils
 files >"$root/tmp/before"
 install_on_it /tmp/orvanta.deb
 desktop_knows_its_formats
-plays
-echo "-- the package, removed"
-inside apt-get -q purge -y orvanta >>"$root/log" 2>&1
+as_user_on_a_screen play_installed.py
+as_user_on_a_screen listen_installed.py silent
+echo "-- with the package of the sound"
+install_on_it /tmp/orvanta-sound.deb
+as_user_on_a_screen listen_installed.py voice
+echo "-- both packages, removed"
+purge_both
 files >"$root/tmp/after"
-diff "$root/tmp/before" "$root/tmp/after" || fail "it leaves these files, or takes them"
-echo "The package was installed, played and removed."
+diff "$root/tmp/before" "$root/tmp/after" || fail "they leave these files, or take them"
+echo "The packages were installed, played, heard and removed."

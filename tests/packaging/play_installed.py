@@ -33,7 +33,7 @@ def choose_by_keys(way):
 class Installed(bus.Program):
     """Starts what is there, in the user's own home, in place of a copy of it."""
 
-    def __init__(self, command):
+    def __init__(self, command, sound_server=None):
         self.root = pathlib.Path(tempfile.mkdtemp())
         self.home = pathlib.Path.home()
         self.errors = self.root / "errors"
@@ -41,7 +41,8 @@ class Installed(bus.Program):
         self.command = command
         self.environment = dict(os.environ, PATH=f"{self._opener()}:{os.environ['PATH']}",
                                 QT_LOGGING_RULES="qt.accessibility.*=false",
-                                PULSE_SERVER=f"unix:{self.root}/no-server", QT_QPA_PLATFORM="xcb",
+                                PULSE_SERVER=sound_server or f"unix:{self.root}/no-server",
+                                QT_QPA_PLATFORM="xcb",
                                 QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
         self._start()
 

@@ -19,7 +19,7 @@ class SaveOnAFullDisk;
 struct Save {
     std::string name;
     std::string target;  // in the folder of the test
-    enum { NamedSession, NamedDocument, ProgramsOwn } sort;
+    enum { NamedSession, SessionCopy, NamedDocument, WebPage } sort;
     void (*perform)(SaveOnAFullDisk& test);
 };
 
@@ -33,6 +33,10 @@ struct ToldFailures : FailedSaves {
         paths.push_back(path);
         bytes.emplace_back(session);
     }
+    void copyNotWritten(const std::string& path, std::string_view session) override {
+        sessionNotWritten(path, session);
+    }
+    void analysisReplaced(std::string_view) override {}
     void documentNotWritten(const std::string& path) override { paths.push_back(path); }
 };
 
@@ -106,9 +110,9 @@ const std::vector<Save> saves{
      [](SaveOnAFullDisk& test) { saveByName(test, saveBrainstormDialog, "saved.bsm"); }},
     {"Analysis", "saved.aze", Save::NamedSession,
      [](SaveOnAFullDisk& test) { saveByName(test, saveAnalyzeDialog, "saved.aze"); }},
-    {"CopyOfTheBrainstormSession", "brainstorm.tmp", Save::ProgramsOwn,
+    {"CopyOfTheBrainstormSession", "brainstorm.tmp", Save::SessionCopy,
      [](SaveOnAFullDisk& test) { copyAtTick(test, &FrmMain::editFlag, &FrmMain::fraBrainstorm); }},
-    {"CopyOfTheAnalysis", "analyze.tmp", Save::ProgramsOwn,
+    {"CopyOfTheAnalysis", "analyze.tmp", Save::SessionCopy,
      [](SaveOnAFullDisk& test) { copyAtTick(test, &FrmMain::editAFlag, &FrmMain::fraAnalyze); }},
     {"MergedFile", "merged.bsm", Save::NamedSession,
      [](SaveOnAFullDisk& test) {
@@ -116,7 +120,7 @@ const std::vector<Save> saves{
          test.confirm();
          mergeBrainstormFiles(test.onDisk());
      }},
-    {"WebPage", "System/report.htm", Save::ProgramsOwn,
+    {"WebPage", "System/report.htm", Save::WebPage,
      [](SaveOnAFullDisk& test) { test.makeReport(0); }},
     {"Document", "team.rtf", Save::NamedDocument,
      [](SaveOnAFullDisk& test) {
@@ -148,14 +152,15 @@ TEST_P(SaveOnAFullDisk, LeavesNoPieceOfAFileWhereThereWasNone) {
     EXPECT_FALSE(std::filesystem::exists(path(GetParam().target)));
 }
 
-TEST_P(SaveOnAFullDisk, TellsOfANamedFileThatWasNotWrittenAndHandsOverItsSession) {
+TEST_P(SaveOnAFullDisk, TellsOfAFileThatWasNotWrittenAndHandsOverItsSession) {
     performWithRoomFor(std::numeric_limits<std::uintmax_t>::max());
     EXPECT_TRUE(told.paths.empty());
     const std::string whole = saved();
     performWithRoomFor(10);
     const auto sort = GetParam().sort;
-    EXPECT_EQ(told.paths, sort == Save::ProgramsOwn ? Texts{} : Texts{path(GetParam().target)});
-    EXPECT_EQ(told.bytes, sort == Save::NamedSession ? Texts{whole} : Texts{});
+    EXPECT_EQ(told.paths, sort == Save::WebPage ? Texts{} : Texts{path(GetParam().target)});
+    const bool isSession = sort == Save::NamedSession || sort == Save::SessionCopy;
+    EXPECT_EQ(told.bytes, isSession ? Texts{whole} : Texts{});
 }
 
 }  // namespace

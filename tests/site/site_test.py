@@ -170,6 +170,7 @@ class Packages(unittest.TestCase):
                          ["packages/Orvanta-3.13.100-setup.exe",
                           "packages/Orvanta-3.13.100-portable.zip",
                           "packages/orvanta_3.13.100_amd64.deb",
+                          "packages/orvanta-sound_3.13.100_amd64.deb",
                           "packages/orvanta-3.13.100 & more.tar.gz"])
         for link in links:
             name = urllib.parse.unquote(link).removeprefix("packages/")

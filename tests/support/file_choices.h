@@ -37,8 +37,8 @@ inline std::string replaced(std::string text, const std::string& from, const std
 class Choice : public testing::TestWithParam<Typed> {
 protected:
     Choice() {
-        for (const char* name : {"here", "here/Team", "here/blocked.bsm", "home", "home/anna",
-                                 "here/\xCE\xB1\xCE\xB2"})
+        for (const char* name : {"here", "here/Team", "here/Copies", "here/blocked.bsm", "home",
+                                 "home/anna", "here/\xCE\xB1\xCE\xB2"})
             std::filesystem::create_directory(pathFromUtf8(all / name));
         for (const char* name :
              {"here/team2.bsm", "here/plain", "here/both", "here/both.bsm", "here/v1.2.bsm",
@@ -53,7 +53,8 @@ protected:
                                     .filter = "All Brainstorming Files (*.bsm)|*.bsm",
                                     .folder = all / "here",
                                     .home = all / "home",
-                                    .ownNames = {"own.tmp"}};
+                                    .ownNames = {"own.tmp"},
+                                    .ownFolder = all / "here/Copies"};
         std::string words = inWords(choiceOf(place, replaced(typed, "$", all.path())));
         words = replaced(words, all.path(), "$");
         std::ranges::replace(words, pathSeparator, '/');

@@ -16,6 +16,18 @@ protected:
     }
 };
 
+TEST_F(OwnFileAmongLinks, ThatNobodyMayWriteIsReplacedByAProgramThatRescues) {
+    fs::create_directory(folder / "scratch");
+    folder.write("scratch/own", "former");
+    ::chmod((folder / "scratch/own").c_str(), 0444);
+    ::chmod((folder / "scratch").c_str(), 0777);
+    FileDisk rescuing{RescueStore(folder / "rescue")};
+    const std::string own = folder / "scratch/own";
+    EXPECT_EQ(errorAsOrdinaryUser([&] { disk.replaceOwn(own, "new"); }), permissionDenied);
+    EXPECT_EQ(errorAsOrdinaryUser([&] { rescuing.replaceOwn(own, "new"); }), noError);
+    EXPECT_EQ(folder.read("scratch/own"), "new");
+}
+
 TEST_F(OwnFileAmongLinks, IsNotReadThroughALink) {
     folder.write("secret", "of somebody");
     fs::create_symlink("secret", folder / "own");

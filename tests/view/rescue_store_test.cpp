@@ -28,6 +28,25 @@ TEST_F(Rescue, KeepsACopyNamedAfterTheTimeAndTheFile) {
     EXPECT_EQ(copies(), Names{nameOf(path)});
 }
 
+TEST_F(Rescue, KeepsAFileUnderASecondNameThatOutlivesTheFirst) {
+    folder.write("own.tmp", "bytes");
+    const std::string path = store.keepFile(folder / "own.tmp", "team.bsm");
+    EXPECT_EQ(path, folder / "rescue/2026-11-21 22-07-08.123 team.bsm");
+    EXPECT_EQ(folder.read("own.tmp"), "bytes");
+    fs::remove(folder / "own.tmp");
+    EXPECT_EQ(folder.read("rescue/" + nameOf(path)), "bytes");
+}
+
+TEST_F(Rescue, RenamesAFileWhereItsFolderTakesNoSecondName) {
+    folder.write("own.tmp", "bytes");
+    folder.write("rescue", "a file in the folder's place");
+    EXPECT_EQ(store.keepFile(folder / "own.tmp", "team.bsm"),
+              folder / "2026-11-21 22-07-08.123 team.bsm");
+    EXPECT_EQ(folder.read("2026-11-21 22-07-08.123 team.bsm"), "bytes");
+    EXPECT_FALSE(fs::exists(folder / "own.tmp"));
+    EXPECT_NE(failureOf([&] { store.keepFile(folder / "own.tmp", "team.bsm"); }), noError);
+}
+
 TEST_F(Rescue, TakesTheTimeFromTheSystem) {
     const auto before = std::chrono::system_clock::now();
     const std::string name = nameOf(RescueStore(folder / "other").keep("team.bsm", "bytes"));

@@ -232,6 +232,15 @@ TEST_F(StatementListOfThree, LeavesTheListAloneWhoseRowsItTook) {
     EXPECT_EQ(rowsOf(other), (ShownRows{{"S1", "New"}, {"S9", "of S2"}}));
 }
 
+TEST_F(StatementListOfThree, FindsARowThatItChangedWhateverBecomesOfWhereItCameFrom) {
+    StatementList other(controls, "other");
+    other.addAll(list);
+    other.setText(1, "New");
+    list.setKey(1, "S9");
+    EXPECT_EQ(other.positionOf("S1"), 1);
+    EXPECT_EQ(other.positionOf("S9"), 0);
+}
+
 TEST_F(StatementListOfThree, TellsItsWatchersWhatHappens) {
     Listener listener;
     list.watch(listener);
@@ -299,6 +308,17 @@ TEST(LongList, FindsItsRowsAfterManyWereInsertedAtOnePlace) {
     for (int i = 0; i < 1000; ++i) list.insert(2, rowOf(std::to_string(i)));
     for (int i = 0; i < 1000; ++i) ASSERT_EQ(list.positionOf(std::to_string(i)), 1001 - i);
     EXPECT_EQ(list.positionOf("last"), 1002);
+}
+
+TEST(LongList, KeepsItsSelectedRowWhileManyAreInsertedAtOnePlace) {
+    ControlSet controls;
+    StatementList list(controls, "list");
+    list.add(rowOf("first"));
+    list.add(rowOf("last"));
+    list.select(2);
+    for (int i = 0; i < 1000; ++i) list.insert(2, rowOf(std::to_string(i)));
+    EXPECT_EQ(list.selected(), 1002);
+    EXPECT_EQ(list.selectedRow()->key, "last");
 }
 
 TEST(LongList, FindsItsRowsAfterManyWereInsertedAheadOfAll) {
