@@ -23,10 +23,10 @@ public:
     /// does.
     std::string keep(std::string_view name, std::string_view bytes) const;
 
-    /// Keeps a file as it stands under a second name, as a copy of the one with this name, and gives
-    /// its path; all are UTF-8. The device need have no room for that. Where the folder can't have
-    /// the second name, the file itself is renamed, in its own folder. Fails where neither can be
-    /// done.
+    /// Keeps a file as it stands under a second name, as a copy of the one with this name, and
+    /// gives its path; all are UTF-8. The device need have no room for that. Where the folder can't
+    /// have the second name, the file itself is renamed, in its own folder. Fails where neither can
+    /// be done.
     std::string keepFile(const std::string& file, std::string_view name) const;
 
     const std::string& folder() const { return m_folder; }
