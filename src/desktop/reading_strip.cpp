@@ -104,7 +104,7 @@ int ReadingStrip::pages() const {
 
 QStringList ReadingStrip::page() const {
     const QStringList all = lines();
-    const int each = linesPerPage(static_cast<int>(all.size()));
+    const qsizetype each = linesPerPage(static_cast<int>(all.size()));
     return all.mid(std::min(m_page, pages() - 1) * each, each);
 }
 
