@@ -14,14 +14,6 @@ bool isPassing(std::string_view name) {
 
 }  // namespace
 
-std::string folderOf(const std::string& name) {
-    const auto cut = name.find_last_of(pathSeparators);
-    if (cut == std::string::npos) return ".";
-    constexpr bool hasDrives = pathSeparator == '\\';
-    const bool isTop = cut == 0 || (hasDrives && cut == 2 && name[1] == ':');
-    return name.substr(0, isTop ? cut + 1 : cut);
-}
-
 void tryToRemove(const std::string& name) {
     try {
         remove(name);

@@ -54,7 +54,13 @@ FileKind kindOf(const std::string& name, Links links);
 /// The name behind any links; there need be nothing. Links in a circle fail with PathFileAccess.
 std::string targetOf(std::string name);
 /// With its separator only where that is the whole name of the folder, a drive apart.
-std::string folderOf(const std::string& name);
+inline std::string folderOf(const std::string& name) {
+    const auto cut = name.find_last_of(pathSeparators);
+    if (cut == std::string::npos) return ".";
+    constexpr bool hasDrives = pathSeparator == '\\';
+    const bool isTop = cut == 0 || (hasDrives && cut == 2 && name[1] == ':');
+    return name.substr(0, isTop ? cut + 1 : cut);
+}
 inline std::string_view withoutFolder(std::string_view name) {
     return name.substr(name.find_last_of(pathSeparators) + 1);
 }
