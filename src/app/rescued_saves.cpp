@@ -40,10 +40,8 @@ RescuedSaves::RescuedSaves(RescueStore store, const std::string& scratch)
 void RescuedSaves::sessionNotWritten(const std::string& path, std::string_view bytes) {
     const std::string name = nativeFromPath(path);
     const std::string file = joined(native::withoutFolder(name), notWritten);
-    bool kept = keepBytes(name, bytes);
-    for (const Session session : allOf<Session>)
-        if (!kept) kept = keepOwnCopy(session);
-    if (kept) return tellOfCopy(file, joined(name, notWritten));
+    if (keepBytes(name, bytes) || keepOwnCopies())
+        return tellOfCopy(file, joined(name, notWritten));
     tell(joined(file, noCopy), joined(name, notWritten, noCopy));
 }
 
@@ -89,6 +87,13 @@ bool RescuedSaves::keepBytes(std::string_view name, std::string_view bytes) {
     } catch (const Failure&) {
         return false;
     }
+}
+
+/// Of both sessions: the name does not tell which of them was to be saved.
+bool RescuedSaves::keepOwnCopies() {
+    bool any = false;
+    for (const Session session : allOf<Session>) any |= keepOwnCopy(session);
+    return any;
 }
 
 bool RescuedSaves::keepOwnCopy(Session session) {

@@ -44,6 +44,7 @@ public:
 
 private:
     bool keepBytes(std::string_view name, std::string_view bytes);
+    bool keepOwnCopies();
     bool keepOwnCopy(Session session);
     void tellOfCopy(std::string_view what, std::string_view whatInFull);
     void tell(std::string line, std::string details);

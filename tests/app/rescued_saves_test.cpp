@@ -52,9 +52,11 @@ TEST_F(FailedSave, SaysThatNoCopyCouldBeKept) {
 TEST_F(FailedSave, KeepsTheProgramsOwnCopyWhereThereIsNoRoomForAnother) {
     folder.write("rescue", "a file in the folder's place");
     folder.write("brainstorm.tmp", "as it was at the last tick");
+    folder.write("analyze.tmp", "an analysis");
     RescuedSaves withOwnCopies{RescueStore(copies, noon), folder.path()};
     withOwnCopies.sessionNotWritten("/media/stick/team.bsm", "a session");
     EXPECT_EQ(folder.read("2026-11-21 12-00-00.000 brainstorm.bsm"), "as it was at the last tick");
+    EXPECT_EQ(folder.read("2026-11-21 12-00-00.000 analyze.aze"), "an analysis");
     EXPECT_EQ(withOwnCopies.line(), "team.bsm was not written. A copy is in " + folder.path());
 }
 
