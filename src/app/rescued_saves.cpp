@@ -80,13 +80,19 @@ void RescuedSaves::forget() {
     if (!m_line.empty()) tell({}, {});
 }
 
-bool RescuedSaves::keepBytes(std::string_view name, std::string_view bytes) {
+/// Whether the store has the copy that this makes there.
+template <class Keep>
+bool RescuedSaves::keeps(Keep keep) {
     try {
-        m_kept = m_store.keep(name, bytes);
+        m_kept = keep();
         return true;
     } catch (const Failure&) {
         return false;
     }
+}
+
+bool RescuedSaves::keepBytes(std::string_view name, std::string_view bytes) {
+    return keeps([&] { return m_store.keep(name, bytes); });
 }
 
 /// Of both sessions: the name does not tell which of them was to be saved.
@@ -97,12 +103,8 @@ bool RescuedSaves::keepOwnCopies() {
 }
 
 bool RescuedSaves::keepOwnCopy(Session session) {
-    try {
-        m_kept = m_store.keepFile(m_ownCopies[session], ownCopyNames[session].rescued);
-        return true;
-    } catch (const Failure&) {
-        return false;
-    }
+    return keeps(
+        [&] { return m_store.keepFile(m_ownCopies[session], ownCopyNames[session].rescued); });
 }
 
 void RescuedSaves::tellOfCopy(std::string_view what, std::string_view whatInFull) {

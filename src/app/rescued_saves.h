@@ -43,6 +43,8 @@ public:
     Notice changed;
 
 private:
+    template <class Keep>
+    bool keeps(Keep keep);
     bool keepBytes(std::string_view name, std::string_view bytes);
     bool keepOwnCopies();
     bool keepOwnCopy(Session session);

@@ -12,30 +12,30 @@ namespace orvanta {
 
 // A session in a file that a person named, or in a temporary one, which is the program's own.
 
-// Both tell Platform::failedSaves of a failure, and pass it on.
-inline void writeNamedSession(const Platform& platform, const std::string& fileName,
-                              std::string_view bytes) {
+using WriteBytes = void (Disk::*)(const std::string&, std::string_view);
+using TellBytes = void (FailedSaves::*)(const std::string&, std::string_view);
+
+/// Tells Platform::failedSaves of a failure, and passes it on.
+inline void writeOrTell(const Platform& platform, WriteBytes write, TellBytes tell,
+                        const std::string& fileName, std::string_view bytes) {
     try {
-        platform.disk.replace(fileName, bytes);
+        (platform.disk.*write)(fileName, bytes);
     } catch (const Failure&) {
-        if (platform.failedSaves) platform.failedSaves->sessionNotWritten(fileName, bytes);
+        if (platform.failedSaves) (platform.failedSaves->*tell)(fileName, bytes);
         throw;
     }
 }
 
-inline void writeCopy(const Platform& platform, const std::string& fileName,
-                      std::string_view bytes) {
-    try {
-        platform.disk.replaceOwn(fileName, bytes);
-    } catch (const Failure&) {
-        if (platform.failedSaves) platform.failedSaves->copyNotWritten(fileName, bytes);
-        throw;
-    }
+inline void writeNamedSession(const Platform& platform, const std::string& fileName,
+                              std::string_view bytes) {
+    writeOrTell(platform, &Disk::replace, &FailedSaves::sessionNotWritten, fileName, bytes);
 }
 
 inline void writeSession(const Platform& platform, const std::string& fileName,
                          std::string_view bytes, bool temporary) {
-    if (temporary) return writeCopy(platform, fileName, bytes);
+    if (temporary)
+        return writeOrTell(platform, &Disk::replaceOwn, &FailedSaves::copyNotWritten, fileName,
+                           bytes);
     writeNamedSession(platform, fileName, bytes);
 }
 
