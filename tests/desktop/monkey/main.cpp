@@ -42,8 +42,8 @@ int mappedRows(const orvanta::FrmMain& form) {
 /// Runs of the program, one behind the other, in the same folders.
 class Session {
 public:
-    explicit Session(std::uint32_t seed) : m_monkey(seed, m_files), m_undoes(seed % 2 != 0) {
-        if (!m_undoes) m_monkey.undoNothing();
+    explicit Session(std::uint32_t seed) : m_monkey(seed, m_files), m_inStep(seed % 2 == 0) {
+        if (m_inStep) m_monkey.undoNothing();
     }
 
     Outcome play() {
@@ -62,7 +62,8 @@ private:
     }
 
     void act() {
-        m_outcome.wrong = m_played->act(!m_undoes);
+        m_outcome.wrong = m_played->act(m_inStep);
+        m_inStep = m_inStep && !m_played->hasOpenedNoAnalysis();
         m_outcome.mapped = std::max(m_outcome.mapped, mappedRows(m_played->form()));
         if (m_outcome.wrong.empty() && m_monkey.tally().acts >= m_nextLook) lookAtFiles();
         // Now and then the program is killed.
@@ -88,7 +89,7 @@ private:
 
     Sandbox m_files;
     Monkey m_monkey;
-    const bool m_undoes;
+    bool m_inStep;
     std::unique_ptr<PlayedProgram> m_played;
     int m_nextLook = actsBetweenLooksAtFiles;
     Outcome m_outcome;

@@ -24,11 +24,14 @@ public:
 
     bool hasEnded() const { return m_driver.hasEnded(); }
     const Recorder::Lines& lines() const { return m_lines; }
+    /// What is no analysis was opened as one: its lists without the companions, and that is right.
+    bool hasOpenedNoAnalysis() const { return m_hasOpenedNoAnalysis; }
     const FrmMain& form() { return m_driver.program().frmMain; }
 
 private:
     std::string differsFromItsLines();
     std::vector<std::string> copies();
+    void noteWhatIsOpened(const Json& line);
     std::string brokenClaim(bool inStep);
 
     Sandbox& m_files;
@@ -41,6 +44,8 @@ private:
     std::unique_ptr<driver::Stage> m_twinStage = driver::makeModelStage();
     driver::Driver m_twin;
     Recorder::Lines m_lines;
+    std::string m_pressed;
+    bool m_hasOpenedNoAnalysis = false;
 };
 
 }  // namespace orvanta::monkey
