@@ -11,7 +11,7 @@ take() { cp -- "build/screens/${1%/*}"/*-"${1#*/}".png "$2"; }
 
 # WIDTH,HEIGHT SCALE FILE: of the web report as a browser shows it.
 take_report() {
-    chromium --headless --no-sandbox --disable-gpu --disable-quic --no-first-run \
+    chromium-headless-shell --no-sandbox --disable-gpu --disable-quic --no-first-run \
         --disable-background-networking --disable-component-update --disable-sync \
         --user-data-dir="$work/profile" --hide-scrollbars --force-device-scale-factor="$2" \
         --window-size="$1" --screenshot="$PWD/$3" \

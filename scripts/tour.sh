@@ -189,7 +189,7 @@ browse() {
     local profile
     profile=$(mktemp -d)
     next_picture report-in-browser
-    timeout 120 chromium --headless --no-sandbox --disable-gpu --disable-quic --no-first-run \
+    timeout 120 chromium-headless-shell --no-sandbox --disable-gpu --disable-quic --no-first-run \
         --disable-background-networking --disable-component-update --disable-sync \
         --user-data-dir="$profile" --hide-scrollbars --window-size=1100,1000 \
         --screenshot="$picture" "file://$tour/report.htm" >"$tour/browser.log" 2>&1 ||

@@ -1,4 +1,4 @@
-"""Headless Chromium, driven over its debugging pipe with nothing but the standard library."""
+"""Chromium without a window, driven over its debugging pipe with the standard library alone."""
 
 import base64
 import fcntl
@@ -11,7 +11,7 @@ import tempfile
 import time
 
 PATIENCE = 60  # seconds until an answer counts as missing
-FLAGS = ["--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run",
+FLAGS = ["--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run",
          "--disable-background-networking", "--disable-component-update", "--disable-sync",
          "--hide-scrollbars", "--remote-debugging-pipe"]
 # What the browser is told of a key beside its name.
@@ -36,7 +36,7 @@ class Browser:
             os.dup2(ends[1], 4)
 
         self._process = subprocess.Popen(
-            ["chromium", *FLAGS, f"--user-data-dir={self._profile}", "about:blank"],
+            ["chromium-headless-shell", *FLAGS, f"--user-data-dir={self._profile}", "about:blank"],
             stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
             preexec_fn=hand_over, pass_fds=(3, 4))
         for end in ends:
