@@ -84,8 +84,8 @@ void PlayedProgram::noteWhatIsOpened(const Json& line) {
     if (line.value("do", "") == "press") m_pressed = line.value("button", "");
     const Json path = line.value("path", Json());
     if (m_pressed != "OAFile" || !path.is_string()) return;
-    const std::string file = m_disk.read(path);
-    if (file.find("<OPPORTUNITYMAPPING>") == std::string::npos) m_hasOpenedNoAnalysis = true;
+    if (m_disk.kindOf(path) != PathKind::File) return;
+    if (m_disk.read(path).find("<OPPORTUNITYMAPPING>") == std::string::npos) m_hasOpenedNoAnalysis = true;
 }
 
 std::vector<std::string> PlayedProgram::copies() {
