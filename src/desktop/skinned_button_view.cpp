@@ -75,11 +75,21 @@ ButtonCaptionView::ButtonCaptionView(SkinnedButton& model, ButtonActs acts,
     const auto showModel = [this, &label = model.label, pixelGrid] {
         setFont(pixelGrid.font(label.fontSize(), label.isBold()));
         setText(shownCaption(label.caption()));
-        setMinimumWidth(fontMetrics().size(0, text()).width());  // its place may be narrower
         setAccessibleName(text());
+        if (testAttribute(Qt::WA_WState_Polished)) widenForWords();
     };
     model.label.changed.subscribe(showModel);
     showModel();
+}
+
+/// Its place may be narrower than its words.
+void ButtonCaptionView::widenForWords() { setMinimumWidth(fontMetrics().size(0, text()).width()); }
+
+bool ButtonCaptionView::event(QEvent* event) {
+    const bool isDone = QLabel::event(event);
+    // Not before it is first shown: the letters are loaded for it, behind the splash.
+    if (event->type() == QEvent::Polish) widenForWords();
+    return isDone;
 }
 
 void ButtonCaptionView::mousePressEvent(QMouseEvent* event) {

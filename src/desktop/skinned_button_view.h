@@ -39,11 +39,14 @@ public:
                       QWidget* parent);
 
 protected:
+    bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    void widenForWords();
+
     ButtonActs m_acts;
 };
 
