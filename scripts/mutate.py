@@ -82,7 +82,9 @@ def build_first():
     listed = subprocess.run(["git", "ls-files", "-z", "--cached", "--others",
                              "--exclude-standard", "--deduplicate"],
                             cwd=ROOT, check=True, capture_output=True)
-    for name in listed.stdout.decode().split("\0")[:-1]:
+    names = listed.stdout.decode().split("\0")[:-1]
+    remove_others(Place.TREE, {Place.TREE / name for name in names})
+    for name in names:
         copy_if_other(ROOT / name, Place.TREE / name)
     environment = {**os.environ, "CCACHE_BASEDIR": str(Place.TREE)}
     for step in (["--preset", "dev", "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"],
@@ -181,6 +183,16 @@ def shuffled_mutants(chance, paths):
             found += [(name, chance.choice(line)) for line in mutants_of(path.read_text("utf-8"))]
     chance.shuffle(found)
     return found
+
+
+def remove_others(tree, wanted):
+    """What was there the last time and is no more would be built with the rest."""
+    for folder, folders, files in os.walk(tree):
+        if Path(folder) == tree and "build" in folders:
+            folders.remove("build")
+        for file in files:
+            if Path(folder) / file not in wanted:
+                (Path(folder) / file).unlink()
 
 
 def copy_if_other(source, target):

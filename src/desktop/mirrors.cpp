@@ -73,10 +73,12 @@ void describe(const Control& model, QWidget& widget) {
 
 void mirrorControl(Control& model, QWidget& widget, ControlArea& area) {
     widget.setObjectName(fromCp1252(model.name()));
+    widget.setAttribute(Qt::WA_Resized);  // by the layout: no words are measured for a size
     area.hold(model, widget);
     auto* toolTip = new ToolTipLines(model, widget);
     follow(model, [&model, &widget, toolTip] {
-        widget.setVisible(model.isUncovered());
+        // What is told to be shown is styled at once, long before the window is seen.
+        if (widget.isHidden() == model.isUncovered()) widget.setVisible(model.isUncovered());
         widget.setEnabled(model.isEnabled());
         toolTip->follow();
         describe(model, widget);

@@ -76,7 +76,7 @@ ButtonCaptionView::ButtonCaptionView(SkinnedButton& model, ButtonActs acts,
         setFont(pixelGrid.font(label.fontSize(), label.isBold()));
         setText(shownCaption(label.caption()));
         setAccessibleName(text());
-        if (testAttribute(Qt::WA_WState_Polished)) widenForWords();
+        if (isVisible()) widenForWords();
     };
     model.label.changed.subscribe(showModel);
     showModel();
@@ -87,8 +87,8 @@ void ButtonCaptionView::widenForWords() { setMinimumWidth(fontMetrics().size(0, 
 
 bool ButtonCaptionView::event(QEvent* event) {
     const bool isDone = QLabel::event(event);
-    // Not before it is first shown: the letters are loaded for it, behind the splash.
-    if (event->type() == QEvent::Polish) widenForWords();
+    // Not before it is seen: the letters are loaded for it, behind the splash.
+    if (event->type() == QEvent::Show) widenForWords();
     return isDone;
 }
 
