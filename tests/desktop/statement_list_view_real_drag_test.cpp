@@ -160,6 +160,8 @@ TEST_P(QuickDrag, TakesAMappedRowBack) {
     const int mapped = bench.list("lvOpportunity").count();
     drag(opportunity(2), rowOf("lvStrengthOp", 1).center(), GetParam());
     EXPECT_EQ(bench.list("lvOpportunity").count(), mapped - 1);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bench.list("lvStrengthOp").selected(), 2) << "the release came behind the drop";
 }
 
 TEST_P(QuickDrag, RanksTheRowThatItTook) {
@@ -170,6 +172,8 @@ TEST_P(QuickDrag, RanksTheRowThatItTook) {
     ASSERT_EQ(before.size(), 3U);
     drag(rowOf("lvAOpportunity", 1).center(), rowOf("lvAOpportunity", 3).center(), GetParam());
     EXPECT_EQ(bench.texts("lvAOpportunity"), (Texts{before[1], before[2], before[0]}));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bench.list("lvAOpportunity").selected(), 3) << "the release came behind the drop";
 }
 
 TEST_F(RealDrag, TakesNothingBackOnTheFrameOfAList) {

@@ -330,8 +330,8 @@ void Monkey::dragARow() {
             drag.drop(target, end);
         else
             drag.leave(target);
+        drag.finish(*m_program);  // the toolkit puts the release off until then
         Hand::release(*from->viewport(), start);
-        drag.finish(*m_program);
         return;
     }
     Hand::release(*from->viewport(), start);
