@@ -19,6 +19,7 @@
 #include "desktop/enlargement.h"
 #include "desktop/file_pictures.h"
 #include "desktop/screen_room.h"
+#include "desktop/system_contrast.h"
 
 namespace orvanta::desktop {
 
@@ -47,7 +48,7 @@ QIcon discIcon(const QColor& disc, QChar sign) {
 QPalette lightPalette(const QPalette& desktop) {
     QPalette palette(theme::sideGround, theme::paper);
     // Nothing is said or drawn in passing where more contrast is asked for.
-    const bool strong = asksForContrast(desktop);
+    const bool strong = asksForContrast(desktop) || systemAsksForContrast();
     const QColor quietInk = strong ? theme::ink : theme::quietInk;
     palette.setColor(QPalette::Mid, strong ? theme::ink : theme::outline);
     palette.setColor(QPalette::Midlight, strong ? theme::ink : theme::hairline);
