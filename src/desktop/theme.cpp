@@ -48,7 +48,7 @@ QIcon discIcon(const QColor& disc, QChar sign) {
 QPalette lightPalette(const QPalette& desktop) {
     QPalette palette(theme::sideGround, theme::paper);
     // Nothing is said or drawn in passing where more contrast is asked for.
-    const bool strong = asksForContrast(desktop) || systemAsksForContrast();
+    const bool strong = systemAsksForContrast(desktop);
     const QColor quietInk = strong ? theme::ink : theme::quietInk;
     palette.setColor(QPalette::Mid, strong ? theme::ink : theme::outline);
     palette.setColor(QPalette::Midlight, strong ? theme::ink : theme::hairline);
@@ -368,6 +368,23 @@ QFont lettersFor(const QFont& desktop) {
     return font;
 }
 
+/// With a theme of the desktop come fonts of its own for lists and menus, which go before the
+/// program's. They come again when the theme is told anew, as Windows does behind a start.
+class OwnLetters : public QObject {
+public:
+    explicit OwnLetters(QApplication& application) : QObject(&application) {
+        application.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::ThemeChange) QApplication::setFont(m_letters);
+        return false;
+    }
+
+private:
+    QFont m_letters = QApplication::font();
+};
+
 }  // namespace
 
 double contrast(const QColor& one, const QColor& other) {
@@ -387,6 +404,7 @@ void applyTheme(QApplication& application) {
     QApplication::setStyle(new FlatStyle(colours));
     QApplication::setPalette(colours);
     QApplication::setFont(lettersFor(QApplication::font()));
+    new OwnLetters(application);
     application.setStyleSheet(sheetFor(colours));
     QApplication::setWindowIcon(pictureIcon(QStringLiteral("logo")));
 }

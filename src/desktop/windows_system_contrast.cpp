@@ -4,7 +4,7 @@
 
 namespace orvanta::desktop {
 
-bool systemAsksForContrast() {
+bool systemAsksForContrast(const QPalette&) {
     HIGHCONTRASTW contrast{};
     contrast.cbSize = sizeof contrast;
     return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) &&
