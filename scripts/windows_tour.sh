@@ -1,0 +1,248 @@
+#!/usr/bin/env bash
+# The tour on Windows: plays the installed program under wine with the mouse and the keyboard of a
+# display that nobody sees.
+#   scripts/windows_tour.sh SETUP.exe
+# Installs it, brainstorms, analyzes, maps, makes both reports, kills the program amid a session
+# and sees it come back, ends the system's session, then removes the program and looks for what is
+# left. Pictures go into build/windows/tour/. wine's drive and the home folder are made anew.
+set -euo pipefail
+cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
+setup=$(realpath -- "${1:?usage: $0 SETUP.exe}")
+
+tour=$PWD/build/windows/tour
+export HOME=$tour/home WINEPREFIX=$tour/wine WINEDEBUG=-all
+users=$WINEPREFIX/drive_c/users/$(id -un)
+program=$users/AppData/Local/Programs/Orvanta
+swot="$HOME/My SWOT"
+pictures=0
+patience=60  # seconds until what should happen counts as missing
+
+step() { printf '%s\n' "$*"; }
+fail() {
+    import -window root "$tour/failed.png"
+    echo "FAILED: $*; see $tour/failed.png" >&2
+    exit 1
+}
+wait_for() {
+    local what=$1 end=$((SECONDS + patience))
+    shift
+    until "$@"; do
+        ((SECONDS < end)) || fail "$what did not come"
+        sleep 0.2
+    done
+}
+
+shot() {
+    sleep 0.8
+    pictures=$((pictures + 1))
+    import -window root "$(printf '%s/%02d-%s.png' "$tour" "$pictures" "$1")"
+}
+
+# The window of this title, shown.
+find_window() {
+    window=$(xdotool search --onlyvisible --name "^$1\$" | tail -n 1)
+    [[ -n $window ]]
+}
+in_window() {
+    wait_for "the window $1" find_window "$1"
+    sleep 0.5
+}
+main() { in_window Orvanta; }
+
+# Places are pixels of the window that was found last.
+click() {
+    xdotool mousemove --window "$window" "$1" "$2" click 1
+    sleep 0.5
+}
+drag() {
+    local step
+    xdotool mousemove --window "$window" "$1" "$2" mousedown 1
+    sleep 0.2
+    for ((step = 1; step <= 10; step++)); do
+        xdotool mousemove --window "$window" \
+            $(($1 + ($3 - $1) * step / 10)) $(($2 + ($4 - $2) * step / 10))
+        sleep 0.05
+    done
+    sleep 0.3
+    xdotool mouseup 1
+    sleep 0.7
+}
+keys() { xdotool key --delay 60 "$@"; sleep 0.3; }
+type_line() {
+    xdotool type --delay 30 "$1"
+    keys Return
+}
+
+start_program() {
+    (cd "$program" && exec wine orvanta.exe) >>"$tour/program.log" 2>&1 &
+    main
+    sleep 3 # the picture of the start has the same title
+    main
+}
+
+# The file dialog takes a name.
+give_file() {
+    in_window "$1"
+    shot "file-dialog-${1,,}"
+    xdotool key ctrl+a
+    type_line "$2"
+}
+is_written() { [[ -s $1 ]]; }
+
+# How often Next leads through a section of the bank for marketing.
+questions() {
+    awk -v section="$1" 'index($0, "<" section) { on = 1 } index($0, "</" section) { on = 0 }
+        on && /<QUESTION>/ { count++ } END { print count }' data/mpquestions.txt
+}
+go_through() {
+    local i count
+    count=$(questions "$1")
+    for ((i = 0; i < count - ${2:-0}; i++)); do keys ctrl+Return; done
+}
+
+brainstorm() {
+    step "A member brainstorms"
+    click 100 149
+    xdotool type --delay 30 "Dana Reyes"
+    click 235 313
+    shot name-and-module
+    click 890 609
+    type_line "Loyal customers"
+    type_line "Riders know the city"
+    shot strengths
+    go_through STRENGTH
+    type_line "No service at night"
+    go_through WEAKNESS
+    type_line "Shops deliver on the same day"
+    type_line "The old town closes to cars"
+    go_through OPPORTUNITY
+    type_line "A chain opens nearby"
+    shot threats
+    go_through THREAT 1
+    shot last-question
+    keys ctrl+Return
+    give_file Save dana
+    wait_for "dana.bsm" is_written "$swot/dana.bsm"
+    shot brainstorm-completed
+    keys Return
+}
+
+analyze() {
+    step "The leader analyzes"
+    main
+    click 100 197
+    click "${add_button[@]}"
+    give_file Open dana
+    main
+    shot source-files
+    click 890 609
+    shot consolidated-strengths
+    keys ctrl+Return ctrl+Return
+    shot opportunities
+    drag 350 260 350 290
+    shot ranked
+    keys ctrl+Return ctrl+Return
+    shot mapping
+    drag "${first_strength[@]}" "${first_opportunity[@]}"
+    drag "${first_weakness[@]}" "${first_opportunity[@]}"
+    shot mapped-opportunities
+    keys ctrl+Return
+    drag "${first_strength[@]}" "${first_opportunity[@]}"
+    shot mapped-threats
+    keys ctrl+Return
+    give_file Save team
+    wait_for "team.aze" is_written "$swot/team.aze"
+    shot analysis-completed
+    keys Return
+}
+
+# What the shell's verb open was given lands in a log: wine hands web pages and mail to these.
+make_opener() {
+    mkdir -p "$tour/opener"
+    printf '#!/bin/sh\nprintf "%%s\\n" "$*" >>"%s"\n' "$tour/opened.log" >"$tour/opener/xdg-open"
+    chmod +x "$tour/opener/xdg-open"
+    cp "$tour/opener/xdg-open" "$tour/opener/xdg-email"
+    PATH=$tour/opener:$PATH
+}
+is_opened() { grep -qs -- "$1" "$tour/opened.log"; }
+
+report_dialog() {
+    main
+    click 100 245
+    in_window "SWOT Report"
+    click 190 42
+    keys "$1" Return
+    click 200 108
+    xdotool key ctrl+a
+    xdotool type --delay 20 "$(winepath -w "$swot/team.aze")"
+}
+report() {
+    step "Both reports are made"
+    report_dialog Home
+    shot report-dialog-web
+    keys Return
+    wait_for "the web report in a browser" is_opened report.htm
+    shot web-report-made
+    report_dialog End
+    shot report-dialog-document
+    keys Return
+    give_file Save team
+    wait_for "team.rtf" is_written "$swot/team.rtf"
+    shot document-made
+    keys Return
+}
+
+kill_and_recover() {
+    step "The program is killed amid a session"
+    main
+    click 100 149
+    xdotool type --delay 30 "Lee Park"
+    click 235 313
+    click 890 609
+    type_line "Kept by the copy"
+    wait_for "the copy of the session" is_written "$program/brainstorm.tmp"
+    wine taskkill /f /im orvanta.exe >/dev/null 2>&1 || true
+    sleep 2
+    start_program
+    shot recovered
+}
+
+end_session() {
+    step "The system's session ends"
+    (timeout 60 wineboot --end-session >"$tour/end.log" 2>&1; echo $? >>"$tour/end.log") &
+    sleep 3
+    shot session-ends
+    keys Escape
+    sleep 2
+    shot session-goes-on
+}
+
+play_all() {
+    mkdir -p "$HOME"
+    make_opener
+    openbox >"$tour/openbox.log" 2>&1 &
+    window_manager=$!
+    trap 'kill "$window_manager"; timeout 20 wineserver -k || true' EXIT
+    step "The program is installed"
+    wine "$setup" /S /CurrentUser
+    start_program
+    shot home
+    brainstorm
+    analyze
+    report
+    kill_and_recover
+    end_session
+}
+
+add_button=(891 237)
+first_strength=(300 300)
+first_opportunity=(500 300)
+first_weakness=(700 300)
+
+if [[ ${ORVANTA_TOUR_INSIDE:-} ]]; then
+    play_all
+else
+    rm -rf -- "$tour"
+    mkdir -p "$tour"
+    ORVANTA_TOUR_INSIDE=1 xvfb-run -a -s "-screen 0 1280x1024x24 -noreset" "$0" "$setup"
+fi
