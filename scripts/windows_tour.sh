@@ -73,8 +73,10 @@ type_line() {
     keys Return
 }
 
+program_ended() { ! find_window Orvanta; }
 start_program() {
     (cd "$program" && exec wine orvanta.exe) >>"$tour/program.log" 2>&1 &
+    disown
     main
     sleep 3 # the picture of the start has the same title
     main
@@ -106,6 +108,9 @@ brainstorm() {
     xdotool type --delay 30 "Dana Reyes"
     click 235 313
     shot name-and-module
+    click 838 269
+    wait_for "the invitation in a mail program" is_opened "mailto:.*Invitation%20for"
+    main
     click 890 609
     type_line "Loyal customers"
     type_line "Riders know the city"
@@ -139,7 +144,7 @@ analyze() {
     shot consolidated-strengths
     keys ctrl+Return ctrl+Return
     shot opportunities
-    drag 350 260 350 290
+    drag 350 231 350 262
     shot ranked
     keys ctrl+Return ctrl+Return
     shot mapping
@@ -186,7 +191,7 @@ report() {
     report_dialog End
     shot report-dialog-document
     keys Return
-    give_file Save team
+    give_file Save 'My SWOT\team'
     wait_for "team.rtf" is_written "$swot/team.rtf"
     shot document-made
     keys Return
@@ -201,20 +206,70 @@ kill_and_recover() {
     click 890 609
     type_line "Kept by the copy"
     wait_for "the copy of the session" is_written "$program/brainstorm.tmp"
-    wine taskkill /f /im orvanta.exe >/dev/null 2>&1 || true
-    sleep 2
+    wine taskkill /f /im orvanta.exe >/dev/null 2>&1
+    wait_for "the end of the program" program_ended
     start_program
     shot recovered
 }
 
+start_twice() {
+    step "A second start brings the first one to the front"
+    (cd "$program" && timeout "$patience" wine orvanta.exe) >>"$tour/program.log" 2>&1 ||
+        fail "the second start did not end well"
+    shot second-start
+}
+
+# The person calls the end off, so that the program goes on.
 end_session() {
-    step "The system's session ends"
-    (timeout 60 wineboot --end-session >"$tour/end.log" 2>&1; echo $? >>"$tour/end.log") &
-    sleep 3
-    shot session-ends
-    keys Escape
+    step "The system's session is to end"
+    timeout "$patience" wine wineboot --end-session >"$tour/end.log" 2>&1 &
     sleep 2
+    shot session-to-end
+    keys Escape
     shot session-goes-on
+}
+
+quit_without_saving() {
+    step "The program is left, its session not saved"
+    main
+    keys alt+F4
+    shot question-of-the-end
+    keys Tab Return
+    wait_for "the end of the program" program_ended
+}
+
+is_gone() { [[ ! -e $1 ]]; }
+expect_gone() { is_gone "$1" || fail "$1 is left"; }
+expect_no_key() {
+    if wine reg query "$1" >/dev/null 2>&1; then fail "the key $1 is left"; fi
+}
+
+# What the installer and the program made goes; what the person made stays.
+remove_program() {
+    local folder=$1 kind=$2 root=$3
+    step "The program is removed"
+    wine "$folder/uninstall.exe" /S "/$kind"
+    wait_for "the removal of $folder" is_gone "$folder"
+    expect_gone "$users/AppData/Local/Orvanta"
+    find "$WINEPREFIX/drive_c" -name '*.lnk' | grep -q Orvanta && fail "a link is left"
+    expect_no_key 'HKCU\Software\Orvanta'
+    expect_no_key "$root\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Orvanta"
+    expect_no_key "$root\\Software\\Classes\\Orvanta.Brainstorm"
+    expect_no_key "$root\\Software\\Classes\\.bsm"
+    [[ $(cd "$swot" && printf '%s ' *) == "dana.bsm team.aze team.rtf " ]] ||
+        fail "the person's files are not what they were"
+}
+
+install_for_all() {
+    step "It is installed for all users"
+    wine "$setup" /S /AllUsers
+    program="$WINEPREFIX/drive_c/Program Files/Orvanta"
+    [[ -f $program/system-wide ]] || fail "the file system-wide is missing"
+    start_program
+    shot installed-for-all
+    [[ ! -e $program/System ]] || fail "the program writes into the folder of all users"
+    keys alt+F4
+    wait_for "the end of the program" program_ended
 }
 
 play_all() {
@@ -225,19 +280,26 @@ play_all() {
     trap 'kill "$window_manager"; timeout 20 wineserver -k || true' EXIT
     step "The program is installed"
     wine "$setup" /S /CurrentUser
+    wine "$setup" /S /CurrentUser # over itself, as a newer version would
     start_program
     shot home
     brainstorm
     analyze
     report
     kill_and_recover
+    start_twice
     end_session
+    quit_without_saving
+    remove_program "$program" CurrentUser HKCU
+    install_for_all
+    remove_program "$program" AllUsers HKLM
+    step "$pictures pictures lie in build/windows/tour/"
 }
 
 add_button=(891 237)
-first_strength=(300 300)
-first_opportunity=(500 300)
-first_weakness=(700 300)
+first_strength=(300 232)
+first_opportunity=(520 237)
+first_weakness=(800 232)
 
 if [[ ${ORVANTA_TOUR_INSIDE:-} ]]; then
     play_all

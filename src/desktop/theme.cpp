@@ -368,20 +368,26 @@ QFont lettersFor(const QFont& desktop) {
     return font;
 }
 
-/// With a theme of the desktop come fonts of its own for lists and menus, which go before the
-/// program's. They come again when the theme is told anew, as Windows does behind a start.
+/// A theme of the desktop, as Windows has one, brings fonts of its own for some kinds of widgets.
+/// They go before the program's, and come anew when the theme is told anew.
 class OwnLetters : public QObject {
 public:
     explicit OwnLetters(QApplication& application) : QObject(&application) {
         application.installEventFilter(this);
+        apply();
     }
 
     bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::ThemeChange) QApplication::setFont(m_letters);
+        if (event->type() == QEvent::Show || event->type() == QEvent::ThemeChange) apply();
         return false;
     }
 
 private:
+    void apply() {
+        for (const char* kind : {"QAbstractItemView", "QMenu", "QMessageBox", "QTipLabel"})
+            if (QApplication::font(kind) != m_letters) QApplication::setFont(m_letters, kind);
+    }
+
     QFont m_letters = QApplication::font();
 };
 
