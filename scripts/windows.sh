@@ -1,15 +1,14 @@
 #!/usr/bin/env bash
-# Makes the program for 64-bit Windows on Debian and plays it under wine.
+# Makes the program for 64-bit Windows on Debian, plays it under wine and packs it.
 #   scripts/windows.sh [--qt PREFIX] [--sources DIR] [--headless]
-# --qt: a Qt 6.4 for mingw-w64 that is there already; otherwise one is made once, from Debian's
-# source packages, in build/windows/qt. --sources: a folder with tarballs of sources that apt does
-# not give, as qtsvg-6.4.2.tar.xz. --headless: the logic and its tests alone, without Qt.
+# --qt, --sources: see scripts/windows_libraries.sh, which makes the libraries once. --headless: the
+# logic and its tests alone, without Qt. The installer and the portable folder go into
+# build/windows/packages/, the pictures of the tour into build/windows/tour/.
 # Not part of scripts/test.sh. What it shows and what it can't: docs/windows.md.
 set -euo pipefail
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 
-preset=windows qt=$PWD/build/windows/qt decoders=$PWD/build/windows/decoders
-bin=build/windows/bin
+preset=windows qt=$PWD/build/windows/qt released=build/windows-release
 libraries=()
 while (($#)); do
     case $1 in
@@ -30,13 +29,12 @@ part() {
     echo "   $((SECONDS - start)) s"
 }
 
-# The libraries and plugins beside the program, as they lie when it is installed.
-put_libraries_beside() {
-    cp -u -- "$qt"/bin/Qt6{Core,Gui,Widgets,PrintSupport,Svg}.dll "$bin/"
-    cp -u -- "$decoders"/bin/*.dll "$bin/"
-    mkdir -p "$bin"/{platforms,imageformats}
-    cp -u -- "$qt/plugins/platforms/qwindows.dll" "$bin/platforms/"
-    cp -u -- "$qt/plugins/imageformats/"q{svg,jpeg,gif,ico}.dll "$bin/imageformats/"
+# The voice's clips are spoken by this system's tools, as for its own program.
+speak_clips() {
+    cmake --preset headless
+    cmake --build --preset headless --target orvanta_clip_texts
+    scripts/make_narration.sh build/headless/bin/orvanta_clip_texts data tools/spoken_forms.txt \
+        "$released/bin/Sounds" build/windows/narration
 }
 
 part "Installing what is missing" scripts/install.sh windows
@@ -49,5 +47,11 @@ if [[ $preset == windows ]]; then
 fi
 part "Configuring" cmake --preset "$preset" "${options[@]}"
 part "Compiling" cmake --build --preset "$preset"
-if [[ $preset == windows ]]; then part "Putting the libraries beside" put_libraries_beside; fi
 part "Tests under wine" xvfb-run -a ctest --preset "$preset"
+[[ $preset == windows ]] || exit 0
+
+part "Configuring what is installed" cmake --preset windows-release "${options[@]}"
+part "Compiling it" cmake --build --preset windows-release
+part "Speaking the questions" speak_clips
+part "Making the installer" scripts/windows_setup.sh "$released"
+part "The tour" scripts/windows_tour.sh build/windows/packages/Orvanta-*-setup.exe

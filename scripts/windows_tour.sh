@@ -2,7 +2,7 @@
 # The tour on Windows: plays the installed program under wine with the mouse and the keyboard of a
 # display that nobody sees.
 #   scripts/windows_tour.sh SETUP.exe
-# Installs it, brainstorms, analyzes, maps, makes both reports, kills the program amid a session
+# Installs it, brainstorms and hears the voice, analyzes, maps, makes both reports, kills the program amid a session
 # and sees it come back, ends the system's session, then removes the program and looks for what is
 # left. Pictures go into build/windows/tour/. wine's drive and the home folder are made anew.
 set -euo pipefail
@@ -15,7 +15,7 @@ users=$WINEPREFIX/drive_c/users/$(id -un)
 program=$users/AppData/Local/Programs/Orvanta
 swot="$HOME/My SWOT"
 pictures=0
-patience=60  # seconds until what should happen counts as missing
+patience=180 # seconds until what should happen counts as missing
 
 step() { printf '%s\n' "$*"; }
 fail() {
@@ -115,6 +115,7 @@ brainstorm() {
     type_line "Loyal customers"
     type_line "Riders know the city"
     shot strengths
+    wait_for "the voice" is_heard
     go_through STRENGTH
     type_line "No service at night"
     go_through WEAKNESS
@@ -170,6 +171,25 @@ make_opener() {
     PATH=$tour/opener:$PATH
 }
 is_opened() { grep -qs -- "$1" "$tour/opened.log"; }
+
+# A sound server that nobody hears; what is played there is kept.
+start_sound() {
+    export XDG_RUNTIME_DIR=$tour/sound PULSE_SERVER=unix:$tour/sound/server
+    mkdir -m 0700 "$tour/sound"
+    pulseaudio -n --daemonize=no --use-pid-file=no --exit-idle-time=-1 \
+        --load="module-null-sink sink_name=ear" \
+        --load="module-native-protocol-unix auth-anonymous=1 socket=$tour/sound/server" \
+        >"$tour/sound/log" 2>&1 &
+    started+=($!)
+    wait_for "the sound server" pactl info >/dev/null 2>&1
+    parec --device=ear.monitor --raw >"$tour/sound/heard" 2>/dev/null &
+    started+=($!)
+}
+# More than half a second that is not silent.
+is_heard() {
+    local least=100000
+    (($(LC_ALL=C tr -d '\0' <"$tour/sound/heard" | head -c "$least" | wc -c) == least))
+}
 
 report_dialog() {
     main
@@ -276,8 +296,9 @@ play_all() {
     mkdir -p "$HOME"
     make_opener
     openbox >"$tour/openbox.log" 2>&1 &
-    window_manager=$!
-    trap 'kill "$window_manager"; timeout 20 wineserver -k || true' EXIT
+    started=($!)
+    trap 'kill "${started[@]}"; timeout 20 wineserver -k || true' EXIT
+    start_sound
     step "The program is installed"
     wine "$setup" /S /CurrentUser
     wine "$setup" /S /CurrentUser # over itself, as a newer version would
