@@ -165,10 +165,13 @@ analyze() {
 # What the shell's verb open was given lands in a log: wine hands web pages and mail to these.
 make_opener() {
     mkdir -p "$tour/opener"
-    printf '#!/bin/sh\nprintf "%%s\\n" "$*" >>"%s"\n' "$tour/opened.log" >"$tour/opener/xdg-open"
-    chmod +x "$tour/opener/xdg-open"
-    cp "$tour/opener/xdg-open" "$tour/opener/xdg-email"
-    PATH=$tour/opener:$PATH
+    printf '#!/bin/sh\nprintf "%%s\\n" "$*" >>"%s"\n' "$tour/opened.log" \
+        >"$tour/opener/open"
+    chmod +x "$tour/opener/open"
+    local kind
+    for kind in Browsers Mailers; do
+        wine reg add 'HKCU\Software\Wine\WineBrowser' /v "$kind" /d "$tour/opener/open" /f >/dev/null
+    done
 }
 is_opened() { grep -qs -- "$1" "$tour/opened.log"; }
 

@@ -383,12 +383,11 @@ public:
     }
 
 private:
-    void apply() {
+    static void apply() {
+        const QFont own = QApplication::font();
         for (const char* kind : {"QAbstractItemView", "QMenu", "QMessageBox", "QTipLabel"})
-            if (QApplication::font(kind) != m_letters) QApplication::setFont(m_letters, kind);
+            if (QApplication::font(kind) != own) QApplication::setFont(own, kind);
     }
-
-    QFont m_letters = QApplication::font();
 };
 
 }  // namespace
