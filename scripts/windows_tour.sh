@@ -243,13 +243,29 @@ start_twice() {
 }
 
 # The person calls the end off, so that the program goes on.
-end_session() {
-    step "The system's session is to end"
-    timeout "$patience" wine wineboot --end-session >"$tour/end.log" 2>&1 &
+call_end_of_session_off() {
+    step "The system's session is to end, and goes on"
+    (timeout "$patience" wine wineboot --end-session; echo $? >"$tour/ended") &
     sleep 2
     shot session-to-end
     keys Escape
+    wait_for "the answer to the system" is_written "$tour/ended"
+    [[ $(<"$tour/ended") == 1 ]] || fail "the end was not called off"
     shot session-goes-on
+}
+
+# A dialog asks for something else.
+end_session_behind_dialog() {
+    step "The system's session ends behind a dialog"
+    main
+    click 100 293
+    shot dialog-before-the-end
+    rm -- "$program/brainstorm.tmp"
+    timeout "$patience" wine wineboot --end-session || fail "the session does not end"
+    wait_for "the end of the program" program_ended
+    is_written "$program/brainstorm.tmp" || fail "the session was not copied"
+    start_program
+    shot recovered-behind-dialog
 }
 
 quit_without_saving() {
@@ -312,7 +328,8 @@ play_all() {
     report
     kill_and_recover
     start_twice
-    end_session
+    end_session_behind_dialog
+    call_end_of_session_off
     quit_without_saving
     remove_program "$program" CurrentUser HKCU
     install_for_all

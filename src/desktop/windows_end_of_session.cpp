@@ -25,7 +25,9 @@ bool dialogIsOpen() {
 void prepareForEndOfSession(Program& program, QSessionManager& manager) {
     copyUnsavedSession(program);  // the system may not wait for the answer
     // What an open dialog asks is not answered yet; the copy comes back at the next start.
-    if (!dialogIsOpen() && !mayLeaveSessions(program)) manager.cancel();
+    if (dialogIsOpen() || !manager.allowsInteraction()) return;
+    if (!mayLeaveSessions(program)) manager.cancel();
+    manager.release();
 }
 
 }  // namespace orvanta::desktop
