@@ -138,6 +138,10 @@ analyze() {
     main
     click 100 197
     click "${add_button[@]}"
+    in_window Open
+    type_line nosuch
+    shot name-refused
+    keys Return
     give_file Open dana
     main
     shot source-files
@@ -245,7 +249,11 @@ start_twice() {
 # The person calls the end off, so that the program goes on.
 call_end_of_session_off() {
     step "The system's session is to end, and goes on"
-    (timeout "$patience" wine wineboot --end-session; echo $? >"$tour/ended") &
+    (
+        code=0
+        timeout "$patience" wine wineboot --end-session || code=$?
+        echo "$code" >"$tour/ended"
+    ) &
     sleep 2
     shot session-to-end
     keys Escape

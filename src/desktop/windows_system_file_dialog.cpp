@@ -142,6 +142,7 @@ private:
             case FileChoiceAct::EnterFolder:
                 if (const auto folder = itemOf(native::wideFrom(choice.path)))
                     dialog.SetFolder(folder.get());
+                dialog.SetFileName(L"");
                 return false;
             case FileChoiceAct::Refuse:
                 refuse(dialog, choice);
