@@ -86,10 +86,12 @@ FunctionEnd
     DeleteRegKey SHCTX "Software\Classes\${name}"
 !macroend
 
-; The web report is made anew whenever it is asked for. A session that waits there stays.
+; The web report is made anew whenever it is asked for. A session that waits there stays, and so do
+; copies: a folder that holds something is not removed.
 !macro removeScratch folder
     Delete "${folder}\System\report.htm"
     RMDir "${folder}\System"
+    RMDir "${folder}\rescue"
     RMDir "${folder}"
 !macroend
 
