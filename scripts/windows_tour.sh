@@ -224,6 +224,8 @@ report() {
     keys Return
     give_file Save 'My SWOT\team'
     wait_for "team.rtf" is_written "$swot/team.rtf"
+    wine reg query 'HKCU\Software\Orvanta\System' /v LastSavedPathRTF | grep -q 'team\.rtf' ||
+        fail "the settings do not hold the document's name"
     shot document-made
     keys Return
 }
@@ -295,19 +297,18 @@ quit_without_saving() {
 
 is_gone() { [[ ! -e $1 ]]; }
 expect_gone() { is_gone "$1" || fail "$1 is left"; }
-expect_no_key() {
-    if wine reg query "$1" >/dev/null 2>&1; then fail "the key $1 is left"; fi
-}
+has_no_key() { ! wine reg query "$1" >/dev/null 2>&1; }
+expect_no_key() { has_no_key "$1" || fail "the key $1 is left"; }
 
 # What the installer and the program made goes; what the person made stays.
 remove_program() {
     local folder=$1 kind=$2 root=$3
     step "The program is removed"
     wine "$folder/uninstall.exe" /S "/$kind"
-    wait_for "the removal of $folder" is_gone "$folder"
+    wait_for "the removal of the settings, the last of all" has_no_key 'HKCU\Software\Orvanta'
+    expect_gone "$folder"
     expect_gone "$users/AppData/Local/Orvanta"
     find "$WINEPREFIX/drive_c" -name '*.lnk' | grep -q Orvanta && fail "a link is left"
-    expect_no_key 'HKCU\Software\Orvanta'
     expect_no_key "$root\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Orvanta"
     expect_no_key "$root\\Software\\Classes\\Orvanta.Brainstorm"
     expect_no_key "$root\\Software\\Classes\\.bsm"
