@@ -296,7 +296,6 @@ quit_without_saving() {
 }
 
 is_gone() { [[ ! -e $1 ]]; }
-expect_gone() { is_gone "$1" || fail "$1 is left"; }
 has_no_key() { ! wine reg query "$1" >/dev/null 2>&1; }
 expect_no_key() { has_no_key "$1" || fail "the key $1 is left"; }
 
@@ -305,9 +304,10 @@ remove_program() {
     local folder=$1 kind=$2 root=$3
     step "The program is removed"
     wine "$folder/uninstall.exe" /S "/$kind"
-    wait_for "the removal of the settings, the last of all" has_no_key 'HKCU\Software\Orvanta'
-    expect_gone "$folder"
-    expect_gone "$users/AppData/Local/Orvanta"
+    # The uninstaller goes on by itself.
+    wait_for "the removal of $folder" is_gone "$folder"
+    wait_for "the removal of the program's data" is_gone "$users/AppData/Local/Orvanta"
+    wait_for "the removal of the settings" has_no_key 'HKCU\Software\Orvanta'
     find "$WINEPREFIX/drive_c" -name '*.lnk' | grep -q Orvanta && fail "a link is left"
     expect_no_key "$root\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Orvanta"
     expect_no_key "$root\\Software\\Classes\\Orvanta.Brainstorm"
