@@ -5,7 +5,8 @@ set(mingw x86_64-w64-mingw32)
 set(CMAKE_C_COMPILER ${mingw}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${mingw}-g++-posix)
 set(CMAKE_RC_COMPILER ${mingw}-windres)
-set(CMAKE_CROSSCOMPILING_EMULATOR wine)
+cmake_path(SET wine_folder NORMALIZE ${CMAKE_CURRENT_LIST_DIR}/../build/wine)
+set(CMAKE_CROSSCOMPILING_EMULATOR env WINEPREFIX=${wine_folder} WINEDEBUG=-all wine)
 
 # Two libraries are headers alone, so this system's serve Windows as well. They are seen through
 # links, as the folder in which they lie holds this system's own headers too. All builds share them:
@@ -18,8 +19,12 @@ foreach(part include/boost include/nlohmann share/cmake/nlohmann_json)
   endif()
 endforeach()
 
+# The decoders of the voice, as scripts/windows.sh makes them; this system's own are no use.
+cmake_path(SET decoders NORMALIZE ${CMAKE_CURRENT_LIST_DIR}/../build/windows/decoders)
+set(ENV{PKG_CONFIG_LIBDIR} ${decoders}/lib/pkgconfig)
+
 list(APPEND CMAKE_PREFIX_PATH ${header_libraries} ${ORVANTA_WINDOWS_QT})
-set(CMAKE_FIND_ROOT_PATH /usr/${mingw} ${header_libraries} ${ORVANTA_WINDOWS_QT})
+set(CMAKE_FIND_ROOT_PATH /usr/${mingw} ${header_libraries} ${decoders} ${ORVANTA_WINDOWS_QT})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

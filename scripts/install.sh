@@ -24,7 +24,7 @@ declare -A packages=(
     [changing]="bubblewrap lld"
     [packing]="dpkg-dev file gzip lintian desktop-file-utils appstream libxml2-utils"
     [fresh_system]="mmdebstrap"
-    [mingw]="g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine wine64 nsis zip"
+    [mingw]="g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine wine64 nsis zip imagemagick"
 )
 declare -A what_for=(
     [build]="compiling"
@@ -60,7 +60,7 @@ declare -A needs=(
     [mutate]="changing"
     [package]="packing"
     [package_test]="fresh_system"
-    [windows]="build window libraries screen mingw"
+    [windows]="build window voice libraries screen listening mingw"
 )
 
 for purpose in "$@"; do

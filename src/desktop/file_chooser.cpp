@@ -7,19 +7,16 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
-#include <QStandardPaths>
 #include <QTreeView>
 #include <algorithm>
 #include <cassert>
 #include <initializer_list>
 
-#include "core/session_state.h"
 #include "desktop/clicks.h"
 #include "desktop/conversions.h"
 #include "desktop/enlargement.h"
+#include "desktop/file_dialog_place.h"
 #include "desktop/file_pictures.h"
-#include "desktop/instance_lock.h"
-#include "desktop/own_folders.h"
 #include "desktop/screen_room.h"
 
 namespace orvanta::desktop {
@@ -35,26 +32,11 @@ QString filterFrom(const std::string& filter) {
     return description + QStringLiteral(" (") + pattern + u')';
 }
 
-/// The folder to begin in: the path itself or, if that names a file, the folder that holds it.
-QString startFolder(const std::string& initialPath) {
-    const QFileInfo info(fromPath(initialPath));
-    if (!initialPath.empty() && info.isDir()) return info.filePath();
-    if (!initialPath.empty() && info.absoluteDir().exists()) return info.absolutePath();
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    return QFileInfo::exists(documents) ? documents : QDir::homePath();
-}
-
 }  // namespace
 
 FileChooser::FileChooser(const FileDialogRequest& request, FileRules rules, QWidget* owner)
     : QFileDialog(owner, {}, startFolder(request.initialPath), filterFrom(request.filter)),
-      m_place{.mode = request.mode,
-              .filter = request.filter,
-              .folder = {},
-              .home = QDir::homePath().toStdString(),
-              .ownNames = {std::string(brainstormTemporaryName), std::string(analyzeTemporaryName),
-                           lockName},
-              .ownFolder = rescuePath().toStdString()},
+      m_place(placeOf(request)),
       m_rules(rules) {
     setOption(DontUseNativeDialog);
     setOption(DontConfirmOverwrite);

@@ -18,6 +18,7 @@
 #include "desktop/auto_save_timer.h"
 #include "desktop/conversions.h"
 #include "desktop/display_needed.h"
+#include "desktop/end_of_session.h"
 #include "desktop/last_copy.h"
 #include "desktop/main_window.h"
 #include "desktop/own_folders.h"
@@ -35,6 +36,9 @@ using namespace orvanta::desktop;
 
 std::string nameOf(const QString& path) { return QDir::toNativeSeparators(path).toStdString(); }
 
+#ifdef _WIN32
+std::string programFolder() { return nameOf(QCoreApplication::applicationDirPath()); }
+#else
 /// The folder of the program file, as the system names it: the toolkit would lose bytes of a name
 /// that is not of its code.
 std::string programFolder() {
@@ -44,7 +48,6 @@ std::string programFolder() {
                    : program.parent_path().string();
 }
 
-#ifndef _WIN32
 /// A settings file that no memory can hold would end each start; it goes aside.
 void setUnreadableSettingsAside() {
     constexpr qint64 most = 1 << 20;
@@ -123,8 +126,9 @@ int main(int argc, char** argv) {
         QCoreApplication::exit();
     };
     raise = [&window] { bringToFront(window); };
-    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
-                     [&program] { copyUnsavedSession(program); });
+    QObject::connect(
+        &application, &QGuiApplication::commitDataRequest, &window,
+        [&program](QSessionManager& manager) { prepareForEndOfSession(program, manager); });
     desktop.setProgram(program);
     const LastCopy lastCopy(application, [&program] { copyUnsavedSession(program); });
     startProgram(program);

@@ -1,7 +1,6 @@
 #include "desktop/platform.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QScreen>
@@ -12,8 +11,9 @@
 #include "core/failures.h"
 #include "core/web_host.h"
 #include "desktop/conversions.h"
-#include "desktop/file_chooser.h"
 #include "desktop/message_box.h"
+#include "desktop/system_file_dialog.h"
+#include "desktop/system_shell.h"
 
 namespace orvanta::desktop {
 
@@ -59,17 +59,15 @@ MessageAnswer DesktopMessageBoxes::show(const Message& message) {
 }
 
 std::optional<std::string> DesktopFileDialogs::choose(const FileDialogRequest& request) {
-    FileChooser chooser(request, FileRules::Heeded, owner());
-    if (chooser.exec() != QDialog::Accepted) return std::nullopt;
-    return systemPath(chooser.paths().front());
+    const QStringList names = askForFiles(request, FileCount::One, owner());
+    if (names.isEmpty()) return std::nullopt;
+    return systemPath(names.front());
 }
 
 std::vector<std::string> DesktopFileDialogs::chooseSeveral(const FileDialogRequest& request) {
-    FileChooser chooser(request, FileRules::Heeded, owner());
-    chooser.takeSeveral();
-    if (chooser.exec() != QDialog::Accepted) return {};
     std::vector<std::string> paths;
-    for (const QString& path : chooser.paths()) paths.push_back(systemPath(path));
+    for (const QString& name : askForFiles(request, FileCount::Several, owner()))
+        paths.push_back(systemPath(name));
     return paths;
 }
 
@@ -85,7 +83,7 @@ void DesktopSettings::write(std::string_view section, std::string_view key,
 
 void DesktopShell::open(const std::string& target) {
     const QString copy = copyBeside(target);
-    QDesktopServices::openUrl(copy.isEmpty() ? urlOf(target) : QUrl::fromLocalFile(copy));
+    openBySystem(copy.isEmpty() ? urlOf(target) : QUrl::fromLocalFile(copy));
 }
 
 double DesktopScreen::twipsPerPixel() const {

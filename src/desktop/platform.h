@@ -27,14 +27,19 @@ public:
     std::vector<std::string> chooseSeveral(const FileDialogRequest& request) override;
 };
 
-/// One file for each user.
+/// One file for each user; on Windows in the user's part of the registry.
 class DesktopSettings : public Settings {
 public:
     std::string read(std::string_view section, std::string_view key) const override;
     void write(std::string_view section, std::string_view key, const std::string& value) override;
 
 private:
+#ifdef _WIN32
+    QSettings m_settings{QStringLiteral("HKEY_CURRENT_USER\\Software\\Orvanta"),
+                         QSettings::NativeFormat};
+#else
     QSettings m_settings;
+#endif
 };
 
 /// Opens the installed copy of a page whose address can lead nowhere.

@@ -11,8 +11,8 @@ namespace orvanta::desktop {
 class SystemSignals : public QObject {
 public:
     /// `end` runs for SIGTERM, SIGHUP and SIGINT, `raise` for the signal of a second start. Both
-    /// run from the event loop, that of a dialog included, never inside a handler. Windows has no
-    /// signal that ends a program with windows.
+    /// run from the event loop, that of a dialog included, never inside a handler. On Windows `end`
+    /// runs when the person's session with the system ends.
     SystemSignals(std::function<void()> end, std::function<void()> raise);
     ~SystemSignals() override;
 

@@ -19,6 +19,7 @@
 #include "desktop/enlargement.h"
 #include "desktop/file_pictures.h"
 #include "desktop/screen_room.h"
+#include "desktop/system_contrast.h"
 
 namespace orvanta::desktop {
 
@@ -47,7 +48,7 @@ QIcon discIcon(const QColor& disc, QChar sign) {
 QPalette lightPalette(const QPalette& desktop) {
     QPalette palette(theme::sideGround, theme::paper);
     // Nothing is said or drawn in passing where more contrast is asked for.
-    const bool strong = asksForContrast(desktop);
+    const bool strong = systemAsksForContrast(desktop);
     const QColor quietInk = strong ? theme::ink : theme::quietInk;
     palette.setColor(QPalette::Mid, strong ? theme::ink : theme::outline);
     palette.setColor(QPalette::Midlight, strong ? theme::ink : theme::hairline);
@@ -367,6 +368,28 @@ QFont lettersFor(const QFont& desktop) {
     return font;
 }
 
+/// A theme of the desktop, as Windows has one, brings fonts of its own for some kinds of widgets.
+/// They go before the program's, and come anew when the theme is told anew.
+class OwnLetters : public QObject {
+public:
+    explicit OwnLetters(QApplication& application) : QObject(&application) {
+        application.installEventFilter(this);
+        apply();
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Show || event->type() == QEvent::ThemeChange) apply();
+        return false;
+    }
+
+private:
+    static void apply() {
+        const QFont own = QApplication::font();
+        for (const char* kind : {"QAbstractItemView", "QMenu", "QMessageBox", "QTipLabel"})
+            if (QApplication::font(kind) != own) QApplication::setFont(own, kind);
+    }
+};
+
 }  // namespace
 
 double contrast(const QColor& one, const QColor& other) {
@@ -386,6 +409,7 @@ void applyTheme(QApplication& application) {
     QApplication::setStyle(new FlatStyle(colours));
     QApplication::setPalette(colours);
     QApplication::setFont(lettersFor(QApplication::font()));
+    new OwnLetters(application);
     application.setStyleSheet(sheetFor(colours));
     QApplication::setWindowIcon(pictureIcon(QStringLiteral("logo")));
 }

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QSet>
 #include <QStyleOptionButton>
 #include <QtTest>
@@ -315,6 +316,14 @@ TEST(Contrast, IsTheRatioThatWcagGives) {
     EXPECT_NEAR(contrast(QColor(0x76, 0x76, 0x76), Qt::white), 4.54, 0.005);
     EXPECT_NEAR(contrast(Qt::yellow, Qt::blue), 8.00, 0.005);
     EXPECT_EQ(contrast(Qt::red, Qt::red), 1);
+}
+
+TEST(Letters, AreTheProgramsOwnWhereADesktopBringsOthersForLists) {
+    QListView list;
+    QApplication::setFont(QFont(QStringLiteral("Courier New"), 20), "QAbstractItemView");
+    ASSERT_NE(QApplication::font(&list), QApplication::font());
+    list.show();
+    EXPECT_EQ(QApplication::font(&list), QApplication::font());
 }
 
 TEST_P(UsualDesktop, ShowsTheEdgesOfControls) { expectEdges(outstanding); }
