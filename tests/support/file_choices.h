@@ -55,10 +55,8 @@ protected:
                                     .home = all / "home",
                                     .ownNames = {"own.tmp"},
                                     .ownFolder = all / "here/Copies"};
-        std::string words = inWords(choiceOf(place, replaced(typed, "$", all.path())));
-        words = replaced(words, all.path(), "$");
-        std::ranges::replace(words, pathSeparator, '/');
-        return words;
+        const std::string words = inWords(choiceOf(place, replaced(typed, "$", all.path())));
+        return withSlashes(replaced(words, all.path(), "$"));
     }
 
     TemporaryFolder all;
