@@ -267,6 +267,15 @@ std::string comparableName(const std::string& name) {
     return std::string(withoutFolder(utf8From(known)));
 }
 
+std::string usableName(std::string_view name) {
+    const auto isUnusable = [](unsigned char sign) {
+        return sign < ' ' || std::string_view(R"(<>:"/\|?*)").find(sign) != std::string_view::npos;
+    };
+    std::string usable(name);
+    std::ranges::replace_if(usable, isUnusable, '_');
+    return usable;
+}
+
 std::vector<std::string> namesIn(const std::string& folder) {
     std::vector<std::string> names;
     WIN32_FIND_DATAW entry;

@@ -8,7 +8,19 @@ namespace orvanta::test {
 namespace {
 
 /// With what only this system has in a name.
-class ChoiceOnWindows : public Choice {};
+class ChoiceOnWindows : public Choice {
+protected:
+    ChoiceOnWindows() {
+        all.write("here/mine.bsm", "x");
+        give("here/mine.bsm", FILE_ATTRIBUTE_READONLY);
+    }
+    ~ChoiceOnWindows() override { give("here/mine.bsm", FILE_ATTRIBUTE_NORMAL); }
+
+private:
+    void give(const std::string& name, DWORD attributes) const {
+        SetFileAttributesW(native::wideFrom(all / name).c_str(), attributes);
+    }
+};
 
 TEST_P(ChoiceOnWindows, IsWhatThePersonMeant) {
     EXPECT_EQ(choice(GetParam().mode, GetParam().typed), GetParam().choice);
@@ -33,6 +45,8 @@ INSTANTIATE_TEST_SUITE_P(OfAFolder, ChoiceOnWindows,
 INSTANTIATE_TEST_SUITE_P(
     OfAFileToSaveTo, ChoiceOnWindows,
     testing::Values(Typed{"OverAFileInOtherLettersTakesIt", save, "TEAM2", "take $/here/TEAM2.bsm"},
+                    Typed{"OverAReadOnlyFileIsRefused", save, "mine",
+                          "You may not change this file: $/here/mine.bsm"},
                     Typed{"UnderANameOfTheProgramsOwnInOtherLettersIsRefused", save,
                           R"(Team\OWN.tmp)", ownFile + "$/here/Team/OWN.tmp"},
                     Typed{"UnderANameOfTheProgramsOwnWithAPointBehindItIsRefused", save, "own.tmp.",
