@@ -204,6 +204,11 @@ TEST_F(InstalledWordProcessor, ThatLacksAMemberIsSparedThatMemberAlone) {
     EXPECT_EQ(operationsOf(bench, L"lack HeadingFormat"), expected);
 }
 
+TEST_F(InstalledWordProcessor, ThatIsBusyIsAskedAgain) {
+    ReportBench bench(Analysis{});
+    EXPECT_EQ(operationsOf(bench, L"busy 10"), Expectation({}).operations);
+}
+
 TEST_F(InstalledWordProcessor, ThatBreaksDownKeepsTheProgramFromNothing) {
     ReportBench bench(Analysis{});
     EXPECT_EQ(operationsOf(bench, L"end 90"), Texts{});

@@ -11,11 +11,11 @@
 #include "view/windows_names.h"
 
 // A word processor in a process of its own that does nothing but keep what is done to it:
-//   orvanta_automation_server OPERATIONS [fail N] [end N] [lack MEMBER]
+//   orvanta_automation_server OPERATIONS [fail N] [end N] [lack MEMBER] [busy N]
 // The system starts it for whom asks for an instance. OPERATIONS, a file, gets the operations, a
 // line each; nobody else can open it until the process has ended. "fail": the use of that number
 // fails, the making of the instance being the first; "end": the process ends there; "lack": no
-// object has that member.
+// object has that member; "busy": so many calls are taken at the second attempt only.
 
 namespace orvanta::test {
 namespace {
@@ -34,6 +34,7 @@ Request requestFrom(const std::vector<std::wstring>& words) {
     for (std::size_t i = 2; i + 1 < words.size(); ++i) {
         if (words[i] == L"fail") request.failingUse = std::stoi(words[i + 1]);
         if (words[i] == L"end") request.flaws.lastUse = std::stoi(words[i + 1]);
+        if (words[i] == L"busy") request.flaws.busyCalls = std::stoi(words[i + 1]);
         if (words[i] == L"lack") request.flaws.lackedMember = native::utf8From(words[i + 1]);
     }
     return request;

@@ -46,12 +46,14 @@ public:
     }
     STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
+        if (m_service.isBusy()) return RPC_E_CALL_REJECTED;
         if (count != 1) return DISP_E_UNKNOWNNAME;
         *ids = m_service.numberOf(native::utf8From(*names));
         return *ids == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : S_OK;
     }
     STDMETHODIMP Invoke(DISPID member, REFIID, LCID, WORD how, DISPPARAMS* parameters,
                         VARIANT* result, EXCEPINFO* exception, UINT*) override {
+        if (m_service.isBusy()) return RPC_E_SERVERCALL_RETRYLATER;
         try {
             m_service.use();
             invoke(m_service.memberOf(member), how, *parameters, result);
@@ -142,6 +144,11 @@ const std::string& Service::memberOf(DISPID number) const {
     const auto index = static_cast<std::size_t>(number) - 1;
     if (index >= m_members.size()) throw Refused{DISP_E_MEMBERNOTFOUND};
     return m_members[index];
+}
+
+bool Service::isBusy() {
+    const bool isFirstAttempt = ++m_calls % 2 == 1;
+    return isFirstAttempt && m_calls < 2 * m_flaws.busyCalls;
 }
 
 void Service::use() {

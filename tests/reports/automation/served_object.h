@@ -13,7 +13,8 @@ namespace orvanta::test {
 /// How a served word processor differs from one in order.
 struct Flaws {
     std::string lackedMember{};
-    int lastUse = 0;  // from 1; the process ends there
+    int lastUse = 0;    // from 1; the process ends there
+    int busyCalls = 0;  // how many calls it takes only at the second attempt, beginning now
 };
 
 /// What all objects of a served word processor share.
@@ -25,6 +26,8 @@ public:
     DISPID numberOf(const std::string& member);
     const std::string& memberOf(DISPID number) const;
 
+    /// Whether the present call is to be made again.
+    bool isBusy();
     void use();
     void objectMade() { ++m_objects; }
     /// The thread's messages end with the last object.
@@ -33,7 +36,7 @@ public:
 private:
     Flaws m_flaws;
     std::vector<std::string> m_members;
-    int m_uses = 0, m_objects = 0;
+    int m_calls = 0, m_uses = 0, m_objects = 0;
 };
 
 /// The automation object by which another process reaches this one, with one reference. Each get,
