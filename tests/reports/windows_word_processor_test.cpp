@@ -10,7 +10,6 @@
 #include <optional>
 #include <thread>
 
-#include "automation/served_class.h"
 #include "recorder.h"
 #include "report_bench.h"
 #include "reports/document_writer.h"
@@ -18,6 +17,7 @@
 #include "temporary_folder.h"
 #include "view/path_text.h"
 #include "view/windows_names.h"
+#include "windows_automation/served_class.h"
 
 namespace orvanta::test {
 namespace {
