@@ -5,8 +5,7 @@ set(mingw x86_64-w64-mingw32)
 set(CMAKE_C_COMPILER ${mingw}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${mingw}-g++-posix)
 set(CMAKE_RC_COMPILER ${mingw}-windres)
-cmake_path(SET wine_folder NORMALIZE ${CMAKE_CURRENT_LIST_DIR}/../build/wine)
-set(CMAKE_CROSSCOMPILING_EMULATOR env WINEPREFIX=${wine_folder} WINEDEBUG=-all wine)
+set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/under_wine.sh)
 
 # Two libraries are headers alone, so this system's serve Windows as well. They are seen through
 # links, as the folder in which they lie holds this system's own headers too. All builds share them:

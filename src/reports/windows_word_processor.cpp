@@ -2,6 +2,9 @@
 
 #include <windows.h>
 
+#include <memory>
+#include <utility>
+
 #include "view/failure.h"
 #include "view/path_text.h"
 #include "view/windows_names.h"
@@ -48,11 +51,41 @@ private:
     VARIANT m_value;
 };
 
+/// A word processor that is busy, as one that has just started, takes no calls for a while. One
+/// that shows a dialog which nobody sees takes none at all: its calls wait ten seconds together.
+class Patience {
+public:
+    /// What the call gives once it is taken.
+    template <class Call>
+    HRESULT wait(Call call) {
+        HRESULT result = call();
+        for (; isBusy(result) && m_pausesLeft > 0; --m_pausesLeft) {
+            pause();
+            result = call();
+        }
+        return result;
+    }
+
+private:
+    static bool isBusy(HRESULT result) {
+        return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER;
+    }
+    /// A tenth of a second, in which what other processes send to this thread gets its answer.
+    static void pause() {
+        HANDLE endOfThread = GetCurrentThread();
+        DWORD which = 0;
+        CoWaitForMultipleHandles(0, 100, 1, &endOfThread, &which);
+    }
+
+    int m_pausesLeft = 100;
+};
+
 /// An object of the other process. It fails with InvalidCall whatever is wrong there.
 class AutomationObject : public WordObject {
 public:
-    /// Takes over one reference.
-    explicit AutomationObject(IDispatch* object) : m_object(object) {}
+    /// Takes over one reference. All objects of an instance have the same patience.
+    AutomationObject(IDispatch* object, std::shared_ptr<Patience> patience)
+        : m_object(object), m_patience(std::move(patience)) {}
     ~AutomationObject() override { m_object->Release(); }
     AutomationObject(const AutomationObject&) = delete;
     AutomationObject& operator=(const AutomationObject&) = delete;
@@ -64,7 +97,7 @@ public:
             throw Failure(ErrorNumber::InvalidCall);
         IDispatch* object = result.raw().pdispVal;
         object->AddRef();
-        return std::make_shared<AutomationObject>(object);
+        return std::make_shared<AutomationObject>(object, m_patience);
     }
     void put(std::string_view member, const WordValue& value) override {
         invoke(member, {value}, DISPATCH_PROPERTYPUT, nullptr);
@@ -84,7 +117,9 @@ private:
         std::wstring name = wide(member);
         LPOLESTR names = name.data();
         DISPID number = DISPID_UNKNOWN;
-        require(m_object->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &number));
+        require(m_patience->wait([&] {
+            return m_object->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &number);
+        }));
         return number;
     }
 
@@ -102,11 +137,15 @@ private:
             parameters.rgdispidNamedArgs = &valueOfProperty;
             parameters.cNamedArgs = 1;
         }
-        require(m_object->Invoke(numberOf(member), IID_NULL, LOCALE_USER_DEFAULT, how, &parameters,
-                                 result, nullptr, nullptr));
+        const DISPID number = numberOf(member);
+        require(m_patience->wait([&] {
+            return m_object->Invoke(number, IID_NULL, LOCALE_USER_DEFAULT, how, &parameters, result,
+                                    nullptr, nullptr);
+        }));
     }
 
     IDispatch* m_object;
+    std::shared_ptr<Patience> m_patience;
 };
 
 void Variant::hold(const WordObjectPtr& value) {
@@ -140,7 +179,7 @@ WindowsWordProcessors::~WindowsWordProcessors() {
 
 WordObjectPtr WindowsWordProcessors::createApplication() {
     if (IDispatch* application = newApplication())
-        return std::make_shared<AutomationObject>(application);
+        return std::make_shared<AutomationObject>(application, std::make_shared<Patience>());
     return m_otherwise.createApplication();
 }
 

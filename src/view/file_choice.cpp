@@ -40,7 +40,7 @@ std::string tidied(const std::filesystem::path& path) {
 bool namesAFolder(const std::string& typed) { return !pathFrom(typed).has_filename(); }
 
 std::string wholePath(const FileDialogPlace& place, const std::string& typed) {
-    const bool fromHome = typed == "~" || typed.starts_with("~/");
+    const bool fromHome = typed.substr(0, typed.find_first_of(native::pathSeparators)) == "~";
     return tidied(fromHome ? pathFrom(place.home + typed.substr(1))
                            : pathFrom(place.folder) / pathFrom(typed));
 }
@@ -105,9 +105,9 @@ FileChoice toSave(const std::string& path) {
 }
 
 bool isOwnName(const FileDialogPlace& place, const std::string& path) {
-    const std::string_view name = native::withoutFolder(path);
+    const std::string name = native::comparableName(path);
     return name.starts_with(native::passingPrefix) ||
-           std::ranges::find(place.ownNames, name) != place.ownNames.end();
+           std::ranges::find(place.ownNames, name, native::comparableName) != place.ownNames.end();
 }
 
 bool isInOwnFolder(const FileDialogPlace& place, const std::string& path) {

@@ -64,6 +64,10 @@ inline std::string folderOf(const std::string& name) {
 inline std::string_view withoutFolder(std::string_view name) {
     return name.substr(name.find_last_of(pathSeparators) + 1);
 }
+/// Without its folder, and the same for all names that the system takes for one file of a folder.
+std::string comparableName(const std::string& name);
+/// With "_" for what no name on this system may hold.
+std::string usableName(std::string_view name);
 /// The names in a folder, without their folder; none where it can't be looked into.
 std::vector<std::string> namesIn(const std::string& folder);
 /// True if the file has a second name.

@@ -190,6 +190,10 @@ std::string targetOf(std::string name) {
     throw Failure(ErrorNumber::PathFileAccess);
 }
 
+std::string comparableName(const std::string& name) { return std::string(withoutFolder(name)); }
+
+std::string usableName(std::string_view name) { return std::string(name); }
+
 std::vector<std::string> namesIn(const std::string& folder) {
     std::vector<std::string> names;
     std::error_code failed;

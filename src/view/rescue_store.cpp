@@ -55,7 +55,7 @@ std::string RescueStore::keep(std::string_view name, std::string_view bytes) con
     native::removeLeftovers(m_folder);
     native::NewFile copy(m_folder);
     copy.write(bytes);
-    std::string path = freePath(m_folder, native::withoutFolder(name));
+    std::string path = freePath(m_folder, native::usableName(native::withoutFolder(name)));
     copy.takePlace(path);
     dropOldCopies(path);
     return path;

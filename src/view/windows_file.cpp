@@ -131,6 +131,21 @@ DWORD attributesBehind(const std::wstring& path) {
     return info.dwFileAttributes;
 }
 
+/// A colon other than the drive's stands before a part of a file that nobody sees.
+bool namesHiddenPart(std::wstring_view longName) {
+    constexpr std::wstring_view drive = LR"(\\?\C:)";
+    return longName.find(L':', drive.size()) != longName.npos;
+}
+
+/// What the folder calls it, which may have been named by its short name.
+std::wstring nameInFolder(const std::wstring& path) {
+    WIN32_FIND_DATAW entry;
+    const HANDLE search = FindFirstFileW(path.c_str(), &entry);
+    if (search == INVALID_HANDLE_VALUE) return path;
+    FindClose(search);
+    return entry.cFileName;
+}
+
 FileKind kindFrom(DWORD attributes, const std::string& name) {
     if (attributes == INVALID_FILE_ATTRIBUTES) {
         const DWORD error = GetLastError();
@@ -228,6 +243,7 @@ PathKind pathKindOf(const std::string& name) {
 FileKind kindOf(const std::string& name, Links links) {
     const std::wstring path = longName(name);
     if (isDevice(path)) return FileKind::Other;
+    if (namesHiddenPart(path)) throw Failure(ErrorNumber::PathFileAccess);
     if (!isLink(path)) return kindFrom(GetFileAttributesW(path.c_str()), name);
     return links == Links::Keep ? FileKind::Link : kindFrom(attributesBehind(path), name);
 }
@@ -242,6 +258,22 @@ std::string targetOf(std::string name) {
     const DWORD size = static_cast<DWORD>(target.size());
     target.resize(GetFinalPathNameByHandleW(handle.get(), target.data(), size, 0));
     return usualName(target);
+}
+
+// The system leaves off points and blanks at the end of a name and takes all letter cases for one.
+std::string comparableName(const std::string& name) {
+    std::wstring known = nameInFolder(longName(name));
+    CharLowerBuffW(known.data(), static_cast<DWORD>(known.size()));
+    return std::string(withoutFolder(utf8From(known)));
+}
+
+std::string usableName(std::string_view name) {
+    const auto isUnusable = [](unsigned char sign) {
+        return sign < ' ' || std::string_view(R"(<>:"/\|?*)").find(sign) != std::string_view::npos;
+    };
+    std::string usable(name);
+    std::ranges::replace_if(usable, isUnusable, '_');
+    return usable;
 }
 
 std::vector<std::string> namesIn(const std::string& folder) {

@@ -72,7 +72,7 @@ TEST_F(SourceFiles, IgnoreAChosenFileThatIsNotThere) {
         EXPECT_NE(event["event"], "setting");
     }
     EXPECT_EQ(listed(), Texts{});
-    EXPECT_EQ(bench.form().lastPathBSM, "docs/My SWOT");
+    EXPECT_EQ(bench.form().lastPathBSM, systemPath("docs/My SWOT"));
 }
 
 TEST_F(SourceFiles, RefuseTheSamePathTwiceButRememberIt) {

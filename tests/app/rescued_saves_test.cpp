@@ -31,8 +31,8 @@ TEST_F(FailedSave, LeavesACopyOfTheSession) {
 TEST_F(FailedSave, SaysThatTheFileWasNotWrittenAndWhereTheCopyLies) {
     saves.sessionNotWritten("/media/stick/team.bsm", "a session");
     EXPECT_EQ(saves.line(), "team.bsm was not written. A copy is in " + copies);
-    EXPECT_EQ(saves.details(), "/media/stick/team.bsm was not written. A copy is in " + copies +
-                                   "/2026-11-21 12-00-00.000 team.bsm");
+    EXPECT_EQ(saves.details(), "/media/stick/team.bsm was not written. A copy is in " +
+                                   systemPath(copies + "/2026-11-21 12-00-00.000 team.bsm"));
     EXPECT_EQ(changes, 1);
 }
 

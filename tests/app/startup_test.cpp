@@ -52,7 +52,7 @@ TEST(WorkingFolders, ThatCannotBeMadeKeepTheProgramFromNothing) {
     bench.disk.unwritable.insert({"docs/My SWOT", ErrorNumber::DiskFull});
     EXPECT_EQ(eventsOfStart(bench), Json::array({splashShown}));
     EXPECT_TRUE(bench.form().shown);
-    EXPECT_EQ(bench.program().workFolder, "docs/My SWOT");
+    EXPECT_EQ(bench.program().workFolder, systemPath("docs/My SWOT"));
 }
 
 TEST(WorkingFolders, StandAtTheRootWithoutADocumentsFolder) {
@@ -60,7 +60,7 @@ TEST(WorkingFolders, StandAtTheRootWithoutADocumentsFolder) {
     const auto stage = driver::makeModelStage();
     driver::Driver driver(*stage, disk, {"app", "", ""});
     driver.answer(R"({"do":"start"})");
-    EXPECT_EQ(driver.program().workFolder, "/My SWOT");
+    EXPECT_EQ(driver.program().workFolder, systemPath("/My SWOT"));
 }
 
 TEST(ProgramStart, ShowsTheSplashBeforeItReadsTheHeadings) {
@@ -89,7 +89,7 @@ TEST(ProgramStart, KnowsItsWorkFolderOnlyOnceTheWindowHasLoaded) {
     bench.form().captionChanged.subscribe([&] { whileLoading = bench.program().workFolder; });
     bench.start();
     EXPECT_EQ(whileLoading, "");
-    EXPECT_EQ(bench.program().workFolder, "docs/My SWOT");
+    EXPECT_EQ(bench.program().workFolder, systemPath("docs/My SWOT"));
 }
 
 TEST(ProgramStart, IsOnTheHomeScreen) {
@@ -104,8 +104,8 @@ TEST(ProgramStart, IsOnTheHomeScreen) {
 TEST(FirstStart, OffersTheWorkFolderInBothFileDialogs) {
     Bench bench;
     bench.start();
-    EXPECT_EQ(bench.form().lastPathBSM, "docs/My SWOT");
-    EXPECT_EQ(bench.form().lastPathAZE, "docs/My SWOT");
+    EXPECT_EQ(bench.form().lastPathBSM, systemPath("docs/My SWOT"));
+    EXPECT_EQ(bench.form().lastPathAZE, systemPath("docs/My SWOT"));
 }
 
 TEST(LaterStart, OffersTheStoredPaths) {
@@ -121,7 +121,7 @@ TEST(LaterStart, OffersTheWorkFolderWhereNothingIsStored) {
     Bench bench;
     store(bench, "LastSavedPathAZE", "docs/team.aze");
     bench.restart();
-    EXPECT_EQ(bench.form().lastPathBSM, "docs/My SWOT");
+    EXPECT_EQ(bench.form().lastPathBSM, systemPath("docs/My SWOT"));
     EXPECT_EQ(bench.form().lastPathAZE, "docs/team.aze");
 }
 

@@ -33,7 +33,7 @@ TEST(RememberedPath, IsTheWorkFolderWhereNoneWasStored) {
     bench.start();
     bench.form().lastPathBSM.clear();
     takeUpPath(bench.program(), brainstormPath);
-    EXPECT_EQ(bench.form().lastPathBSM, "docs/My SWOT");
+    EXPECT_EQ(bench.form().lastPathBSM, systemPath("docs/My SWOT"));
 }
 
 }  // namespace

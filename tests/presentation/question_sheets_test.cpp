@@ -76,7 +76,7 @@ TEST(QuestionSheets, AreEmptyWhereTheBankHasGoneAndTellItsFile) {
     bench.disk.files.erase("app/mpquestions.txt");
     const QuestionSheets sheets = questionSheetsOf(bench.program(), modules[ModuleId::MP]);
     EXPECT_TRUE(isEmpty(sheets));
-    EXPECT_EQ(sheets.bankPath, "app/mpquestions.txt");
+    EXPECT_EQ(sheets.bankPath, systemPath("app/mpquestions.txt"));
     EXPECT_FALSE(isEmpty(questionSheetsOf(bench.program(), modules[ModuleId::GBS])));
 }
 

@@ -66,7 +66,7 @@ TEST_F(BankFile, IsTheOneOfItsCode) {
     bench.disk.files["app/sbdquestions.txt"] = bankOf(5);
     EXPECT_TRUE(loadModuleQuestions(bench.program(), "sbd"));
     EXPECT_EQ(banks.strengthCount, 5);
-    EXPECT_EQ(bankPath(bench.program().appPath, "sbd"), "app/sbdquestions.txt");
+    EXPECT_EQ(bankPath(bench.program().appPath, "sbd"), systemPath("app/sbdquestions.txt"));
 }
 
 TEST_F(BankFile, MayHoldItsSectionsInAnyOrder) {

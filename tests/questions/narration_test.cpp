@@ -11,7 +11,8 @@ Json mute(bool on) { return {{"do", "mute"}, {"on", on}}; }
 
 TEST(Clip, LiesInTheSoundsFolderUnderItsName) {
     Bench bench;
-    EXPECT_EQ(narrationPath(bench.program(), "analyze_OM"), "app/Sounds/analyze_OM.swf");
+    EXPECT_EQ(narrationPath(bench.program(), "analyze_OM"),
+              systemPath("app/Sounds/analyze_OM.swf"));
 }
 
 TEST(Clip, OfTheTenthThreatHasNoLeadingZero) {

@@ -38,6 +38,20 @@ Texts nonEmpty(const JournalRecords& records) {
     return result;
 }
 
+/// The same with slashes in the paths of the program's own folders.
+Json withSlashesInPaths(const Json& value) {
+    if (value.is_string()) {
+        const auto text = value.get<std::string>();
+        const bool isPath =
+            text.starts_with(systemPath("app/")) || text.starts_with(systemPath("docs/"));
+        return isPath ? withSlashes(text) : text;
+    }
+    Json result = value;
+    if (value.is_structured())
+        for (Json& inner : result) inner = withSlashesInPaths(inner);
+    return result;
+}
+
 }  // namespace
 
 Bench::Bench() : m_settingsFile(newSettingsFile()) {
@@ -71,7 +85,7 @@ void Bench::restart() {
     start();
 }
 
-Json Bench::answerTo(const Json& line) { return m_driver->answer(line.dump()); }
+Json Bench::answerTo(const Json& line) { return withSlashesInPaths(m_driver->answer(line.dump())); }
 
 void Bench::play(const Json& line) {
     const Json answer = answerTo(line);

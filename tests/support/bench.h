@@ -47,7 +47,7 @@ public:
 
     /// Plays one line; the test fails if it is refused. Its events are added to events().
     void play(const Json& line);
-    /// What the driver answers to a line, an error included.
+    /// What the driver answers to a line, an error included; with slashes in its paths.
     Json answerTo(const Json& line);
 
     /// Everything that happened since the last call, in order.

@@ -53,15 +53,14 @@ protected:
                                     .filter = "All Brainstorming Files (*.bsm)|*.bsm",
                                     .folder = all / "here",
                                     .home = all / "home",
-                                    .ownNames = {"own.tmp"},
+                                    .ownNames = {ownName},
                                     .ownFolder = all / "here/Copies"};
-        std::string words = inWords(choiceOf(place, replaced(typed, "$", all.path())));
-        words = replaced(words, all.path(), "$");
-        std::ranges::replace(words, pathSeparator, '/');
-        return words;
+        const std::string words = inWords(choiceOf(place, replaced(typed, "$", all.path())));
+        return withSlashes(replaced(words, all.path(), "$"));
     }
 
     TemporaryFolder all;
+    std::string ownName = "own.tmp";
 };
 
 constexpr auto save = FileDialogMode::Save, open = FileDialogMode::Open;

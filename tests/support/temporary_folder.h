@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "view/platform.h"
+#include "system_path.h"
 
 namespace orvanta::test {
 
@@ -21,12 +21,6 @@ inline std::filesystem::path memoryFolder() {
     const std::filesystem::path memory = "/dev/shm";
     return ::access(memory.string().c_str(), W_OK) == 0 ? memory
                                                         : std::filesystem::temp_directory_path();
-}
-
-/// A path as the system writes it, from one with slashes.
-inline std::string systemPath(std::string path) {
-    std::ranges::replace(path, '/', pathSeparator);
-    return path;
 }
 
 inline std::filesystem::path pathFromUtf8(const std::string& path) {
