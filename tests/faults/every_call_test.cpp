@@ -122,7 +122,7 @@ private:
     std::string writeWith(int call, int fault) {
         m_program.disk.written.reset();
         orvanta_faults_begin(call, fault);
-        const std::string wrong = m_program.play(m_writer.write);
+        std::string wrong = m_program.play(m_writer.write);
         orvanta_faults_end();
         if (!wrong.empty()) return wrong;
         // A fault in the reading of another file leads to other bytes than usual.
@@ -169,7 +169,7 @@ private:
         Texts found;
         for (const std::string& place : {m_writer.folder, std::string("rescue")})
             for (const std::string& name : namesIn(place))
-                if (name.starts_with(".orvanta-")) found.push_back(place + "/" + name);
+                if (name.starts_with(".orvanta-")) found.emplace_back(place).append("/" + name);
         return found;
     }
     void age(const std::string& name) const {

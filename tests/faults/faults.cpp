@@ -81,7 +81,7 @@ ssize_t faultyWrite(const char* name, size_t size, Call call) {
 
 // The function behind this one.
 #define ORVANTA_NEXT(name) \
-    static const auto next = reinterpret_cast<decltype(&name)>(::dlsym(RTLD_NEXT, #name))
+    static const auto next = reinterpret_cast<decltype(&(name))>(::dlsym(RTLD_NEXT, #name))
 
 #define ORVANTA_CALL(result, name, parameters, arguments)     \
     result name parameters {                                  \

@@ -85,7 +85,8 @@ void PlayedProgram::noteWhatIsOpened(const Json& line) {
     const Json path = line.value("path", Json());
     if (m_pressed != "OAFile" || !path.is_string()) return;
     if (m_disk.kindOf(path) != PathKind::File) return;
-    if (m_disk.read(path).find("<OPPORTUNITYMAPPING>") == std::string::npos) m_hasOpenedNoAnalysis = true;
+    if (m_disk.read(path).find("<OPPORTUNITYMAPPING>") == std::string::npos)
+        m_hasOpenedNoAnalysis = true;
 }
 
 std::vector<std::string> PlayedProgram::copies() {

@@ -44,7 +44,7 @@ MessageAnswer PlayedStage::answer(const Message& message, MessageAnswer) {
 
 std::optional<std::string> PlayedStage::answer(const FileDialogRequest& request,
                                                const std::optional<std::string>&) {
-    const auto path = whileActing([&] { return desktop::DesktopFileDialogs().choose(request); });
+    auto path = whileActing([&] { return desktop::DesktopFileDialogs().choose(request); });
     tellAnswer({{"answer", "fileDialog"}, {"path", path ? driver::text(*path) : Json(nullptr)}});
     return path;
 }

@@ -17,7 +17,7 @@ std::string answersOf(const std::string& name, int count) {
     const auto said = [&](const std::string& what) {
         Texts texts;
         for (int i = 1; i <= count; ++i)
-            texts.push_back(what + " " + std::to_string(i) + " of " + name);
+            texts.emplace_back(what).append(" ").append(std::to_string(i)).append(" of " + name);
         return texts;
     };
     return test::brainstormFile(name, "GBS", said("Brand"), said("Price"), said("Export"),
@@ -58,7 +58,7 @@ std::string Sandbox::differingFile() const {
         if (!entry.is_regular_file() || entry.path().filename() == "settings") continue;
         const std::string path = windows1252From(entry.path().string());
         const auto played = disk.files.find(path);
-        const std::string name = entry.path().lexically_relative(m_folder.path()).string();
+        std::string name = entry.path().lexically_relative(m_folder.path()).string();
         if (played == disk.files.end() || played->second != m_folder.read(name)) return name;
         real.push_back(path);
     }
