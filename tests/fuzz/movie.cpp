@@ -39,7 +39,7 @@ void tryInput(std::string_view bytes) {
     const sound::Samples samples = sound::samplesOfMovie(file);
     require(samples.size() % sound::playedChannels == 0, "samples come in pairs");
     require(samples.size() <=
-                sound::maximumSeconds * std::size_t{sound::playedRate * sound::playedChannels},
+                sound::maximumSeconds * std::size_t{sound::playedRate} * sound::playedChannels,
             "nothing plays for more than a minute");
     require(sound::samplesOfMovie(file) == samples, "a movie sounds the same each time");
 }

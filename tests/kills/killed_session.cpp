@@ -210,7 +210,7 @@ std::string KilledSession::findLoss() {
     for (const auto& [copy, statements] : m_before.copied)
         for (const auto& [path, bytes] : m_after.files)
             if (!found.contains(copy) && (!found.contains(path) || found.at(path) != bytes))
-                return copy + " went before " + path + " was written";
+                return std::string(copy).append(" went before ").append(path + " was written");
     return startAnew(found);
 }
 
@@ -221,7 +221,8 @@ std::string KilledSession::fileThatIsNeither(const Files& found) const {
     };
     for (const auto& [path, bytes] : found)
         if (!isIn(m_before.files, path, bytes) && !isIn(m_after.files, path, bytes))
-            return path + " is neither the former file nor the new one:\n" + bytes;
+            return std::string(path).append(" is neither the former file nor the new one:\n" +
+                                            bytes);
     for (const auto& [path, bytes] : m_before.files)
         if (m_after.files.contains(path) && !found.contains(path)) return path + " is gone";
     return {};
