@@ -9,7 +9,7 @@ namespace orvanta {
 struct Twips {
     double value = 0;
 
-    friend auto operator<=>(const Twips&, const Twips&) = default;
+    friend auto operator<=>(const Twips&, const Twips&) = default;  // NOLINT(modernize-use-nullptr)
     friend constexpr Twips operator+(Twips a, Twips b) { return {a.value + b.value}; }
     friend constexpr Twips operator-(Twips a, Twips b) { return {a.value - b.value}; }
     friend constexpr Twips operator*(Twips a, double factor) { return {a.value * factor}; }

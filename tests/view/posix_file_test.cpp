@@ -9,8 +9,6 @@
 namespace orvanta::test {
 namespace {
 
-namespace fs = std::filesystem;
-
 class RightsOfAReplacedFile : public PosixDisk {
 protected:
     RightsOfAReplacedFile() { folder.write("file", "former"); }
