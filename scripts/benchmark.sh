@@ -23,7 +23,8 @@ if is_there xvfb-run pkg-config && pkg-config --exists Qt6Widgets; then
     targets+=(orvanta orvanta_window_benchmark orvanta_start_benchmark orvanta_empty_window)
 fi
 {
-    cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DORVANTA_DESKTOP=$desktop
+    cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DORVANTA_DESKTOP=$desktop \
+        -DORVANTA_TESTS=ON
     cmake --build "$build" --target "${targets[@]}"
 } >&2
 
