@@ -103,17 +103,12 @@ void FileChooser::accept() {
 bool FileChooser::follow(const QString& name) {
     if (name.isEmpty()) return false;
     m_paths.clear();
-    const auto names = namesIn(name);
-    return names.size() == 1 ? take(choiceOf(m_place, names.front())) : followSeveral(names);
+    return takeAll(m_place, namesIn(name),
+                   [this](const FileChoice& choice) { return take(choice); });
 }
 
 std::vector<std::string> FileChooser::namesIn(const QString& text) const {
     return m_severalFiles ? orvanta::namesIn(text.toStdString()) : std::vector{text.toStdString()};
-}
-
-bool FileChooser::followSeveral(const std::vector<std::string>& names) {
-    return std::ranges::all_of(
-        names, [this](const std::string& name) { return take(fileChoiceOf(m_place, name)); });
 }
 
 bool FileChooser::take(const FileChoice& choice) {

@@ -40,7 +40,6 @@ private:
     bool follow(const QString& name);
     /// One, or several where several may be chosen.
     std::vector<std::string> namesIn(const QString& text) const;
-    bool followSeveral(const std::vector<std::string>& names);
     bool take(const FileChoice& choice);
     void enter(const QString& folder);
     void refuse(const FileChoice& choice);

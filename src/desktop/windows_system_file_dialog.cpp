@@ -70,9 +70,8 @@ std::vector<std::string> severalChosenIn(IFileOpenDialog& dialog) {
 }
 
 std::vector<std::string> chosenIn(IFileDialog& dialog) {
-    std::string typed = typedIn(dialog);
-    if (typed.starts_with("~\\")) typed[1] = '/';
-    if (typed == "~" || typed.starts_with("~/")) return {typed};  // a name to the system
+    const std::string typed = typedIn(dialog);
+    if (beginsAtHome(typed)) return {typed};  // a name to the system
     const auto several = heldFrom<IFileOpenDialog>(
         [&](auto** open) { return dialog.QueryInterface(IID_PPV_ARGS(open)); });
     if (several) return severalChosenIn(*several);
@@ -107,13 +106,10 @@ public:
     HRESULT STDMETHODCALLTYPE OnFileOk(IFileDialog* dialog) override {
         m_paths.clear();
         m_place.folder = shownFolder(*dialog);
-        const auto names = chosenIn(*dialog);
-        for (const std::string& name : names) {
-            const bool isAlone = names.size() == 1;
-            if (!take(*dialog, isAlone ? choiceOf(m_place, name) : fileChoiceOf(m_place, name)))
-                return S_FALSE;
-        }
-        return m_paths.isEmpty() ? S_FALSE : S_OK;
+        const bool takesAll = takeAll(m_place, chosenIn(*dialog), [&](const FileChoice& choice) {
+            return take(*dialog, choice);
+        });
+        return takesAll && !m_paths.isEmpty() ? S_OK : S_FALSE;
     }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {

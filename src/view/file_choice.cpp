@@ -40,9 +40,8 @@ std::string tidied(const std::filesystem::path& path) {
 bool namesAFolder(const std::string& typed) { return !pathFrom(typed).has_filename(); }
 
 std::string wholePath(const FileDialogPlace& place, const std::string& typed) {
-    const bool fromHome = typed.substr(0, typed.find_first_of(native::pathSeparators)) == "~";
-    return tidied(fromHome ? pathFrom(place.home + typed.substr(1))
-                           : pathFrom(place.folder) / pathFrom(typed));
+    return tidied(beginsAtHome(typed) ? pathFrom(place.home + typed.substr(1))
+                                      : pathFrom(place.folder) / pathFrom(typed));
 }
 
 FileChoice refusal(std::string_view reason, const std::string& path) {
@@ -160,6 +159,10 @@ std::size_t endOfName(const std::string& typed, std::size_t start) {
 }
 
 }  // namespace
+
+bool beginsAtHome(const std::string& typed) {
+    return typed.substr(0, typed.find_first_of(native::pathSeparators)) == "~";
+}
 
 FileChoice choiceOf(const FileDialogPlace& place, const std::string& typed) {
     const std::string path = wholePath(place, typed);

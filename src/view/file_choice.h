@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,6 +34,9 @@ struct FileChoice {
     std::string_view reason{};  // of a refusal: a sentence that ends in a colon, for the path
 };
 
+/// True for "~" and what begins with it and a separator: the person's own folder is meant.
+bool beginsAtHome(const std::string& typed);
+
 /// What becomes of a typed name, as things stand on the disk.
 ///
 /// A folder is entered, whatever leads to it: a name, a path, "..", "~" for the person's own
@@ -43,6 +47,15 @@ FileChoice choiceOf(const FileDialogPlace& place, const std::string& typed);
 
 /// The same for a name that can only be a file's: a folder is refused.
 FileChoice fileChoiceOf(const FileDialogPlace& place, const std::string& typed);
+
+/// Gives `take` what becomes of each name, one of a choice of several being a file's. Stops at the
+/// first that it does not take, with false.
+template <class Take>
+bool takeAll(const FileDialogPlace& place, const std::vector<std::string>& names, Take take) {
+    const auto& choiceOfEach = names.size() == 1 ? choiceOf : fileChoiceOf;
+    return std::ranges::all_of(
+        names, [&](const std::string& name) { return take(choiceOfEach(place, name)); });
+}
 
 /// The names in what was typed where several files can be chosen, as in: "ann.bsm" "bo.bsm". A
 /// text that does not begin and end with a quote is one name.
