@@ -33,6 +33,10 @@ Span keptInside(Span span, int designExtent, int extent) {
 
 }  // namespace
 
+void showIfUncovered(const Control& control, QWidget& widget) {
+    if (widget.isHidden() == control.isUncovered()) widget.setVisible(control.isUncovered());
+}
+
 ControlArea::ControlArea(const PixelGrid& pixelGrid, QWidget* parent)
     : QWidget(parent), m_pixelGrid(pixelGrid) {
     if (const auto* area = dynamic_cast<const ControlArea*>(parent)) m_reachOf = area->m_reachOf;
@@ -55,7 +59,7 @@ void ControlArea::hold(Control& control, QWidget& widget) {
 }
 
 void ControlArea::showUncovered() {
-    for (const auto& [control, widget] : m_held) widget->setVisible(control->isUncovered());
+    for (const auto& [control, widget] : m_held) showIfUncovered(*control, *widget);
 }
 
 void ControlArea::raiseUncovered() {

@@ -18,6 +18,10 @@ struct Reach {
     Twips growth = unlimited, width = unlimited;
 };
 
+/// What is told to be shown is styled at once, long before the window is seen: only a change is
+/// told.
+void showIfUncovered(const Control& control, QWidget& widget);
+
 /// Holds the widgets of a form or a panel, each at the place that its model tells. What the
 /// area has grown beyond its design size is shared out by the controls' stretch.
 class ControlArea : public QWidget {

@@ -77,8 +77,7 @@ void mirrorControl(Control& model, QWidget& widget, ControlArea& area) {
     area.hold(model, widget);
     auto* toolTip = new ToolTipLines(model, widget);
     follow(model, [&model, &widget, toolTip] {
-        // What is told to be shown is styled at once, long before the window is seen.
-        if (widget.isHidden() == model.isUncovered()) widget.setVisible(model.isUncovered());
+        showIfUncovered(model, widget);
         widget.setEnabled(model.isEnabled());
         toolTip->follow();
         describe(model, widget);
