@@ -22,6 +22,11 @@ protected:
         return *bench.window().childAt(picture.mapTo(&bench.window(), picture.rect().center()));
     }
     Art art() { return bench.form().buttons[Button::Brainstorm].image.art(); }
+    Label& label() { return bench.form().buttons[Button::Brainstorm].label; }
+    bool isWideEnough() {
+        auto& caption = bench.widget<QLabel>("lblBtnBrainstorm");
+        return caption.width() >= caption.fontMetrics().size(0, caption.text()).width();
+    }
     bool hasActed() { return bench.form().fraBrainstorm.isVisible(); }
 
     WindowBench<> bench;
@@ -43,6 +48,19 @@ TEST_F(SkinnedButtonView, HasItsCaptionInTheMiddle) {
             if (painted.pixelColor(x, y).lightness() > 200) ink |= QRect(x, y, 1, 1);
     ASSERT_GT(painted.width(), ink.width() + 20);
     EXPECT_NEAR(ink.center().x(), painted.rect().center().x(), 2);
+}
+
+TEST_F(SkinnedButtonView, HasRoomForACaptionThatIsWiderThanItsPlace) {
+    label().setCaption("A caption that is wider than any button");
+    EXPECT_TRUE(isWideEnough());
+}
+
+TEST_F(SkinnedButtonView, HasRoomForACaptionThatItGotWhileItWasHidden) {
+    label().setVisible(false);
+    label().setCaption("A caption that is wider than any button");
+    ASSERT_FALSE(isWideEnough());
+    label().setVisible(true);
+    EXPECT_TRUE(isWideEnough());
 }
 
 TEST_F(SkinnedButtonView, IsPressedAndLetGoOnItsCaption) {
