@@ -9,7 +9,7 @@ namespace {
 
 void putCharacter(CharacterFormat& format, std::string_view member, const WordValue& value) {
     if (member == "Name")
-        format.font = valueOf<std::string>(value);
+        format.font = valueOf<WordText>(value);
     else if (member == "Size")
         format.size = valueOf<int>(value);
     else if (member == "Bold")
@@ -132,11 +132,11 @@ public:
     }
 
     void call(std::string_view member, const WordArguments& arguments) override {
-        if (member == "InsertBefore") return insertBefore(argument<std::string>(arguments, 0));
+        if (member == "InsertBefore") return insertBefore(argument<WordText>(arguments, 0));
         if (member == "InsertAfter" || member == "InsertParagraphAfter") {
             const bool isText = member == "InsertAfter";
             m_end = insertText(m_document->body, m_end,
-                               isText ? argument<std::string>(arguments, 0) : "\r\n");
+                               isText ? argument<WordText>(arguments, 0) : "\r\n");
         } else if (member == "Collapse") {
             if (argument<int>(arguments, 0) != 0) refuseMember();
             m_start = m_end;
@@ -188,9 +188,9 @@ public:
     void call(std::string_view member, const WordArguments& arguments) override {
         Story& story = onlyCell().story;
         if (member == "InsertAfter")
-            insertText(story, endOf(story), argument<std::string>(arguments, 0));
+            insertText(story, endOf(story), argument<WordText>(arguments, 0));
         else if (member == "InsertBefore")
-            insertText(story, {0, 0}, argument<std::string>(arguments, 0));
+            insertText(story, {0, 0}, argument<WordText>(arguments, 0));
         else
             refuseMember();
     }
@@ -201,7 +201,7 @@ public:
         DocumentParagraph paragraph = story.lastParagraph();
         paragraph.runs.clear();
         story.blocks.assign(1, paragraph);
-        insertText(story, {0, 0}, valueOf<std::string>(value));
+        insertText(story, {0, 0}, valueOf<WordText>(value));
     }
 
     TablePtr insertTable(int rows, int columns) override {

@@ -286,7 +286,7 @@ public:
 
     void call(std::string_view member, const WordArguments& arguments) override {
         if (member == "SaveAs")
-            m_session->disk.replace(argument<std::string>(arguments, 0),
+            m_session->disk.replace(argument<WordText>(arguments, 0),
                                     rtfBytes(withCareForPages(*m_document)));
         else if (member != "Close")
             refuseMember();
@@ -295,7 +295,7 @@ public:
 private:
     WordObjectPtr bookmarks() {
         return std::make_shared<Collection>([document = m_document](const WordValue& name) {
-            if (valueOf<std::string>(name) != "\\endofdoc")
+            if (valueOf<WordText>(name) != "\\endofdoc")
                 throw Failure(ErrorNumber::ElementNotFound);
             return std::make_shared<EndBookmark>(document);
         });

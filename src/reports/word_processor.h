@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -12,8 +13,16 @@ namespace orvanta {
 class WordObject;
 using WordObjectPtr = std::shared_ptr<WordObject>;
 
+/// A text among the values. Where every alternative of a variant is a plain value or a library's
+/// own string or pointer, GCC 12 takes a failed copy for a whole one and destroys it; a class of
+/// ours keeps that from happening when there is too little memory for a text.
+struct WordText : std::string {
+    WordText(std::string text) : std::string(std::move(text)) {}
+    WordText(const char* text) : std::string(text) {}
+};
+
 /// What an operation takes. Texts are Windows-1252; sizes are in points.
-using WordValue = std::variant<bool, int, double, std::string, WordObjectPtr>;
+using WordValue = std::variant<bool, int, double, WordText, WordObjectPtr>;
 using WordArguments = std::vector<WordValue>;
 
 /// An object of a word processor's object model, reached by the names of its members alone:

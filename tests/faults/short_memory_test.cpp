@@ -5,6 +5,7 @@
 #include "questions/bank_reader.h"
 #include "real_disk.h"
 #include "reports/report_source.h"
+#include "reports/word_processor.h"
 #include "sessionfiles/analyze_file.h"
 #include "sessionfiles/brainstorm_file.h"
 
@@ -250,6 +251,16 @@ struct Announced : StatementListObserver {
     void rowAboutToBeInserted(int) override { ++open; }
     void rowInserted(int) override { --open; }
 };
+
+TEST_F(ShortMemory, LeavesNothingOfAValueForTheWordProcessorThatItHasNoRoomFor) {
+    const WordArguments arguments{std::string(100, 't')};
+    alignas(WordValue) std::array<std::byte, sizeof(WordValue)> place;
+    for (const unsigned char former : {0x00, 0x01, 0x7F, 0xA5, 0xFF}) {
+        place.fill(std::byte{former});
+        const MemoryLimit memory(0);
+        EXPECT_THROW(new (place.data()) WordValue(arguments.front()), std::bad_alloc);
+    }
+}
 
 TEST_F(ShortMemory, LeavesAListWithoutTheRowThatItHasNoRoomFor) {
     PlayedProgram played(folder.path());

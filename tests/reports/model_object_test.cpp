@@ -30,7 +30,7 @@ TEST(ModelCollection, GivesItsItemsByOneNumberOrName) {
 TEST(ModelArgument, IsTakenInItsOwnKindAlone) {
     const WordArguments arguments{1, std::string("text")};
     EXPECT_EQ(documentmodel::argument<int>(arguments, 0), 1);
-    EXPECT_EQ(documentmodel::argument<std::string>(arguments, 1), "text");
+    EXPECT_EQ(documentmodel::argument<WordText>(arguments, 1), "text");
     EXPECT_EQ(failureOf([&] { documentmodel::argument<bool>(arguments, 0); }), invalidCall);
     EXPECT_EQ(failureOf([&] { documentmodel::argument<int>(arguments, 2); }), invalidCall);
 }

@@ -55,7 +55,7 @@ private:
     static std::string shown(const WordValue& value) {
         if (const auto* object = std::get_if<WordObjectPtr>(&value))
             return dynamic_cast<const RecordedObject&>(**object).m_name;
-        if (const auto* text = std::get_if<std::string>(&value))
+        if (const auto* text = std::get_if<WordText>(&value))
             return '"' + replaceAll(*text, "\r\n", "\\r\\n") + '"';
         if (const auto* truth = std::get_if<bool>(&value)) return *truth ? "true" : "false";
         return std::to_string(std::get<int>(value));
