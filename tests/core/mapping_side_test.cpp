@@ -8,8 +8,8 @@ namespace orvanta::test {
 namespace {
 
 TEST(MappingSides, TakeOpportunitiesAndThreatsAsParents) {
-    EXPECT_EQ(sideOfParents(StatementKind::Opportunity), MappingSide::Opportunities);
-    EXPECT_EQ(sideOfParents(StatementKind::Threat), MappingSide::Threats);
+    EXPECT_EQ(sideOfParents(StatementKind::Opportunity), orvanta::MappingSide::Opportunities);
+    EXPECT_EQ(sideOfParents(StatementKind::Threat), orvanta::MappingSide::Threats);
     EXPECT_EQ(sideOfParents(StatementKind::Strength), std::nullopt);
     EXPECT_EQ(sideOfParents(StatementKind::Weakness), std::nullopt);
 }

@@ -36,9 +36,6 @@ Texts namesOf(const std::vector<QWidget*>& widgets) {
 void expectReadingOrder(QWidget& window) {
     const std::vector<QWidget*> stops = stopsOf(window);
     for (std::size_t i = 1; i < stops.size(); ++i) {
-        const auto placeOf = [&](const QWidget& stop) {
-            return QRect(stop.mapTo(&window, QPoint()), stop.size());
-        };
         const QRect former = placeOf(*stops[i - 1]), place = placeOf(*stops[i]);
         EXPECT_TRUE(place.top() > former.bottom() || place.left() > former.right())
             << stops[i - 1]->objectName().toStdString() << " before "

@@ -215,10 +215,6 @@ void fill(Bench& bench, const Content& content) {
     }
 }
 
-QRect placeOf(const QWidget& widget) {
-    return {widget.mapTo(widget.window(), QPoint()), widget.size()};
-}
-
 /// That the last row can be scrolled to above the strip, which lies within the lists.
 void expectRowsClear(StatementListView& list, const std::string& step) {
     const auto* strip = list.parentWidget()->findChild<QLabel*>(QStringLiteral("readingStrip"));

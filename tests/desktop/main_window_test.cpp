@@ -21,7 +21,7 @@ bool isForPeople(const Control& control) {
     return !holdsArt && !control.is<Panel>();
 }
 
-QRect placeOf(const Control& control, double twipsPerPixel) {
+QRect placeOfControl(const Control& control, double twipsPerPixel) {
     const auto pixels = [twipsPerPixel](Twips from, Twips length = {}) {
         return qRound((from.value + length.value) / twipsPerPixel);
     };
@@ -68,7 +68,7 @@ TEST_P(MainWindowAt, PlacesEveryControlWhereItsModelIs) {
     EXPECT_EQ(bench.window().size(),
               QSize(qRound(form.width.value / GetParam()), qRound(form.height.value / GetParam())));
     for (const Control* control : form.controls.all())
-        EXPECT_EQ(bench.widget(control->name()).geometry(), placeOf(*control, GetParam()))
+        EXPECT_EQ(bench.widget(control->name()).geometry(), placeOfControl(*control, GetParam()))
             << control->name();
 }
 INSTANTIATE_TEST_SUITE_P(Screens, MainWindowAt, testing::Values(15.0, 12.0, 10.0));

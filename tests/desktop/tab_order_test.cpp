@@ -47,7 +47,7 @@ std::string nameOf(const QWidget& stop) {
     return stop.objectName().isEmpty() ? kind : stop.objectName().toStdString();
 }
 
-Texts namesOf(const std::vector<QWidget*>& stops) {
+Texts namesOfStops(const std::vector<QWidget*>& stops) {
     Texts names;
     for (const QWidget* stop : stops) names.push_back(nameOf(*stop));
     return names;
@@ -63,16 +63,13 @@ void expectReadingOrder(QWidget& window, const std::string& where) {
     QCoreApplication::processEvents();
     std::vector<QWidget*> stops = stopsBy(window, Qt::Key_Tab);
     EXPECT_GE(stops.size(), 1U) << where;
-    const auto placeOf = [&](const QWidget& stop) {
-        return QRect(stop.mapTo(&window, QPoint()), stop.size());
-    };
     const bool voiceFirst = !stops.empty() && stops.front()->objectName() == "chkMute";
     for (std::size_t i = voiceFirst ? 2 : 1; i < stops.size(); ++i)
         EXPECT_TRUE(comesAfter(placeOf(*stops[i]), placeOf(*stops[i - 1])))
             << where << ": " << nameOf(*stops[i - 1]) << " before " << nameOf(*stops[i]);
     std::vector<QWidget*> back = stopsBy(window, Qt::Key_Backtab);
     std::ranges::reverse(back);
-    EXPECT_EQ(namesOf(back), namesOf(stops)) << where;
+    EXPECT_EQ(namesOfStops(back), namesOfStops(stops)) << where;
 }
 
 /// In windows of several sizes.
@@ -136,7 +133,7 @@ TEST_P(TabOrder, ReachesTheNameBeforeTheModulesAndNextBehindQuit) {
     show(bench);
     bench.click("Brainstorm");
     QCoreApplication::processEvents();
-    const Texts stops = namesOf(stopsBy(bench.window(), Qt::Key_Tab));
+    const Texts stops = namesOfStops(stopsBy(bench.window(), Qt::Key_Tab));
     const auto quit = std::ranges::find(stops, "imgBtnBQuit");
     ASSERT_NE(quit, stops.end());
     EXPECT_EQ(*(quit + 1), "imgBtnBNext");

@@ -20,6 +20,11 @@ namespace orvanta::test {
 /// Whether the real mouse and the real desktop have a say in a test.
 enum class SystemEvents { KeptOut, LetIn };
 
+/// In its window.
+inline QRect placeOf(const QWidget& widget) {
+    return {widget.mapTo(widget.window(), QPoint()), widget.size()};
+}
+
 /// The real window beside a program that is played behind it: what the program does shows in
 /// the window, what is done to the window reaches the program.
 template <class Program = Bench>

@@ -13,7 +13,6 @@ namespace orvanta::test {
 namespace {
 
 constexpr int files = 1000;
-constexpr int subscriptOutOfRange = 9;
 
 /// Makes files that nobody would write: whole ones with damage, or lines and bytes at random.
 class Vandal {

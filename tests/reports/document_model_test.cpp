@@ -14,7 +14,7 @@ Texts runsOf(const DocumentParagraph& paragraph) {
     return texts;
 }
 
-DocumentParagraph& paragraphOf(Story& story, std::size_t block) {
+DocumentParagraph& paragraphIn(Story& story, std::size_t block) {
     return std::get<DocumentParagraph>(story.blocks[block]);
 }
 
@@ -52,24 +52,24 @@ TEST(ARun, StaysWholeWhereOneBeginsAlready) {
 
 TEST(TextInAStory, GoesIntoTheMiddleOfARunBehindOthersInTheLookOfTheMark) {
     Story story;
-    paragraphOf(story, 0) = threeRuns();
-    paragraphOf(story, 0).mark.italic = true;
+    paragraphIn(story, 0) = threeRuns();
+    paragraphIn(story, 0).mark.italic = true;
     const StoryPlace behind = insertText(story, {0, 5}, "X");
-    EXPECT_EQ(runsOf(paragraphOf(story, 0)), (Texts{"abc", "de", "X", "fg", "hi"}));
-    EXPECT_TRUE(paragraphOf(story, 0).runs[2].format.italic);
+    EXPECT_EQ(runsOf(paragraphIn(story, 0)), (Texts{"abc", "de", "X", "fg", "hi"}));
+    EXPECT_TRUE(paragraphIn(story, 0).runs[2].format.italic);
     EXPECT_EQ(behind.block, 0u);
     EXPECT_EQ(behind.offset, 6u);
 }
 
 TEST(TextInAStory, WithALineEndMakesTwoParagraphsOfOne) {
     Story story;
-    paragraphOf(story, 0) = threeRuns();
-    paragraphOf(story, 0).format.spaceAfter = 6;
+    paragraphIn(story, 0) = threeRuns();
+    paragraphIn(story, 0).format.spaceAfter = 6;
     const StoryPlace behind = insertText(story, {0, 5}, "X\r\nYZ");
     ASSERT_EQ(story.blocks.size(), 2u);
-    EXPECT_EQ(runsOf(paragraphOf(story, 0)), (Texts{"abc", "de", "X"}));
-    EXPECT_EQ(runsOf(paragraphOf(story, 1)), (Texts{"YZ", "fg", "hi"}));
-    EXPECT_EQ(paragraphOf(story, 1).format.spaceAfter, 6);
+    EXPECT_EQ(runsOf(paragraphIn(story, 0)), (Texts{"abc", "de", "X"}));
+    EXPECT_EQ(runsOf(paragraphIn(story, 1)), (Texts{"YZ", "fg", "hi"}));
+    EXPECT_EQ(paragraphIn(story, 1).format.spaceAfter, 6);
     EXPECT_EQ(behind.block, 1u);
     EXPECT_EQ(behind.offset, 2u);
 }
@@ -92,21 +92,21 @@ TEST(TheLookOfCharacters, ChangesBetweenTwoPlacesAndInTheMarksBetween) {
     Story story;
     insertText(story, {0, 0}, "one\r\ntwo\r\nthree");
     changeCharacters(story, {0, 1}, {2, 2}, false, [](CharacterFormat& look) { look.bold = true; });
-    EXPECT_EQ(runsOf(paragraphOf(story, 0)), (Texts{"o", "ne"}));
-    EXPECT_FALSE(paragraphOf(story, 0).runs[0].format.bold);
-    EXPECT_TRUE(paragraphOf(story, 0).runs[1].format.bold);
-    EXPECT_TRUE(paragraphOf(story, 0).mark.bold);
-    EXPECT_TRUE(paragraphOf(story, 1).runs[0].format.bold);
-    EXPECT_EQ(runsOf(paragraphOf(story, 2)), (Texts{"th", "ree"}));
-    EXPECT_FALSE(paragraphOf(story, 2).runs[1].format.bold);
-    EXPECT_FALSE(paragraphOf(story, 2).mark.bold);
+    EXPECT_EQ(runsOf(paragraphIn(story, 0)), (Texts{"o", "ne"}));
+    EXPECT_FALSE(paragraphIn(story, 0).runs[0].format.bold);
+    EXPECT_TRUE(paragraphIn(story, 0).runs[1].format.bold);
+    EXPECT_TRUE(paragraphIn(story, 0).mark.bold);
+    EXPECT_TRUE(paragraphIn(story, 1).runs[0].format.bold);
+    EXPECT_EQ(runsOf(paragraphIn(story, 2)), (Texts{"th", "ree"}));
+    EXPECT_FALSE(paragraphIn(story, 2).runs[1].format.bold);
+    EXPECT_FALSE(paragraphIn(story, 2).mark.bold);
 }
 
 TEST(TheLookOfCharacters, TakesInTheLastMarkWhereThatIsWanted) {
     Story story;
     insertText(story, {0, 0}, "one");
     changeCharacters(story, {0, 0}, {0, 3}, true, [](CharacterFormat& look) { look.size = 20; });
-    EXPECT_EQ(paragraphOf(story, 0).mark.size, 20);
+    EXPECT_EQ(paragraphIn(story, 0).mark.size, 20);
 }
 
 TEST(ANewRow, HasTheLooksOfTheLastOneAndNoneOfItsTexts) {

@@ -8,14 +8,14 @@ namespace {
 
 using TablePtr = std::shared_ptr<DocumentTable>;
 
-DocumentParagraph paragraphOf(const std::string& text) {
+DocumentParagraph plainParagraph(const std::string& text) {
     return {.runs = {{text, {}}}, .mark = {}, .format = {}};
 }
 
 DocumentRow rowOf(const std::string& text, bool kept) {
     DocumentRow row;
     row.cells.push_back(std::make_shared<DocumentCell>());
-    row.cells.front()->story.lastParagraph() = paragraphOf(text);
+    row.cells.front()->story.lastParagraph() = plainParagraph(text);
     row.cells.front()->story.lastParagraph().format.keepWithNext = kept;
     return row;
 }
@@ -67,7 +67,7 @@ bool isKept(const DocumentRow& row) { return isKept(row.cells.front()->story.blo
 
 DocumentTable caredFor(const TablePtr& table, const std::string& above = "") {
     const Document document =
-        withCareForPages(documentOf({paragraphOf(above), table, paragraphOf("")}));
+        withCareForPages(documentOf({plainParagraph(above), table, plainParagraph("")}));
     return *std::get<TablePtr>(document.body.blocks[1]);
 }
 
@@ -88,8 +88,8 @@ std::string wholeness(const TablePtr& table) {
 }  // namespace
 
 TEST(PageCare, KeepsWhatStandsAboveATableWithIt) {
-    const Document document = withCareForPages(
-        documentOf({paragraphOf("title"), paragraphOf(""), tableOf({}), paragraphOf("end")}));
+    const Document document = withCareForPages(documentOf(
+        {plainParagraph("title"), plainParagraph(""), tableOf({}), plainParagraph("end")}));
     EXPECT_TRUE(isKept(document.body.blocks[0]));
     EXPECT_TRUE(isKept(document.body.blocks[1]));
     EXPECT_FALSE(isKept(document.body.blocks[3]));
@@ -97,14 +97,14 @@ TEST(PageCare, KeepsWhatStandsAboveATableWithIt) {
 
 TEST(PageCare, LetsAPageEndBetweenTwoTables) {
     const Document document =
-        withCareForPages(documentOf({tableOf({}), paragraphOf(""), tableOf({}), paragraphOf("text"),
-                                     tableOf({}), paragraphOf("")}));
+        withCareForPages(documentOf({tableOf({}), plainParagraph(""), tableOf({}),
+                                     plainParagraph("text"), tableOf({}), plainParagraph("")}));
     EXPECT_FALSE(isKept(document.body.blocks[1]));
     EXPECT_TRUE(isKept(document.body.blocks[3]));
 }
 
 TEST(PageCare, MakesABlankLineBehindATableLowAndLeavesAGapBetweenTables) {
-    DocumentParagraph blank = paragraphOf("");
+    DocumentParagraph blank = plainParagraph("");
     blank.mark.size = 20;
     const Document document =
         withCareForPages(documentOf({blank, tableOf({}), blank, blank, tableOf({}), blank}));
@@ -119,7 +119,8 @@ TEST(PageCare, MakesABlankLineBehindATableLowAndLeavesAGapBetweenTables) {
 }
 
 TEST(PageCare, LeavesADocumentWithoutTablesAsItIs) {
-    const Document document = withCareForPages(documentOf({paragraphOf("one"), paragraphOf("")}));
+    const Document document =
+        withCareForPages(documentOf({plainParagraph("one"), plainParagraph("")}));
     for (const Block& block : document.body.blocks) EXPECT_FALSE(isKept(block));
 }
 
@@ -179,7 +180,7 @@ TEST(PageCare, CountsNoLinesOfUpwardText) {
 
 TEST(PageCare, LeavesTheDocumentItselfAsItWas) {
     const TablePtr table = tableOf({rowOf("one", false), rowOf("two", false)});
-    const Document document = documentOf({paragraphOf("title"), table, paragraphOf("")});
+    const Document document = documentOf({plainParagraph("title"), table, plainParagraph("")});
     withCareForPages(document);
     EXPECT_FALSE(isKept(document.body.blocks[0]));
     for (const DocumentRow& row : table->rows) EXPECT_FALSE(isKept(row) || row.staysWhole);

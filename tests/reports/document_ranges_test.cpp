@@ -151,11 +151,11 @@ TEST_F(Writing, AlignmentAndDirectionCanBeTakenBack) {
 TEST_F(Writing, TextInFrontOfATableThatFillsACellFails) {
     const WordRef table = addTable(1, 1);
     selection.get("Tables").get("Add", {range(table, 1, 1).value(), 1, 1});
-    EXPECT_EQ(failureOf([&] { range(table, 1, 1).call("InsertBefore", {std::string("x")}); }), 5);
+    EXPECT_EQ(failureOf([&] { range(table, 1, 1).call("InsertBefore", {std::string("x")}); }),
+              invalidCall);
 }
 
 TEST_F(Writing, ARangeRefusesMembersThatItDoesNotHave) {
-    constexpr int invalidCall = 5;
     const WordRef inCell = range(addTable(1, 1), 1, 1), inBody = document.get("Range");
     for (const WordRef& text : {inCell, inBody}) {
         EXPECT_EQ(failureOf([&] { text.get("Font").put("Color", 1); }), invalidCall);

@@ -7,13 +7,6 @@
 
 namespace orvanta::test {
 
-namespace {
-
-constexpr int invalidCall = 5;
-constexpr int indexOutOfBounds = 35600;
-
-}  // namespace
-
 TEST_F(Writing, TheEndOfTheDocumentIsTheOnlyBookmark) {
     EXPECT_EQ(failureOf([&] { document.get("Bookmarks").item(std::string("\\startofdoc")); }),
               35601);

@@ -7,8 +7,6 @@
 namespace orvanta::test {
 namespace {
 
-constexpr int invalidCall = 5;
-
 TEST(ModelObject, KnowsNoMemberByItself) {
     documentmodel::ModelObject object;
     EXPECT_EQ(failureOf([&] { object.get("Range", {}); }), invalidCall);

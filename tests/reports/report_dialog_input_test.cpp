@@ -15,7 +15,7 @@ const std::string analyzeFilter = "All Analyze Files (*.aze)|*.aze";
 const std::string rtfFilter = "All RTF Files (*.rtf)|*.rtf";
 const std::string page = "app/System/report.htm";
 
-std::string smallAnalysis() {
+std::string oneOpportunity() {
     return lines({"<OPPORTUNITYMAPPING>", "O1<!-SWOT-!><!-SWOT-!>Alpha", "</OPPORTUNITYMAPPING>"});
 }
 
@@ -24,7 +24,7 @@ class ReportDialogInput : public testing::Test {
 protected:
     ReportDialogInput() {
         bench.start();
-        bench.disk.files["docs/team.aze"] = smallAnalysis();
+        bench.disk.files["docs/team.aze"] = oneOpportunity();
         bench.form().lastPathAZE = "docs/My SWOT";
     }
 

@@ -17,8 +17,8 @@ std::string entry(const std::string& key, const std::string& text) {
     return key + delimiter + text;
 }
 
-std::string rowLine(const std::string& key, const std::string& text) {
-    return test::rowLine(key, "[Ann]: ", text);
+std::string rowOfAnn(const std::string& key, const std::string& text) {
+    return rowLine(key, "[Ann]: ", text);
 }
 
 ReportLists read(const Texts& file, ReportScope scope = ReportScope::Everything) {
@@ -59,93 +59,93 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Of, ReportSourceSection, testing::ValuesIn(sections), NameOfParameter{});
 
 TEST_P(ReportSourceSection, GivesKeysAndTrimmedTextsInTheOrderOfTheFile) {
-    EXPECT_EQ(entries({open, rowLine("X9", "  Second "), rowLine("X1", "First"), close}),
+    EXPECT_EQ(entries({open, rowOfAnn("X9", "  Second "), rowOfAnn("X1", "First"), close}),
               (Texts{entry("X9", "Second"), entry("X1", "First")}));
 }
 
 TEST_P(ReportSourceSection, KeepsTheKeyAsItStands) {
-    EXPECT_EQ(entriesOf(rowLine(" X1 ", "A")), Texts{entry(" X1 ", "A")});
+    EXPECT_EQ(entriesOf(rowOfAnn(" X1 ", "A")), Texts{entry(" X1 ", "A")});
 }
 
 TEST_P(ReportSourceSection, DropsALineWithoutExactlyThreeFields) {
     EXPECT_EQ(entriesOf("X1" + delimiter + "two"), Texts{});
-    EXPECT_EQ(entriesOf(rowLine("X1", "a text with " + delimiter + " in it")), Texts{});
+    EXPECT_EQ(entriesOf(rowOfAnn("X1", "a text with " + delimiter + " in it")), Texts{});
     EXPECT_EQ(entriesOf("no delimiter"), Texts{});
     EXPECT_EQ(entriesOf(""), Texts{});
 }
 
 TEST_P(ReportSourceSection, RemovesMarksInMappingListsAlone) {
-    EXPECT_EQ(entriesOf(rowLine("X1", "[+] a[-] [+]b ")),
+    EXPECT_EQ(entriesOf(rowOfAnn("X1", "[+] a[-] [+]b ")),
               Texts{entry("X1", GetParam().dropsMarks ? "a b" : "[+] a[-] [+]b")});
 }
 
 TEST_P(ReportSourceSection, MayBeEmpty) { EXPECT_EQ(entries({open, close}), Texts{}); }
 
 TEST_P(ReportSourceSection, MayBeLeftOpenAtTheEnd) {
-    EXPECT_EQ(entries({open, rowLine("X1", "A")}), Texts{entry("X1", "A")});
+    EXPECT_EQ(entries({open, rowOfAnn("X1", "A")}), Texts{entry("X1", "A")});
 }
 
 TEST_P(ReportSourceSection, TakesTagsWithBlanksAroundThemAndNoOthers) {
-    EXPECT_EQ(entries({"  " + open + " ", rowLine("X1", "A"), " " + close, rowLine("X2", "B")}),
+    EXPECT_EQ(entries({"  " + open + " ", rowOfAnn("X1", "A"), " " + close, rowOfAnn("X2", "B")}),
               Texts{entry("X1", "A")});
     std::string lower = open;
     std::ranges::transform(lower, lower.begin(), [](unsigned char c) { return std::tolower(c); });
-    EXPECT_EQ(entries({lower, rowLine("X1", "A")}), Texts{});
-    EXPECT_EQ(entries({"\t" + open, rowLine("X1", "A")}), Texts{});
+    EXPECT_EQ(entries({lower, rowOfAnn("X1", "A")}), Texts{});
+    EXPECT_EQ(entries({"\t" + open, rowOfAnn("X1", "A")}), Texts{});
 }
 
 TEST_P(ReportSourceSection, IsClosedByAnyClosingTag) {
-    EXPECT_EQ(entries({open, rowLine("X1", "A"), "</MODULE>", rowLine("X2", "B")}),
+    EXPECT_EQ(entries({open, rowOfAnn("X1", "A"), "</MODULE>", rowOfAnn("X2", "B")}),
               Texts{entry("X1", "A")});
 }
 
 TEST_P(ReportSourceSection, IsNotClosedByATagThatReportsDoNotKnow) {
-    EXPECT_EQ(entries({open, "<STEP>", "AO", "</STEP>", rowLine("X1", "A"), close}),
+    EXPECT_EQ(entries({open, "<STEP>", "AO", "</STEP>", rowOfAnn("X1", "A"), close}),
               Texts{entry("X1", "A")});
 }
 
 TEST_P(ReportSourceSection, HoldsItsGroundAgainstAnOpeningTagInsideIt) {
-    EXPECT_EQ(entries({open, "<MODULE>", rowLine("X1", "A"), close}), Texts{entry("X1", "A")});
+    EXPECT_EQ(entries({open, "<MODULE>", rowOfAnn("X1", "A"), close}), Texts{entry("X1", "A")});
 }
 
 TEST_P(ReportSourceSection, OverwritesStatementsFromTheirBeginningWhenRepeatedAndAddsMappings) {
-    const Texts file{open, rowLine("X1", "A"), rowLine("X2", "B"), close, open, rowLine("X3", "C"),
-                     close};
+    const Texts file{
+        open, rowOfAnn("X1", "A"), rowOfAnn("X2", "B"), close, open, rowOfAnn("X3", "C"), close};
     const Texts overwritten{entry("X3", "C"), entry("X2", "B")};
     const Texts added{entry("X1", "A"), entry("X2", "B"), entry("X3", "C")};
     EXPECT_EQ(entries(file), GetParam().startsAnew ? overwritten : added);
 }
 
 TEST_P(ReportSourceSection, StartsStatementsAnewAlsoAtAnOpeningTagThatOpensNothing) {
-    const Texts file{open, rowLine("X1", "A"), open, rowLine("X2", "B"), close};
+    const Texts file{open, rowOfAnn("X1", "A"), open, rowOfAnn("X2", "B"), close};
     const Texts added{entry("X1", "A"), entry("X2", "B")};
     EXPECT_EQ(entries(file), GetParam().startsAnew ? Texts{entry("X2", "B")} : added);
 }
 
 TEST_P(ReportSourceSection, IsReadForTheWebPageUnlessItIsOfTheDocumentAlone) {
-    EXPECT_EQ(entries({open, rowLine("X1", "A"), close}, ReportScope::Correlation),
+    EXPECT_EQ(entries({open, rowOfAnn("X1", "A"), close}, ReportScope::Correlation),
               GetParam().ofTheDocumentAlone ? Texts{} : Texts{entry("X1", "A")});
 }
 
 TEST_P(ReportSourceSection, HasNoLimit) {
     Texts file{open};
-    for (int i = 0; i < 1000; ++i) file.push_back(rowLine("X" + std::to_string(i), "A"));
+    for (int i = 0; i < 1000; ++i) file.push_back(rowOfAnn("X" + std::to_string(i), "A"));
     file.push_back(close);
     EXPECT_EQ(entries(file).size(), 1000u);
 }
 
 TEST(ReportSource, IgnoresModuleStepAndWhatLiesOutsideOfSections) {
     const ReportLists lists =
-        read({rowLine("S1", "A"), "<STEP>", rowLine("S2", "B"), "</STEP>", "<MODULE>",
-              rowLine("S3", "C"), "</MODULE>", rowLine("S4", "D")});
+        read({rowOfAnn("S1", "A"), "<STEP>", rowOfAnn("S2", "B"), "</STEP>", "<MODULE>",
+              rowOfAnn("S3", "C"), "</MODULE>", rowOfAnn("S4", "D")});
     for (const ListSection& section : sections)
         EXPECT_EQ((lists.*section.list).entries(), Texts{}) << section.name;
 }
 
 TEST(ReportSource, TakesEveryUsualLineEnd) {
     ReportLists lists;
-    readReportSource("<STRENGTH>\r" + rowLine("S1", "A") + "\n" + rowLine("S2", "B") + "\r\n" +
-                         rowLine("S3", "C"),
+    readReportSource("<STRENGTH>\r" + rowOfAnn("S1", "A") + "\n" + rowOfAnn("S2", "B") + "\r\n" +
+                         rowOfAnn("S3", "C"),
                      ReportScope::Everything, lists);
     EXPECT_EQ(lists.strengthEntries.entries(),
               (Texts{entry("S1", "A"), entry("S2", "B"), entry("S3", "C")}));
@@ -187,7 +187,7 @@ TEST(ReportRow, HasExactlyAKeyAndAText) {
 // Without its mark the text turns into a delimiter, and the entry falls apart in three.
 TEST(ReportRow, IsPassedOverWhereAMarkHidADelimiter) {
     const ReportLists lists =
-        read({"<OPPORTUNITYMAPPING>", rowLine("O1", "<!-SW[+]OT-!>"), "</OPPORTUNITYMAPPING>"});
+        read({"<OPPORTUNITYMAPPING>", rowOfAnn("O1", "<!-SW[+]OT-!>"), "</OPPORTUNITYMAPPING>"});
     ReportRow row{};
     ASSERT_EQ(lists.opportunityMapEntries.entries().size(), 1u);
     EXPECT_FALSE(classifyEntry(lists.opportunityMapEntries.entries().front(), row));

@@ -31,7 +31,7 @@ Analysis analysisOf(const std::string& text) {
     return analysis;
 }
 
-std::string documentOf(const std::string& text) {
+std::string rtfOf(const std::string& text) {
     ReportBench bench(analysisOf(text));
     return bench.document();
 }
@@ -39,9 +39,9 @@ std::string documentOf(const std::string& text) {
 class HostileText : public testing::TestWithParam<std::string> {};
 
 TEST_P(HostileText, BringsNoWordOfItsOwnIntoTheDocument) {
-    auto words = wordsIn(documentOf("a\\b{c}"));  // its own marks, escaped
+    auto words = wordsIn(rtfOf("a\\b{c}"));  // its own marks, escaped
     EXPECT_EQ(words.count("\\fldinst") + words.count("\\bin") + words.count("\\object"), 0u);
-    EXPECT_EQ(wordsIn(documentOf(GetParam())), words);
+    EXPECT_EQ(wordsIn(rtfOf(GetParam())), words);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -8,13 +8,6 @@ namespace orvanta::test {
 
 namespace {
 
-const std::string usage =
-    "Edit this table as required in your word processor. "
-    "You can also copy any table below into PowerPoint by selecting the "
-    "table and copying it to the Windows Clipboard (click anywhere inside "
-    "table, then select from the Word menu: Table, Select, Table, then Edit, "
-    "Copy) and then pasting it into any other Windows application.";
-
 enum TableNumber { opportunityMap, threatMap, opportunities, threats, strengths, weaknesses };
 constexpr std::array mappingTables{opportunityMap, threatMap};
 constexpr std::array listTables{opportunities, threats, strengths, weaknesses};
@@ -91,7 +84,7 @@ TEST(ReportDocument, HasItsTitlesTextsAndTablesInOrder) {
     EXPECT_EQ(documentOf(smallAnalysis()).outline(), (Texts{"SWOT Analysis - Correlation Report",
                                                             "",
                                                             "Usage Instructions:",
-                                                            usage,
+                                                            usageText,
                                                             "",
                                                             "#",
                                                             "",
@@ -101,7 +94,7 @@ TEST(ReportDocument, HasItsTitlesTextsAndTablesInOrder) {
                                                             "",
                                                             "",
                                                             "Usage Instructions:",
-                                                            usage,
+                                                            usageText,
                                                             "",
                                                             "#",
                                                             "",

@@ -10,13 +10,6 @@ namespace {
 constexpr int grey204 = 204 + 204 * 256 + 204 * 65536;
 constexpr int grey250 = 250 + 250 * 256 + 250 * 65536;
 
-const std::string usage =
-    "Edit this table as required in your word processor. "
-    "You can also copy any table below into PowerPoint by selecting the "
-    "table and copying it to the Windows Clipboard (click anywhere inside "
-    "table, then select from the Word menu: Table, Select, Table, then Edit, "
-    "Copy) and then pasting it into any other Windows application.";
-
 std::string quoted(const std::string& text) { return '"' + text + '"'; }
 std::string row(int number) { return "Rows(" + std::to_string(number) + ")"; }
 std::string cell(int row, int column) {
@@ -45,9 +38,9 @@ public:
         add({range + ".InsertBefore(\"Usage Instructions:\\r\\n\")", range + ".Font.Size = 10",
              range + ".Font.Bold = true", range + ".Font.Name = \"Arial\"",
              range + ".Collapse(0)"});
-        add({range + ".InsertBefore(" + quoted(usage + "\\r\\n") + ")", range + ".Font.Size = 10",
-             range + ".Font.Bold = false", range + ".Font.Name = \"Arial\"",
-             range + ".Collapse(0)"});
+        add({range + ".InsertBefore(" + quoted(usageText + "\\r\\n") + ")",
+             range + ".Font.Size = 10", range + ".Font.Bold = false",
+             range + ".Font.Name = \"Arial\"", range + ".Collapse(0)"});
     }
 
     void paragraphAtEnd() { add({range() + ".InsertParagraphAfter()"}); }

@@ -13,9 +13,6 @@ namespace orvanta::test {
 
 using Names = std::vector<std::string>;
 
-constexpr int fileNotFound = 53, diskFull = 61, permissionDenied = 70, pathFileAccess = 75,
-              pathNotFound = 76, noError = 0;
-
 /// A folder of the real disk.
 class RealDisk : public testing::Test {
 protected:

@@ -7,6 +7,13 @@
 
 namespace orvanta::test {
 
+inline const std::string usageText =
+    "Edit this table as required in your word processor. "
+    "You can also copy any table below into PowerPoint by selecting the "
+    "table and copying it to the Windows Clipboard (click anywhere inside "
+    "table, then select from the Word menu: Table, Select, Table, then Edit, "
+    "Copy) and then pasting it into any other Windows application.";
+
 /// A row of an analyze file: key and text.
 using AnalysisRows = std::vector<ShownRow>;
 

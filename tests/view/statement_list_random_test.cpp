@@ -37,8 +37,6 @@ struct SimpleList {
     }
 };
 
-constexpr int indexOutOfBounds = 35600, keyNotUnique = 35602;
-
 /// Does the same things to a list and to its simple counterpart.
 class RandomWalk {
 public:

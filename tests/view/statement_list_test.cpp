@@ -10,8 +10,6 @@
 namespace orvanta::test {
 namespace {
 
-constexpr int indexOutOfBounds = 35600, keyNotUnique = 35602;
-
 Row rowOf(const std::string& key) { return {.key = key, .text = "of " + key}; }
 
 class StatementListOfThree : public testing::Test {
