@@ -45,9 +45,6 @@ Overloaded(Acts...) -> Overloaded<Acts...>;
 class PanelView : public ControlArea {
 public:
     PanelView(Panel& model, ControlArea& parent) : ControlArea(parent.pixelGrid(), &parent) {
-        QPalette white;
-        white.setColor(QPalette::Window, theme::paper);
-        setPalette(white);
         setAutoFillBackground(true);
         mirrorControl(model, *this, parent);
         const auto showSize = [this, &model] {

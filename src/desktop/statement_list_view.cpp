@@ -44,7 +44,6 @@ StatementListView::StatementListView(Program& program, StatementList& list, QWid
     setItemDelegate(new StatementRowPainter(list, *this));
     setUniformItemSizes(true);
     setSelectionMode(SingleSelection);
-    setEditTriggers(NoEditTriggers);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
     setDragDropMode(DragDrop);
@@ -119,7 +118,6 @@ void StatementListView::keyPressEvent(QKeyEvent* event) {
         return QListView::keyPressEvent(event);
     const int next = event->key() == Qt::Key_Down ? m_wentOut : m_wentOut - 1;
     m_list.select(std::clamp(next, 1, m_list.count()));
-    scrollTo(currentIndex());
 }
 
 void StatementListView::resizeEvent(QResizeEvent* event) {

@@ -178,6 +178,23 @@ TEST(QuestionSheetPages, HaveRulesAsWideOnPaperAsAPencilLineInQuietInk) {
     }
 }
 
+TEST(QuestionSheetPages, PaintTheWordsOfAQuestionAboveTheEndOfItsLine) {
+    const QuestionSheets sheets = sheetsWith(3);
+    const auto pages = pagesOf(sheets);
+    const QImage page = painted(sheets, pages, 0);
+    const auto isInked = [&](int y) {
+        for (int x = 0; x < page.width(); ++x)
+            if (page.pixel(x, y) != 0xffffffff) return true;
+        return false;
+    };
+    for (const SheetLine& line : pages[0].lines) {
+        if (line.isRule()) continue;
+        const int end = static_cast<int>(line.bottom);
+        EXPECT_TRUE(isInked(end - 12)) << "1.5 mm higher";
+        for (int y = end; y < end + 8; ++y) EXPECT_FALSE(isInked(y)) << y - end;
+    }
+}
+
 TEST(QuestionSheetPages, PaintInsideThePaperAndLeaveNoPageBlank) {
     const QuestionSheets sheets = sheetsWith(12);
     const auto pages = pagesOf(sheets);

@@ -34,11 +34,6 @@ ReadingStrip& stripOf(const QWidget& list) {
 /// What it shows, on one line.
 std::string pageOf(const ReadingStrip& strip) { return toCp1252(strip.page().join(u' ')); }
 
-/// In the window.
-QRect placeOf(const QWidget& widget) {
-    return {widget.mapTo(widget.window(), QPoint()), widget.size()};
-}
-
 void expectRowsAbove(const StatementListView& list, const ReadingStrip& strip) {
     EXPECT_LE(placeOf(*list.viewport()).bottom(), placeOf(strip).top());
 }
@@ -200,6 +195,23 @@ TEST_F(StatementListViewTest, ChoosesItsFirstRowWithTheFirstKey) {
     EXPECT_EQ(list().selected(), 2);
 }
 
+TEST_F(StatementListViewTest, BringsTheRowIntoViewThatAKeyChoosesBehindARemovedOne) {
+    WindowBench<AnalysisBench> analysis;
+    analysis.goTo(mappingSides()[0]);
+    analysis.window().show();
+    StatementList& opportunities = analysis.form().lvOpportunity;
+    auto& shown = analysis.widget<StatementListView>("lvOpportunity");
+    for (int i = 0; i < 100; ++i) opportunities.add({.key = {}, .text = "Row", .image = 1});
+    opportunities.select(60);
+    QCoreApplication::processEvents();
+    opportunities.remove(60);
+    shown.verticalScrollBar()->setValue(0);
+    QTest::keyClick(&shown, Qt::Key_Down);
+    EXPECT_EQ(opportunities.selected(), 60);
+    EXPECT_TRUE(
+        shown.viewport()->rect().contains(shown.visualRect(shown.indexAtPosition(60)).center()));
+}
+
 /// The lists of a mapping screen, side by side, with a long statement in one of them.
 class ListsSideBySide : public testing::Test {
 protected:
@@ -276,6 +288,20 @@ TEST_F(ListsSideBySide, ShowWhatIsChosenInTheOneThatHasTheKeyboard) {
     view("lvWeaknessOp").setFocus();
     EXPECT_EQ(toCp1252(strip.text()), bench.list("lvWeaknessOp").selectedRow()->text);
     bench.list("lvStrengthOp").select(1);
+    EXPECT_EQ(toCp1252(strip.text()), bench.list("lvWeaknessOp").selectedRow()->text);
+}
+
+TEST_F(ListsSideBySide, HaveTheStripAtTheirFootWhereverTheyAreMoved) {
+    const ReadingStrip& strip = stripOf(view("lvStrengthOp"));
+    for (const char* name : {"lvStrengthOp", "lvOpportunity", "lvWeaknessOp"})
+        view(name).move(view(name).x(), view(name).y() - 10);
+    EXPECT_EQ(placeOf(strip).bottom(), placeOf(view("lvOpportunity")).bottom());
+}
+
+TEST_F(ListsSideBySide, ShowWhatIsChosenInOneThatOutlivesAnother) {
+    const ReadingStrip& strip = stripOf(view("lvStrengthOp"));
+    delete &view("lvStrengthOp");
+    bench.list("lvWeaknessOp").select(2);
     EXPECT_EQ(toCp1252(strip.text()), bench.list("lvWeaknessOp").selectedRow()->text);
 }
 
