@@ -5,8 +5,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const std::string start = R"({"do":"start"})", state = R"({"do":"state"})";
-
 /// The program where one of the files that it reads has 200 GB, of which the disk holds nothing.
 class AHugeFile : public testing::Test {
 protected:
@@ -26,7 +24,7 @@ TEST_F(AHugeFile, DoesNotKeepTheProgramFromStarting) {
                                    "app/analyzequestions.txt", "app/gbsquestions.txt"}) {
         inPlaceOf(name);
         PlayedProgram started(folder.path());
-        EXPECT_EQ(started.play({start, state}), "") << name;
+        EXPECT_EQ(started.play({start, R"({"do":"state"})"}), "") << name;
         fs::remove(folder / name);
     }
 }

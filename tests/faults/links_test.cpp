@@ -5,8 +5,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const std::string start = R"({"do":"start"})";
-
 /// The program where somebody has put a link in the place of a file that it keeps for itself.
 class ALinkInPlaceOfAnOwnFile : public testing::Test {
 protected:

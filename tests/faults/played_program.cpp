@@ -23,7 +23,7 @@ std::string report(const std::string& format) {
            R"(},{"text":"$/sources/team.aze"},{"press":"ok"}]})";
 }
 
-const std::string start = R"({"do":"start"})", tick = R"({"do":"tick"})";
+const std::string tick = R"({"do":"tick"})";
 const std::string yes = R"({"answer":"message","button":"yes"})";
 
 Texts joined(Texts first, const Texts& second) {

@@ -12,6 +12,8 @@
 
 namespace orvanta::test {
 
+inline const std::string start = R"({"do":"start"})";
+
 /// One of the ways in which the program writes a file. In the lines "$" stands for the folder.
 struct Writer {
     std::string name;

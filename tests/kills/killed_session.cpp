@@ -21,7 +21,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int mostCalls = 40;  // their beginnings and ends
 
-const std::string start = R"({"do":"start"})", tick = R"({"do":"tick"})";
+const std::string start = R"({"do":"start"})";
 
 /// Stops a child at its calls of the system, so that a kill meets any of them, however busy the
 /// machine is. The child waits for a line.

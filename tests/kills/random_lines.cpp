@@ -9,8 +9,6 @@ namespace orvanta::kills {
 
 namespace {
 
-const std::string tick = R"({"do":"tick"})";
-
 // What the formats escape, unevenly, and what they trim.
 constexpr std::array words{"Brand",       "a < b",       "x &lt; y", "  wide  ",
                            "50 % {more}", "<b>bold</b>", "Fleet",    "Zürich €",

@@ -10,6 +10,8 @@
 
 namespace orvanta::kills {
 
+inline const std::string tick = R"({"do":"tick"})";
+
 /// The lines of a person who does anything, one from each seed, the same on every machine. They
 /// fit what is on screen, mostly; those that don't are refused by the driver.
 class RandomLines {

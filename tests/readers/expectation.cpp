@@ -10,10 +10,10 @@ namespace orvanta::readers {
 
 namespace {
 
-struct Line {
+struct FileLine {
     std::string key, text;
 };
-using Sections = std::map<std::string, std::vector<Line>>;
+using Sections = std::map<std::string, std::vector<FileLine>>;
 
 Sections sectionsOf(const std::string& analysis) {
     Sections sections;
@@ -34,9 +34,9 @@ Sections sectionsOf(const std::string& analysis) {
     return sections;
 }
 
-std::vector<ExpectedRow> mappingRows(const std::vector<Line>& lines) {
+std::vector<ExpectedRow> mappingRows(const std::vector<FileLine>& lines) {
     std::vector<ExpectedRow> rows;
-    for (const Line& line : lines) {
+    for (const FileLine& line : lines) {
         const auto hyphen = line.key.find('-');
         if (hyphen == std::string::npos)
             rows.push_back({line.text, std::to_string(rows.size() + 1), {}});
@@ -46,10 +46,11 @@ std::vector<ExpectedRow> mappingRows(const std::vector<Line>& lines) {
     return rows;
 }
 
-std::vector<ExpectedRow> listRows(const std::vector<Line>& lines) {
+std::vector<ExpectedRow> listRows(const std::vector<FileLine>& lines) {
     std::vector<ExpectedRow> rows;
     rows.reserve(lines.size());
-    for (const Line& line : lines) rows.push_back({line.text, std::to_string(rows.size() + 1), {}});
+    for (const FileLine& line : lines)
+        rows.push_back({line.text, std::to_string(rows.size() + 1), {}});
     return rows;
 }
 
