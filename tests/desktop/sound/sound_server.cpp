@@ -16,7 +16,7 @@ namespace orvanta::sound::test {
 
 namespace {
 
-constexpr int patience = 10000;  // milliseconds
+constexpr int patienceWithAServer = 10000;  // milliseconds
 
 std::vector<double> loudnessOf(const Samples& samples) {
     std::vector<double> all;
@@ -64,13 +64,13 @@ SoundServer::SoundServer() {
     else
         m_process.start(QStringLiteral(ORVANTA_PIPEWIRE_SERVER), {m_folder.path()});
     m_ready = m_process.waitForStarted() &&
-              QTest::qWaitFor([&] { return QFile::exists(socket()); }, patience);
+              QTest::qWaitFor([&] { return QFile::exists(socket()); }, patienceWithAServer);
 }
 
 SoundServer::~SoundServer() {
     thaw();
     m_process.terminate();
-    m_process.waitForFinished(patience);
+    m_process.waitForFinished(patienceWithAServer);
 }
 
 QString SoundServer::address() const { return QStringLiteral("unix:") + socket(); }
@@ -90,12 +90,12 @@ Recording::Recording(const SoundServer& server) {
          QStringLiteral("--raw"), QStringLiteral("--format=s16le"), QStringLiteral("--rate=44100"),
          QStringLiteral("--channels=2"), QStringLiteral("--latency-msec=20")});
     m_process.waitForStarted();
-    (void)QTest::qWaitFor([&] { return !m_bytes.isEmpty(); }, patience);
+    (void)QTest::qWaitFor([&] { return !m_bytes.isEmpty(); }, patienceWithAServer);
 }
 
 Recording::~Recording() {
     m_process.terminate();
-    m_process.waitForFinished(patience);
+    m_process.waitForFinished(patienceWithAServer);
 }
 
 Samples Recording::samples() const {
