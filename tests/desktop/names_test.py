@@ -9,6 +9,7 @@ As accessibility_test.py does: on a display and a bus of its own, through the bu
 import os
 import resource
 import sys
+import time
 
 from accessibility_test import (INSIDE, Atspi, Program, acknowledge, act, expect, failures, has,
                                 on_a_desktop_of_its_own, press_until, shown, wait_for)
@@ -60,9 +61,16 @@ def two_sessions(program, documents):
     expect(names == sorted([f"{ONE}.bsm", f"{OTHER}.bsm"]), f"the saved files are {names}")
 
 
+def wait_for_a_copy(program):
+    """The copy of the session that is made each half minute would fail as well, with a box."""
+    copy = program.folder / "brainstorm.tmp"
+    wait_for(lambda: copy.exists() and time.time() - copy.stat().st_mtime < 5, "a new copy")
+
+
 def a_failed_save_is_told(program, _):
     """As on a full disk: no file may grow beyond a hundred bytes."""
     answer(program, "Skilled staff")
+    wait_for_a_copy(program)
     process, limit = program.process.pid, resource.RLIMIT_FSIZE
     whole = resource.prlimit(process, limit)
     resource.prlimit(process, limit, (100, whole[1]))
