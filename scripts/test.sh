@@ -19,7 +19,7 @@ export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1}
 
 for preset in "${presets[@]}"; do
     echo "== $preset: configure"
-    # What needs no window has been tested without it by then.
+    # What needs no window is tested without it, where that is asked for as well.
     logic_tests=ON
     [[ $preset == dev && " ${presets[*]} " == *" headless "* ]] && logic_tests=OFF
     cmake --preset "$preset" -DORVANTA_LOGIC_TESTS=$logic_tests
