@@ -44,7 +44,7 @@ void carryText(Program& program, StatementKind kind) {
     const StatementList& list = mainList(program, kind);
     const Row& row = *list.selectedRow();
     if (const auto side = sideOfParents(kind))
-        return setTextOfKey(mappingList(form, *side), row.key, row.text);
+        return setTextOfTopRows(mappingList(form, *side), row.key, row.text);
     forEachCompanion(form, kind, [&](StatementList& companion) {
         companion.setText(list.selected(), row.text);
     });
@@ -64,13 +64,8 @@ void editStatement(Program& program, StatementKind kind) {
 }
 
 void removeMappedRows(StatementList& mappingList, std::string_view childKey) {
-    for (int position = 1; position <= mappingList.count();) {
-        const MappingKey key = mappingKeyFrom(mappingList.row(position).key);
-        if (key.isMapped && key.child == childKey)
-            mappingList.remove(position);
-        else
-            ++position;
-    }
+    for (int position = 1; (position = findMappedRow(mappingList, childKey, position)) != 0;)
+        mappingList.remove(position);
 }
 
 void removeMappable(Program& program, StatementKind kind) {
@@ -98,11 +93,7 @@ void removeParent(Program& program, StatementKind kind) {
         const Row* row = list.selectedRow();
         if (!row) return;
         std::vector<int> removed;
-        for (int position = 1; position <= mappings.count();) {
-            if (mappings.row(position).key != row->key) {
-                ++position;
-                continue;
-            }
+        for (int position = 1; (position = findTopRow(mappings, row->key, position)) != 0;) {
             if (hasMappedRows(mappings, row->key)) return refuseWhileRowsAreMapped(program);
             mappings.remove(position);
             removed.push_back(position);

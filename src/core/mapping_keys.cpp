@@ -2,6 +2,20 @@
 
 namespace orvanta {
 
+namespace {
+
+/// Position of the first row, from this position on, whose key ends so and fits; 0 if there is
+/// none.
+template <class Fits>
+int findKey(const StatementList& list, std::string_view ending, int from, Fits fits) {
+    int position = list.findKeyEnding(ending, from);
+    while (position != 0 && !fits(list.row(position).key))
+        position = list.findKeyEnding(ending, position + 1);
+    return position;
+}
+
+}  // namespace
+
 MappingKey mappingKeyFrom(std::string_view key) {
     const auto cut = key.find('-');
     if (cut == std::string_view::npos || key.find('-', cut + 1) != std::string_view::npos)
@@ -26,17 +40,26 @@ bool hasMappedRows(const StatementList& mappingList, std::string_view parentKey)
     return false;
 }
 
-void setTextOfMappedRows(StatementList& mappingList, std::string_view childKey,
-                         const std::string& text) {
-    for (int position = 1; position <= mappingList.count(); ++position) {
-        const MappingKey key = mappingKeyFrom(mappingList.row(position).key);
-        if (key.isMapped && key.child == childKey) mappingList.setText(position, text);
-    }
+int findMappedRow(const StatementList& mappingList, std::string_view childKey, int from) {
+    return findKey(mappingList, childKey, from, [&](std::string_view rowKey) {
+        const MappingKey key = mappingKeyFrom(rowKey);
+        return key.isMapped && key.child == childKey;
+    });
 }
 
-void setTextOfKey(StatementList& list, std::string_view key, const std::string& text) {
-    for (int position = 1; position <= list.count(); ++position)
-        if (list.row(position).key == key) list.setText(position, text);
+int findTopRow(const StatementList& mappingList, std::string_view key, int from) {
+    return findKey(mappingList, key, from, [&](std::string_view rowKey) { return rowKey == key; });
+}
+
+void setTextOfMappedRows(StatementList& mappingList, std::string_view childKey,
+                         const std::string& text) {
+    for (int position = 0; (position = findMappedRow(mappingList, childKey, position + 1)) != 0;)
+        mappingList.setText(position, text);
+}
+
+void setTextOfTopRows(StatementList& mappingList, std::string_view key, const std::string& text) {
+    for (int position = 0; (position = findTopRow(mappingList, key, position + 1)) != 0;)
+        mappingList.setText(position, text);
 }
 
 }  // namespace orvanta

@@ -114,7 +114,7 @@ private:
             for (const MappingSide side : mappingSides)
                 setTextOfMappedRows(mappingList(m_form, side), m_record.key, newText);
         if (StatementList* parents = mappingListOf(target))
-            setTextOfKey(*parents, m_record.key, newText);
+            setTextOfTopRows(*parents, m_record.key, newText);
         counter(Operation::Edit, oldText, {});
     }
 

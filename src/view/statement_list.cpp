@@ -9,8 +9,9 @@ namespace orvanta {
 
 namespace {
 
-constexpr std::uint64_t rankGap = std::uint64_t{1} << 31;
-constexpr std::uint64_t firstRank = std::uint64_t{1} << 62;
+constexpr std::uint64_t rankGap = std::uint64_t{1} << 20;
+constexpr std::uint64_t firstRank = std::uint64_t{1} << 46;
+constexpr std::uint64_t ranksEnd = std::uint64_t{1} << 48;
 
 }  // namespace
 
@@ -33,15 +34,33 @@ int StatementList::positionOf(std::string_view key) const {
     return found == m_byKey.end() ? 0 : positionOfRank(found->rank);
 }
 
+StatementList::KeyEnd StatementList::keyEndOf(std::string_view key) {
+    KeyEnd end = 0;
+    for (const char letter : key.substr(key.size() - std::min<std::size_t>(key.size(), 2)))
+        end = static_cast<KeyEnd>(end << 8 | static_cast<unsigned char>(letter));
+    return end;
+}
+
+int StatementList::findKeyEnding(std::string_view ending, int from) const {
+    const KeyEnd compared = ending.size() > 1 ? 0xFFFF : ending.empty() ? 0 : 0xFF;
+    const KeyEnd wanted = keyEndOf(ending);
+    for (int position = from; position <= count(); ++position) {
+        const Entry& entry = m_rows[static_cast<std::size_t>(position) - 1];
+        if ((entry.keyEnd() & compared) == wanted && entry.row->key.ends_with(ending))
+            return position;
+    }
+    return 0;
+}
+
 /// A rank between those of the neighbours of a place where a row is about to go in.
 StatementList::Rank StatementList::rankFor(int position) {
     if (m_rows.empty()) return firstRank;
     const auto index = static_cast<std::size_t>(position) - 1;
-    if (index == 0 && m_rows.front().rank > rankGap) return m_rows.front().rank - rankGap;
-    if (index == m_rows.size() && m_rows.back().rank < ~rankGap)
-        return m_rows.back().rank + rankGap;
-    const Rank below = index == 0 ? 0 : m_rows[index - 1].rank;
-    const Rank above = index == m_rows.size() ? ~Rank{0} : m_rows[index].rank;
+    const Rank first = m_rows.front().rank(), last = m_rows.back().rank();
+    if (index == 0 && first > rankGap) return first - rankGap;
+    if (index == m_rows.size() && last < ranksEnd - rankGap) return last + rankGap;
+    const Rank below = index == 0 ? 0 : m_rows[index - 1].rank();
+    const Rank above = index == m_rows.size() ? ranksEnd : m_rows[index].rank();
     if (above - below > 1) return below + (above - below) / 2;
     spreadRanks();
     return rankFor(position);
@@ -52,10 +71,10 @@ void StatementList::spreadRanks() {
     const int selectedPosition = selected();
     Rank rank = firstRank;
     for (Entry& row : m_rows) {
-        row.rank = rank += rankGap;
+        row.place(rank += rankGap);
         if (!row.row->key.empty()) m_byKey.find(row.row->key)->rank = rank;
     }
-    if (selectedPosition != 0) m_selected = entry(selectedPosition).rank;
+    if (selectedPosition != 0) m_selected = entry(selectedPosition).rank();
 }
 
 void StatementList::refuseTakenKey(std::string_view key) const {
@@ -94,7 +113,7 @@ void StatementList::insertEntry(int position, RowPointer row) {
     if (!row->key.empty() && !m_byKey.insert({row.get(), rank}).second)
         throw Failure(ErrorNumber::KeyNotUnique);
     tell(&StatementListObserver::rowAboutToBeInserted, position);
-    m_rows.insert(m_rows.begin() + (position - 1), {std::move(row), rank});
+    m_rows.emplace(m_rows.begin() + (position - 1), std::move(row), rank);
     tell(&StatementListObserver::rowInserted, position);
 }
 
@@ -108,13 +127,13 @@ void StatementList::addAll(const StatementList& other) {
 void StatementList::remove(int position) {
     const Entry& gone = entry(position);
     tell(&StatementListObserver::rowAboutToBeRemoved, position);
-    const bool wasSelected = gone.rank == m_selected;
+    const bool wasSelected = gone.rank() == m_selected;
     if (!gone.row->key.empty()) m_byKey.erase(gone.row->key);
     m_rows.erase(m_rows.begin() + (position - 1));
     if (wasSelected) {
         const int next = std::min(position, count());
         const bool none = next == 0 || m_afterRemoval == AfterRemoval::SelectNone;
-        m_selected = none ? 0 : entry(next).rank;
+        m_selected = none ? 0 : entry(next).rank();
     }
     tell(&StatementListObserver::rowRemoved, position);
     if (wasSelected) tell(&StatementListObserver::selectionChanged);
@@ -141,7 +160,9 @@ void StatementList::setKey(int position, std::string key) {
     Row& row = ownRow(position);  // first, since it may find no memory
     if (!row.key.empty()) m_byKey.erase(row.key);
     row.key = std::move(key);
-    if (!row.key.empty()) m_byKey.insert({&row, entry(position).rank});
+    Entry& changed = m_rows[indexOf(position)];
+    changed.place(changed.rank());
+    if (!row.key.empty()) m_byKey.insert({&row, changed.rank()});
     tell(&StatementListObserver::rowChanged, position);
 }
 
@@ -159,7 +180,7 @@ void StatementList::setIndent(int position, int indent) {
 }
 
 void StatementList::select(int position) {
-    const Rank chosen = position == 0 ? 0 : entry(position).rank;
+    const Rank chosen = position == 0 ? 0 : entry(position).rank();
     if (chosen == m_selected) return;
     m_selected = chosen;
     tell(&StatementListObserver::selectionChanged);

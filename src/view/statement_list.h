@@ -55,8 +55,9 @@ enum class AfterRemoval { SelectNeighbour, SelectNone };
 /// session's data. Positions count from 1.
 ///
 /// Each row carries a rank that grows along the list. The key index tells the rank, and a position
-/// is found by bisecting on the ranks. What a row says can be held in common with rows of other
-/// lists, until one of them is changed.
+/// is found by bisecting on the ranks. Beside the rank stand the last letters of the key, so that a
+/// search by the end of keys leaves most rows where they are in memory. What a row says can be held
+/// in common with rows of other lists, until one of them is changed.
 class StatementList : public Control {
 public:
     StatementList(ControlSet& owner, std::string name,
@@ -69,6 +70,9 @@ public:
 
     /// Position of the row with this key, from 1; 0 if the list has none.
     int positionOf(std::string_view key) const;
+
+    /// Position of the first row, from this position on, whose key ends so; 0 if there is none.
+    int findKeyEnding(std::string_view ending, int from) const;
 
     /// Fails with KeyNotUnique if the list holds the key already. The selection stays.
     void add(Row row) { insert(count() + 1, std::move(row)); }
@@ -107,7 +111,8 @@ public:
     void watch(StatementListObserver& observer);
 
 private:
-    using Rank = std::uint64_t;  // from 1
+    using Rank = std::uint64_t;    // from 1, below 2 to the 48th
+    using KeyEnd = std::uint16_t;  // the last two letters of a key; 0 for those that are not there
 
     /// A row that counts the lists that hold it. All lists live in one thread.
     struct SharedRow : Row, boost::intrusive_ref_counter<SharedRow, boost::thread_unsafe_counter> {
@@ -117,7 +122,12 @@ private:
 
     struct Entry {
         RowPointer row;
-        Rank rank;
+        std::uint64_t rankAndKeyEnd;
+
+        Entry(RowPointer pointer, Rank rank) : row(std::move(pointer)) { place(rank); }
+        Rank rank() const { return rankAndKeyEnd >> 16; }
+        KeyEnd keyEnd() const { return static_cast<KeyEnd>(rankAndKeyEnd); }
+        void place(Rank rank) { rankAndKeyEnd = rank << 16 | keyEndOf(row->key); }
     };
     /// What the index holds of an entry. Both may change as long as the key does not.
     struct IndexEntry {
@@ -140,6 +150,7 @@ private:
         }
     };
 
+    static KeyEnd keyEndOf(std::string_view key);
     std::size_t indexOf(int position) const;
     const Entry& entry(int position) const { return m_rows[indexOf(position)]; }
     Row& ownRow(int position);

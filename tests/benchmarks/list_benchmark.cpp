@@ -1,6 +1,11 @@
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <array>
+#include <cstdint>
 #include <ctime>
+#include <utility>
+#include <vector>
 
 #include "analyze/mapping.h"
 #include "analyze/statements.h"
@@ -20,19 +25,21 @@ double processorSeconds() {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-/// An analysis with so many strengths and as many opportunities, none of them mapped.
+/// An analysis with so many strengths and as many opportunities, all strengths but the first and
+/// the last mapped onto one threat. The rows lie in memory as a session that is opened lays them:
+/// list after list, and the rows of the picking lists held in common.
 class Session : public test::Bench {
 public:
     explicit Session(benchmark::State& state)
         : m_state(state), m_rows(static_cast<int>(state.range(0))) {
         start();
-        for (int i = 1; i <= m_rows; ++i) {
-            add(form().lvAStrength, 'S', i, 1);
-            add(form().lvStrengthOp, 'S', i, 1);
-            add(form().lvStrengthTh, 'S', i, 1);
-            add(form().lvAOpportunity, 'O', i, 3);
-            add(form().lvOpportunity, 'O', i, 3);
-        }
+        fill(form().lvAStrength, 'S', 1);
+        form().lvStrengthOp.addAll(form().lvAStrength);
+        form().lvStrengthTh.addAll(form().lvAStrength);
+        fill(form().lvAOpportunity, 'O', 3);
+        fill(form().lvOpportunity, 'O', 3);
+        form().lvThreat.add({.key = "T1", .text = "Threat", .image = 4, .largeImage = 4});
+        for (int i = 2; i < m_rows; ++i) add(form().lvThreat, "T1-S" + std::to_string(i), 1);
         form().keyCountS = form().keyCountO = m_rows;
     }
 
@@ -59,9 +66,11 @@ public:
     }
 
 private:
-    static void add(StatementList& list, char letter, int number, int image) {
-        const std::string key = letter + std::to_string(number);
+    static void add(StatementList& list, const std::string& key, int image) {
         list.add({.key = key, .text = "Statement " + key, .image = image, .largeImage = image});
+    }
+    void fill(StatementList& list, char letter, int image) const {
+        for (int i = 1; i <= m_rows; ++i) add(list, letter + std::to_string(i), image);
     }
 
     benchmark::State& m_state;
@@ -88,6 +97,27 @@ void removeAt(benchmark::State& state, bool first) {
 }
 void removeTheFirst(benchmark::State& state) { removeAt(state, true); }
 void removeTheLast(benchmark::State& state) { removeAt(state, false); }
+
+/// The least that a removal takes: a look at each row that may be mapped, and three lists close up.
+void removeFloor(benchmark::State& state, bool first) {
+    using List = std::vector<std::pair<const void*, std::uint64_t>>;
+    const auto rows = static_cast<std::size_t>(state.range(0));
+    std::array<List, 3> lists;
+    std::array<List, 2> mappings;
+    for (List& list : lists) list.resize(rows);
+    for (List& list : mappings) list.resize(rows);
+    const auto place = static_cast<std::ptrdiff_t>(first ? 0 : rows - 1);
+    for (auto _ : state) {
+        const double start = processorSeconds();
+        for (const List& list : mappings)
+            benchmark::DoNotOptimize(std::ranges::count(list, 1U, &List::value_type::second));
+        for (List& list : lists) list.erase(list.begin() + place);
+        state.SetIterationTime(processorSeconds() - start);
+        for (List& list : lists) list.emplace(list.begin() + place);
+    }
+}
+void removeTheFirstFloor(benchmark::State& state) { removeFloor(state, true); }
+void removeTheLastFloor(benchmark::State& state) { removeFloor(state, false); }
 
 void undoTheRemovalOfTheFirst(benchmark::State& state) {
     Session session(state);
@@ -127,6 +157,8 @@ BENCHMARK(addAtTheEnd)->Apply(apply);
 BENCHMARK(undoAnAddition)->Apply(apply);
 BENCHMARK(removeTheFirst)->Apply(apply);
 BENCHMARK(removeTheLast)->Apply(apply);
+BENCHMARK(removeTheFirstFloor)->Apply(apply);
+BENCHMARK(removeTheLastFloor)->Apply(apply);
 BENCHMARK(undoTheRemovalOfTheFirst)->Apply(apply);
 BENCHMARK(dragTheFirstToTheEnd)->Apply(apply);
 BENCHMARK(dragTheLastToTheTop)->Apply(apply);

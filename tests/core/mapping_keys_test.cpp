@@ -69,8 +69,8 @@ TEST_F(MappingRows, TakeTheNewTextOfTheirStatementUnderEveryParent) {
 
 TEST_F(MappingRows, TakeTheTextOfTheirWholeKeyAlone) {
     fill({"O1", "O1-S1", "O11"});
-    setTextOfKey(list, "O1", "new");
-    setTextOfKey(list, "O9", "nowhere");
+    setTextOfTopRows(list, "O1", "new");
+    setTextOfTopRows(list, "O9", "nowhere");
     EXPECT_EQ(bench.texts("lvOpportunity"), (Texts{"new", "O1-S1", "O11"}));
 }
 

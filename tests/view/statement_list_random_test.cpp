@@ -19,6 +19,11 @@ struct SimpleList {
         const auto found = std::ranges::find(rows, key, &ShownRow::key);
         return key.empty() || found == rows.end() ? 0 : static_cast<int>(found - rows.begin()) + 1;
     }
+    int findKeyEnding(const std::string& ending) const {
+        const auto found = std::ranges::find_if(
+            rows, [&](const ShownRow& row) { return row.key.ends_with(ending); });
+        return found == rows.end() ? 0 : static_cast<int>(found - rows.begin()) + 1;
+    }
     bool takes(const std::string& key) const { return positionOf(key) == 0; }
     int count() const { return static_cast<int>(rows.size()); }
 
@@ -72,6 +77,8 @@ public:
         for (int i = 0; i <= 300; ++i) {
             const std::string key = "S" + std::to_string(i);
             ASSERT_EQ(m_list.positionOf(key), m_simple.positionOf(key)) << key;
+            const std::string ending = std::to_string(i);
+            ASSERT_EQ(m_list.findKeyEnding(ending, 1), m_simple.findKeyEnding(ending)) << ending;
         }
     }
 

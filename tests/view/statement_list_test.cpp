@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <vector>
 
 #include "bench.h"
 #include "failure_of.h"
@@ -90,6 +91,27 @@ TEST_F(StatementListOfThree, TakesAKeyAgainThatWasGivenUp) {
     EXPECT_EQ(list.positionOf("S9"), 1);
     EXPECT_EQ(list.positionOf("S2"), 3);
     EXPECT_EQ(list.positionOf("S1"), 4);
+}
+
+TEST_F(StatementListOfThree, FindsItsRowsByTheEndOfTheirKeys) {
+    for (const char* key : {"O1-S2", "", "2", "O12"}) list.add(rowOf(key));
+    const auto found = [&](const char* ending) {
+        std::vector<int> positions;
+        for (int from = 1; (from = list.findKeyEnding(ending, from)) != 0; ++from)
+            positions.push_back(from);
+        return positions;
+    };
+    EXPECT_EQ(found("-S2"), (std::vector{4}));
+    EXPECT_EQ(found("S2"), (std::vector{2, 4}));
+    EXPECT_EQ(found("2"), (std::vector{2, 4, 6, 7}));
+    EXPECT_EQ(found(""), (std::vector{1, 2, 3, 4, 5, 6, 7}));
+    EXPECT_EQ(found("Q12"), std::vector<int>());
+}
+
+TEST_F(StatementListOfThree, FindsARowByTheEndOfItsNewKeyAlone) {
+    list.setKey(2, "S12");
+    EXPECT_EQ(list.findKeyEnding("12", 1), 2);
+    EXPECT_EQ(list.findKeyEnding("S2", 1), 0);
 }
 
 TEST_F(StatementListOfThree, SelectsNothingByItself) {
