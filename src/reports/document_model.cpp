@@ -12,11 +12,12 @@ namespace {
 
 /// An empty cell with the looks of another one.
 std::shared_ptr<DocumentCell> emptyLike(const DocumentCell& cell) {
-    auto fresh = std::make_shared<DocumentCell>(cell);
-    DocumentParagraph paragraph = fresh->story.lastParagraph();
-    paragraph.runs.clear();
+    const DocumentParagraph& like = cell.story.lastParagraph();
+    auto fresh = std::make_shared<DocumentCell>(CellLook(cell));
+    DocumentParagraph& paragraph = fresh->story.lastParagraph();
+    paragraph.format = like.format;
+    paragraph.mark = like.mark;
     paragraph.mark.bold = paragraph.mark.italic = false;
-    fresh->story.blocks.assign(1, paragraph);
     return fresh;
 }
 

@@ -50,21 +50,32 @@ using Block = std::variant<DocumentParagraph, std::shared_ptr<DocumentTable>>;
 /// Text and tables in order: the body of a document or the inside of a cell. The last block is
 /// a paragraph; nothing stands behind it.
 struct Story {
-    std::vector<Block> blocks{DocumentParagraph{}};
+    std::vector<Block> blocks = std::vector<Block>(1);
 
     DocumentParagraph& lastParagraph() { return std::get<DocumentParagraph>(blocks.back()); }
+    const DocumentParagraph& lastParagraph() const {
+        return std::get<DocumentParagraph>(blocks.back());
+    }
 };
 
 enum class TextDirection { Horizontal, Upward };
 
 inline constexpr int noColour = -1;
 
-struct DocumentCell {
-    Story story;
+struct CellLook {
     TextDirection direction = TextDirection::Horizontal;
     bool centredVertically = false;
     int shading = noColour;             // red in the low byte
     int rightEdge = 0, bottomEdge = 0;  // eighths of a point; 0: as the table's borders
+
+    friend bool operator==(const CellLook&, const CellLook&) = default;
+};
+
+struct DocumentCell : CellLook {
+    DocumentCell() = default;
+    explicit DocumentCell(const CellLook& look) : CellLook(look) {}
+
+    Story story;
 };
 
 struct DocumentRow {

@@ -55,13 +55,6 @@ double heightOf(const DocumentTable& table, double letter) {
     return height;
 }
 
-std::shared_ptr<DocumentTable> copyOf(const DocumentTable& table) {
-    auto copy = std::make_shared<DocumentTable>(table);
-    for (DocumentRow& row : copy->rows)
-        for (auto& cell : row.cells) cell = std::make_shared<DocumentCell>(*cell);
-    return copy;
-}
-
 const DocumentParagraph* firstParagraph(const DocumentRow& row) {
     return std::get_if<DocumentParagraph>(&row.cells.front()->story.blocks.front());
 }
@@ -91,23 +84,22 @@ void keepWithNext(DocumentRow& row, bool kept) {
 
 class Care {
 public:
-    explicit Care(const Document& document)
+    explicit Care(Document& document)
         : m_document(document),
           m_textWidth(document.page.width - document.page.left - document.page.right),
           m_textHeight(document.page.height - document.page.top - document.page.bottom),
           m_mostTogether(m_textHeight * shareOfPage) {}
 
-    Document take() {
+    void take() {
         std::vector<Block>& blocks = m_document.body.blocks;
         const auto afterLastTable = std::ranges::find_if(blocks.rbegin(), blocks.rend(), isTable);
         for (auto block = blocks.begin(); block != afterLastTable.base(); ++block)
             if (auto* table = std::get_if<std::shared_ptr<DocumentTable>>(&*block))
-                careFor(*(*table = copyOf(**table)));
+                careFor(**table);
             else
                 careFor(std::get<DocumentParagraph>(*block), isBlankBehindATable(block));
         if (isBlankBehindATable(std::prev(blocks.end())))
             m_document.body.lastParagraph().mark.size = lowestLine;  // a gap would need room here
-        return std::move(m_document);
     }
 
 private:
@@ -155,7 +147,7 @@ private:
 
     void count(bool kept, double height) { m_keptHeight = kept ? m_keptHeight + height : 0; }
 
-    Document m_document;
+    Document& m_document;
     double m_textWidth, m_textHeight, m_mostTogether;
     double m_keptHeight = 0;  // of all in front that is kept with what follows
 
@@ -166,6 +158,6 @@ private:
 
 }  // namespace
 
-Document withCareForPages(const Document& document) { return Care(document).take(); }
+void careForPages(Document& document) { Care(document).take(); }
 
 }  // namespace orvanta

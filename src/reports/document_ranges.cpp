@@ -198,9 +198,8 @@ public:
     void put(std::string_view member, const WordValue& value) override {
         if (member != "Text") return RangeObject::put(member, value);
         Story& story = onlyCell().story;
-        DocumentParagraph paragraph = story.lastParagraph();
-        paragraph.runs.clear();
-        story.blocks.assign(1, paragraph);
+        story.blocks.erase(story.blocks.begin(), std::prev(story.blocks.end()));
+        story.lastParagraph().runs.clear();
         insertText(story, {0, 0}, valueOf<WordText>(value));
     }
 

@@ -286,13 +286,17 @@ public:
 
     void call(std::string_view member, const WordArguments& arguments) override {
         if (member == "SaveAs")
-            m_session->disk.replace(argument<WordText>(arguments, 0),
-                                    rtfBytes(withCareForPages(*m_document)));
+            save(argument<WordText>(arguments, 0));
         else if (member != "Close")
             refuseMember();
     }
 
 private:
+    void save(const std::string& path) {
+        careForPages(*m_document);
+        m_session->disk.replace(path, rtfBytes(*m_document));
+    }
+
     WordObjectPtr bookmarks() {
         return std::make_shared<Collection>([document = m_document](const WordValue& name) {
             if (valueOf<WordText>(name) != "\\endofdoc")

@@ -11,13 +11,13 @@ namespace orvanta::documentmodel {
 [[noreturn]] inline void refuseMember() { throw Failure(ErrorNumber::InvalidCall); }
 
 template <class Kind>
-Kind valueOf(const WordValue& value) {
+const Kind& valueOf(const WordValue& value) {
     if (const Kind* found = std::get_if<Kind>(&value)) return *found;
     refuseMember();
 }
 
 template <class Kind>
-Kind argument(const WordArguments& arguments, std::size_t index) {
+const Kind& argument(const WordArguments& arguments, std::size_t index) {
     if (index >= arguments.size()) refuseMember();
     return valueOf<Kind>(arguments[index]);
 }

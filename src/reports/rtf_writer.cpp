@@ -1,7 +1,10 @@
 #include "reports/rtf_writer.h"
 
 #include <algorithm>
+#include <array>
 #include <cassert>
+#include <charconv>
+#include <iterator>
 #include <map>
 
 namespace orvanta {
@@ -17,28 +20,51 @@ constexpr int titleSize = 18;     // points, at least
 constexpr int headerHeight = 60;  // points, so that "Priority" upright is not cut
 constexpr int hairline = 10;      // twips
 
-std::string word(const char* name, int value) {
-    return std::string("\\") + name + std::to_string(value);
-}
+constexpr std::size_t bytesOfACell = 512;  // more than most take with their texts
+
+/// Text as it grows. A document of 10,000 rows takes half a million words, so none of them is made
+/// apart.
+class Rtf {
+public:
+    void reserve(std::size_t bytes) { m_bytes.reserve(bytes); }
+
+    Rtf& text(std::string_view text) {
+        m_bytes += text;
+        return *this;
+    }
+    Rtf& number(int value) {
+        std::array<char, 16> digits{};
+        const auto end = std::to_chars(digits.begin(), digits.end(), value).ptr;
+        return text({digits.data(), static_cast<std::size_t>(end - digits.data())});
+    }
+    Rtf& word(std::string_view name, int value) { return text("\\").text(name).number(value); }
+    Rtf& escaped(std::string_view text);
+
+    std::string take() { return std::move(m_bytes); }
+
+private:
+    std::string m_bytes;
+};
 
 /// Without the control characters: they can't be shown, and to a reader some of them end a line,
 /// a page or a cell. A tab is a word of its own.
-void appendEscaped(std::string& out, std::string_view text) {
+Rtf& Rtf::escaped(std::string_view text) {
     constexpr char hex[] = "0123456789abcdef";
     for (const char character : text) {
         const auto byte = static_cast<unsigned char>(character);
         if ((byte < 32 && character != '\t') || byte == 127) continue;
         if (character == '\\' || character == '{' || character == '}')
-            out.append(1, '\\').append(1, character);
+            m_bytes.append(1, '\\').append(1, character);
         else if (character == '\t')
-            out += "\\tab ";
+            m_bytes += "\\tab ";
         else if (byte == 0xA0)
-            out += "\\~";
+            m_bytes += "\\~";
         else if (byte > 126)
-            out.append("\\'").append(1, hex[byte >> 4]).append(1, hex[byte & 15]);
+            m_bytes.append("\\'").append(1, hex[byte >> 4]).append(1, hex[byte & 15]);
         else
-            out += character;
+            m_bytes += character;
     }
+    return *this;
 }
 
 std::string textOf(const DocumentParagraph& paragraph) {
@@ -57,21 +83,32 @@ bool isLowestLine(const DocumentParagraph& paragraph) {
 }
 
 /// Of a paragraph outside the tables.
-std::string styleOf(const DocumentParagraph& paragraph) {
+std::string_view styleOf(const DocumentParagraph& paragraph) {
     if (isTitle(paragraph)) return "\\s1\\outlinelevel0";
     return isLowestLine(paragraph) ? "\\s2" : "";
 }
+
+/// What the words ahead of a row's cells depend on, and the words.
+struct RowLook {
+    int padding;  // twips
+    bool bordered;
+    std::vector<int> widths;
+    std::vector<CellLook> cells;
+    std::string words;
+};
+
+const CellLook& lookOf(const std::shared_ptr<DocumentCell>& cell) { return *cell; }
 
 class Writer {
 public:
     explicit Writer(const Document& document) : m_document(document) { collect(document.body); }
 
     std::string bytes() {
+        m_out.reserve(m_cells * bytesOfACell);
         writeHead();
         writePage();
         writeStory(m_document.body, 0, "\\par");
-        m_out += "}";
-        return std::move(m_out);
+        return m_out.text("}").take();
     }
 
 private:
@@ -85,6 +122,7 @@ private:
             }
             for (const DocumentRow& row : std::get<std::shared_ptr<DocumentTable>>(block)->rows)
                 for (const auto& cell : row.cells) {
+                    ++m_cells;
                     if (cell->shading != noColour) m_colours.emplace(cell->shading, 0);
                     collect(cell->story);
                 }
@@ -92,22 +130,22 @@ private:
     }
 
     void writeHead() {
-        m_out = "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1033\\uc1\n{\\fonttbl";
+        m_out.text("{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1033\\uc1\n{\\fonttbl");
         m_fonts.emplace(CharacterFormat{}.font, 0);
         int number = 1;
         for (auto& [name, index] : m_fonts) {
             index = name == CharacterFormat{}.font ? 0 : number++;
-            m_out += "{" + word("f", index) + (name == "Arial" ? "\\fswiss" : "\\froman") +
-                     "\\fcharset0 " + name + ";}";
+            m_out.text("{").word("f", index).text(name == "Arial" ? "\\fswiss" : "\\froman");
+            m_out.text("\\fcharset0 ").text(name).text(";}");
         }
-        m_out += "}\n{\\colortbl;";
+        m_out.text("}\n{\\colortbl;");
         number = 1;
         for (auto& [colour, index] : m_colours) {
             index = number++;
-            m_out += word("red", colour & 255) + word("green", colour >> 8 & 255) +
-                     word("blue", colour >> 16 & 255) + ";";
+            m_out.word("red", colour & 255).word("green", colour >> 8 & 255);
+            m_out.word("blue", colour >> 16 & 255).text(";");
         }
-        m_out += "}\n";
+        m_out.text("}\n");
         writeStyles(firstTitle());
     }
 
@@ -122,30 +160,30 @@ private:
     /// The style of the titles looks as they do. The language is told here, since Writer takes no
     /// notice of the one at the head of the file; nor does it of the size of the last line's end.
     void writeStyles(const DocumentParagraph* title) {
-        m_out +=
-            "{\\stylesheet{\\ql\\widctlpar\\f0\\fs24\\lang1033 Normal;}{\\s2\\ql\\widctlpar\\f0" +
-            word("fs", lowestLine * 2) + "\\lang1033\\sbasedon0 behind a table;}";
+        m_out.text("{\\stylesheet{\\ql\\widctlpar\\f0\\fs24\\lang1033 Normal;}");
+        m_out.text("{\\s2\\ql\\widctlpar\\f0").word("fs", lowestLine * 2);
+        m_out.text("\\lang1033\\sbasedon0 behind a table;}");
         if (title) {
-            m_out += "{\\s1\\ql\\keepn\\widctlpar\\outlinelevel0\\lang1033";
+            m_out.text("{\\s1\\ql\\keepn\\widctlpar\\outlinelevel0\\lang1033");
             appendLook(title->runs.front().format);
-            m_out += "\\sbasedon0 heading 1;}}\n{\\info{\\title ";
-            appendEscaped(m_out, textOf(*title));
-            m_out += "}";
+            m_out.text("\\sbasedon0 heading 1;}}\n{\\info{\\title ")
+                .escaped(textOf(*title))
+                .text("}");
         }
-        m_out += "}\n";
+        m_out.text("}\n");
     }
 
     /// The page is told twice: readers differ in where they look.
     void writePage() {
         const PageSetup& page = m_document.page;
-        m_out += word("paperw", twips(page.width)) + word("paperh", twips(page.height)) +
-                 word("margl", twips(page.left)) + word("margr", twips(page.right)) +
-                 word("margt", twips(page.top)) + word("margb", twips(page.bottom)) +
-                 (page.landscape ? "\\landscape" : "") + "\\widowctrl\n";
-        m_out += "\\sectd" + word("pgwsxn", twips(page.width)) +
-                 word("pghsxn", twips(page.height)) + word("marglsxn", twips(page.left)) +
-                 word("margrsxn", twips(page.right)) + word("margtsxn", twips(page.top)) +
-                 word("margbsxn", twips(page.bottom)) + (page.landscape ? "\\lndscpsxn\n" : "\n");
+        m_out.word("paperw", twips(page.width)).word("paperh", twips(page.height));
+        m_out.word("margl", twips(page.left)).word("margr", twips(page.right));
+        m_out.word("margt", twips(page.top)).word("margb", twips(page.bottom));
+        m_out.text(page.landscape ? "\\landscape" : "").text("\\widowctrl\n\\sectd");
+        m_out.word("pgwsxn", twips(page.width)).word("pghsxn", twips(page.height));
+        m_out.word("marglsxn", twips(page.left)).word("margrsxn", twips(page.right));
+        m_out.word("margtsxn", twips(page.top)).word("margbsxn", twips(page.bottom));
+        m_out.text(page.landscape ? "\\lndscpsxn\n" : "\n");
     }
 
     /// `depth`: of tables around the story. `lastEnd`: the word that ends its last paragraph.
@@ -160,34 +198,38 @@ private:
     }
 
     void writeParagraph(const DocumentParagraph& paragraph, int depth, std::string_view end) {
-        m_out += "\\pard\\plain";
-        if (depth > 0) m_out += "\\intbl" + word("itap", depth);
-        if (depth == 0) m_out += styleOf(paragraph);
-        m_out += paragraph.format.alignment == Alignment::Centred ? "\\qc" : "\\ql";
-        m_out += "\\widctlpar";
-        m_out += word("sb", twips(paragraph.format.spaceBefore)) +
-                 word("sa", twips(paragraph.format.spaceAfter));
-        if (paragraph.format.keepWithNext) m_out += "\\keepn";
+        m_out.text("\\pard\\plain");
+        if (depth > 0)
+            m_out.text("\\intbl").word("itap", depth);
+        else
+            m_out.text(styleOf(paragraph));
+        m_out.text(paragraph.format.alignment == Alignment::Centred ? "\\qc" : "\\ql");
+        m_out.text("\\widctlpar").word("sb", twips(paragraph.format.spaceBefore));
+        m_out.word("sa", twips(paragraph.format.spaceAfter));
+        if (paragraph.format.keepWithNext) m_out.text("\\keepn");
         for (const TextRun& run : paragraph.runs) {
             openLook(run.format);
-            appendEscaped(m_out, run.text);
-            m_out += "}";
+            m_out.text(" ").escaped(run.text).text("}");
         }
         openLook(paragraph.mark);
-        m_out.pop_back();
-        m_out.append(end).append("}\n");
+        m_out.text(end).text("}\n");
     }
 
     /// A group with all looks told: one that is left out would leak from the text before.
     void openLook(const CharacterFormat& format) {
-        m_out += "{";
+        m_out.text("{");
         appendLook(format);
-        m_out += " ";
     }
 
     void appendLook(const CharacterFormat& format) {
-        m_out += word("f", m_fonts.at(format.font)) + word("fs", format.size * 2) +
-                 (format.bold ? "\\b" : "\\b0") + (format.italic ? "\\i" : "\\i0");
+        if (m_look.empty() || format != m_lookOf) {
+            Rtf look;
+            look.word("f", m_fonts.at(format.font)).word("fs", format.size * 2);
+            look.text(format.bold ? "\\b" : "\\b0").text(format.italic ? "\\i" : "\\i0");
+            m_look = look.take();
+            m_lookOf = format;
+        }
+        m_out.text(m_look);
     }
 
     void writeTable(const DocumentTable& table, int depth) {
@@ -197,11 +239,11 @@ private:
 
     void writeOuterRow(const DocumentTable& table, const DocumentRow& row) {
         const int height = row.repeatsAsHeader ? std::max(row.height, headerHeight) : row.height;
-        writeRowLook(
-            table, row, cellPadding, height,
-            std::string(row.repeatsAsHeader ? "\\trhdr" : "") + (row.staysWhole ? "\\trkeep" : ""));
+        openRowLook(cellPadding, height);
+        m_out.text(row.repeatsAsHeader ? "\\trhdr" : "").text(row.staysWhole ? "\\trkeep" : "");
+        writeCellLooks(table, row, cellPadding);
         for (const auto& cell : row.cells) writeStory(cell->story, 1, "\\cell");
-        m_out += "\\row\n";
+        m_out.text("\\row\n");
     }
 
     /// The properties of a nested row follow its cells. Readers without nested tables get a tab
@@ -210,51 +252,76 @@ private:
     void writeNestedRow(const DocumentTable& table, const DocumentRow& row, int depth) {
         for (const auto& cell : row.cells) {
             writeStory(cell->story, depth, "\\nestcell");
-            if (&cell != &row.cells.back()) m_out += "{\\nonesttables\\tab}";
+            if (&cell != &row.cells.back()) m_out.text("{\\nonesttables\\tab}");
         }
-        m_out += "{\\*\\nesttableprops";
-        writeRowLook(table, row, 0, row.height, "");
-        m_out += "\\nestrow}{\\nonesttables\\line}\n";
+        m_out.text("{\\*\\nesttableprops");
+        openRowLook(0, row.height);
+        writeCellLooks(table, row, 0);
+        m_out.text("\\nestrow}{\\nonesttables\\line}\n");
     }
 
-    void writeRowLook(const DocumentTable& table, const DocumentRow& row, int padding, int height,
-                      std::string_view flag) {
-        m_out += "\\trowd" + word("trgaph", padding) + word("trleft", -padding);
-        if (height > 0) m_out += word("trrh", twips(height));
-        m_out.append(flag) +=
-            word("trpaddl", padding) + word("trpaddr", padding) + "\\trpaddfl3\\trpaddfr3\n";
+    void openRowLook(int padding, int height) {
+        m_out.text("\\trowd").word("trgaph", padding).word("trleft", -padding);
+        if (height > 0) m_out.word("trrh", twips(height));
+    }
+
+    /// Most rows look as one before them did, whose words are written again.
+    void writeCellLooks(const DocumentTable& table, const DocumentRow& row, int padding) {
         assert(row.cells.size() <= table.columnWidths.size());
-        int right = -padding;
-        for (std::size_t column = 0; column < row.cells.size(); ++column) {
-            const int width = twips(table.columnWidths[column]);
-            writeCellLook(*row.cells[column], table.hasBorders);
-            writePadding(*row.cells[column],
-                         padding > 0 && table.columnWidths[column] < narrowColumn);
-            m_out +=
-                "\\clftsWidth3" + word("clwWidth", width) + word("cellx", right += width) + "\n";
+        const auto isSame = [&](const RowLook& look) {
+            return look.padding == padding && look.bordered == table.hasBorders &&
+                   look.widths == table.columnWidths &&
+                   std::ranges::equal(look.cells, row.cells, {}, {}, &lookOf);
+        };
+        auto known = std::ranges::find_if(m_rowLooks, isSame);
+        if (known == m_rowLooks.end()) {
+            RowLook look{padding, table.hasBorders, table.columnWidths, {}, {}};
+            std::ranges::transform(row.cells, std::back_inserter(look.cells), &lookOf);
+            look.words = wordsOf(look);
+            known = m_rowLooks.insert(known, std::move(look));
         }
+        m_out.text(known->words);
     }
 
-    void writeCellLook(const DocumentCell& cell, bool bordered) {
-        if (cell.centredVertically) m_out += "\\clvertalc";
-        if (bordered) {
-            m_out += "\\clbrdrt\\brdrs" + word("brdrw", hairline) + "\\clbrdrl\\brdrs" +
-                     word("brdrw", hairline);
-            m_out += "\\clbrdrb\\brdrs" + word("brdrw", edgeWidth(cell.bottomEdge));
-            m_out += "\\clbrdrr\\brdrs" + word("brdrw", edgeWidth(cell.rightEdge));
+    std::string wordsOf(const RowLook& look) const {
+        Rtf out;
+        out.word("trpaddl", look.padding).word("trpaddr", look.padding);
+        out.text("\\trpaddfl3\\trpaddfr3\n");
+        int right = -look.padding;
+        for (std::size_t column = 0; column < look.cells.size(); ++column) {
+            const int width = twips(look.widths[column]);
+            writeCellLook(out, look.cells[column], look.bordered);
+            writePadding(out, look.cells[column],
+                         look.padding > 0 && look.widths[column] < narrowColumn);
+            out.text("\\clftsWidth3").word("clwWidth", width).word("cellx", right += width);
+            out.text("\n");
         }
-        if (cell.shading != noColour) m_out += word("clcbpat", m_colours.at(cell.shading));
-        m_out += cell.direction == TextDirection::Upward ? "\\cltxbtlr" : "\\cltxlrtb";
+        return out.take();
+    }
+
+    void writeCellLook(Rtf& out, const CellLook& cell, bool bordered) const {
+        if (cell.centredVertically) out.text("\\clvertalc");
+        if (bordered) {
+            out.text("\\clbrdrt\\brdrs").word("brdrw", hairline);
+            out.text("\\clbrdrl\\brdrs").word("brdrw", hairline);
+            out.text("\\clbrdrb\\brdrs").word("brdrw", edgeWidth(cell.bottomEdge));
+            out.text("\\clbrdrr\\brdrs").word("brdrw", edgeWidth(cell.rightEdge));
+        }
+        if (cell.shading != noColour) out.word("clcbpat", m_colours.at(cell.shading));
+        out.text(cell.direction == TextDirection::Upward ? "\\cltxbtlr" : "\\cltxlrtb");
     }
 
     /// Upward text keeps off the edges that its line begins and ends at, as other text does. The
     /// left and the upper edge are told alike: readers take the words for each other.
-    void writePadding(const DocumentCell& cell, bool tight) {
+    static void writePadding(Rtf& out, const CellLook& cell, bool tight) {
         const bool upward = cell.direction == TextDirection::Upward;
         if (!upward && !tight) return;
-        for (const char edge : std::string_view(upward ? "ltbr" : "ltr"))
-            m_out.append("\\clpad").append(1, edge) +=
-                std::to_string(upward ? cellPadding : tightPadding) + "\\clpadf" + edge + "3";
+        const int padding = upward ? cellPadding : tightPadding;
+        for (const std::string_view edge : {"l", "t", "b", "r"}) {
+            if (edge == "b" && !upward) continue;
+            out.text("\\clpad").text(edge).number(padding);
+            out.text("\\clpadf").text(edge).text("3");
+        }
     }
 
     static int edgeWidth(int eighths) { return eighths == 0 ? hairline : eighths * 20 / 8; }
@@ -262,7 +329,11 @@ private:
     const Document& m_document;
     std::map<std::string, int> m_fonts;
     std::map<int, int> m_colours;
-    std::string m_out;
+    std::size_t m_cells = 0;
+    std::vector<RowLook> m_rowLooks;
+    CharacterFormat m_lookOf;  // the last one that was written
+    std::string m_look;        // and its words
+    Rtf m_out;
 };
 
 }  // namespace
