@@ -20,9 +20,9 @@ constexpr int titleSize = 18;     // points, at least
 constexpr int headerHeight = 60;  // points, so that "Priority" upright is not cut
 constexpr int hairline = 10;      // twips
 
-constexpr std::size_t bytesOfACell = 512;  // more than most take with their texts
+constexpr std::size_t bytesOfACell = 320;  // as much as a short text takes with its looks
 
-/// Text as it grows. A document of 10,000 rows takes half a million words, so none of them is made
+/// Text as it grows. A document of 10,000 rows takes over a million words, so none of them is made
 /// apart.
 class Rtf {
 public:
