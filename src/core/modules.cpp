@@ -6,7 +6,7 @@ namespace orvanta {
 
 namespace {
 
-std::string wordOf(const Module& module) {
+std::string wordOfModule(const Module& module) {
     std::string word(module.code);
     for (char& letter : word) letter = static_cast<char>(letter - 'a' + 'A');
     return word;
@@ -27,11 +27,11 @@ std::string chosenCode(const FrmMain& form) {
 
 std::string chosenModuleWord(const FrmMain& form) {
     const Module* module = chosenModule(form);
-    return module ? wordOf(*module) : std::string();
+    return module ? wordOfModule(*module) : std::string();
 }
 
 void chooseModuleByWord(FrmMain& form, std::string_view word) {
-    const auto* found = std::ranges::find(modules, word, wordOf);
+    const auto* found = std::ranges::find(modules, word, wordOfModule);
     if (found != modules.end()) (form.*found->option).setOn(true);
 }
 

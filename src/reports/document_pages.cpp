@@ -12,7 +12,7 @@ namespace {
 constexpr double narrowLetter = 0.45, wideLetter = 0.7;
 constexpr double lineHeight = 1.15;
 
-constexpr double cellPadding = 11;  // points, both sides
+constexpr double cellSides = 11;  // points, left and right of its text
 
 // What must not be torn leaves room on its page: Writer drops the lines of a row that is held
 // together and turns out higher than a page.
@@ -36,7 +36,7 @@ double heightOf(const DocumentCell& cell, double width, double letter) {
     double height = 0;
     for (const Block& block : cell.story.blocks)
         if (const auto* paragraph = std::get_if<DocumentParagraph>(&block))
-            height += heightOf(*paragraph, width - cellPadding, letter);
+            height += heightOf(*paragraph, width - cellSides, letter);
         else
             height += heightOf(*std::get<std::shared_ptr<DocumentTable>>(block), letter);
     return height;

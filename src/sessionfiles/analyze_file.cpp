@@ -22,11 +22,11 @@ namespace orvanta {
 
 namespace {
 
-constexpr std::array knownSections{
+constexpr std::array analyzeSections{
     Section::Step,        Section::Module,  Section::Strength,           Section::Weakness,
     Section::Opportunity, Section::Threats, Section::OpportunityMapping, Section::ThreatMapping};
 
-constexpr auto stepCodes = [] {
+constexpr auto analyzeSteps = [] {
     std::array<StepCode, countOf<AnalyzeStep> - 1> codes{};  // the source files have none
     for (auto next = codes.begin(); const StepControls& step : stepControls)
         if (step.panel) *next++ = {step.code, step.panel};
@@ -70,13 +70,13 @@ double leadingNumber(std::string_view text) {
     return result.ec == std::errc{} && digits ? value : 0;
 }
 
-class Reading {
+class AnalyzeReading {
 public:
-    Reading(FrmMain& form, bool restoreStep) : m_form(form), m_restoreStep(restoreStep) {}
+    AnalyzeReading(FrmMain& form, bool restoreStep) : m_form(form), m_restoreStep(restoreStep) {}
 
     void operator()(Section section, std::string_view line, std::string_view trimmed) {
         if (section == Section::Step) {
-            if (m_restoreStep) showStep(m_form, stepCodes, trimmed);
+            if (m_restoreStep) showStep(m_form, analyzeSteps, trimmed);
             return;
         }
         if (section == Section::Module) return chooseModuleByWord(m_form, trimmed);
@@ -131,7 +131,7 @@ private:
 
 std::string analyzeBytes(const FrmMain& form, bool withStep) {
     SectionWriter writer;
-    if (withStep) writer.section(Section::Step, stepCodeOnScreen(form, stepCodes));
+    if (withStep) writer.section(Section::Step, stepCodeOnScreen(form, analyzeSteps));
     writer.section(Section::Module, chosenModuleWord(form));
     for (const StatementKind kind : statementKinds)
         writeRows(writer, kindControls[kind].section, listOf(form, Session::Analyze, kind));
@@ -149,8 +149,8 @@ void saveAnalyzeData(Program& program, const std::string& fileName, bool TmpFlag
 
 void loadAnalyzeData(Program& program, const std::string& fileName, bool restoreStep) {
     // A step stands in the temporary file alone.
-    readSession(program, fileName, restoreStep, knownSections,
-                Reading(program.frmMain, restoreStep));
+    readSession(program, fileName, restoreStep, analyzeSections,
+                AnalyzeReading(program.frmMain, restoreStep));
 }
 
 }  // namespace orvanta

@@ -27,11 +27,11 @@ constexpr PerKind<Escaping> escapings{{
     {StatementKind::Threat, {.written = false, .read = false}},
 }};
 
-constexpr std::array knownSections{Section::Step,     Section::Name,     Section::Module,
-                                   Section::Strength, Section::Weakness, Section::Opportunity,
-                                   Section::Threats};
+constexpr std::array brainstormSections{Section::Step,     Section::Name,     Section::Module,
+                                        Section::Strength, Section::Weakness, Section::Opportunity,
+                                        Section::Threats};
 
-constexpr auto stepCodes = [] {
+constexpr auto brainstormSteps = [] {
     std::array<StepCode, countOf<StatementKind>> codes{};
     for (auto next = codes.begin(); const StatementKind kind : statementKinds)
         *next++ = {kindWords[kind].stepCode, kindControls[kind].questionPanel};
@@ -47,14 +47,14 @@ std::string readText(StatementKind kind, std::string_view trimmed) {
     return escapings[kind].read ? replaceAll(trimmed, "&lt;", "<") : std::string(trimmed);
 }
 
-class Reading {
+class BrainstormReading {
 public:
-    Reading(Program& program, Session into, bool restoreStep)
+    BrainstormReading(Program& program, Session into, bool restoreStep)
         : m_program(program), m_form(program.frmMain), m_into(into), m_restoreStep(restoreStep) {}
 
     void operator()(Section section, std::string_view line, std::string_view trimmed) {
         if (section == Section::Step) {
-            if (m_restoreStep) showStep(m_form, stepCodes, trimmed);
+            if (m_restoreStep) showStep(m_form, brainstormSteps, trimmed);
         } else if (section == Section::Name) {
             m_form.txtName.setText(std::string(line));
             m_sourceLabel = "[" + std::string(trimmed) + "]: ";
@@ -86,7 +86,7 @@ private:
 
 std::string brainstormBytes(const FrmMain& form, bool withStep) {
     SectionWriter writer;
-    if (withStep) writer.section(Section::Step, stepCodeOnScreen(form, stepCodes));
+    if (withStep) writer.section(Section::Step, stepCodeOnScreen(form, brainstormSteps));
     writer.section(Section::Name, form.txtName.text());
     writer.section(Section::Module, chosenModuleWord(form));
     for (const StatementKind kind : statementKinds) {
@@ -111,7 +111,8 @@ void loadBrainstormData(Program& program, const std::string& fileName, std::stri
                         bool restoreStep) {
     const Session into = target == "BS" ? Session::Brainstorm : Session::Analyze;
     // A step stands in the temporary file alone.
-    readSession(program, fileName, restoreStep, knownSections, Reading(program, into, restoreStep));
+    readSession(program, fileName, restoreStep, brainstormSections,
+                BrainstormReading(program, into, restoreStep));
 }
 
 }  // namespace orvanta

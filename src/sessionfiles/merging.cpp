@@ -18,8 +18,8 @@ namespace orvanta {
 namespace {
 
 // Names and steps of the sources are no part of a merged file.
-constexpr std::array knownSections{Section::Module, Section::Strength, Section::Weakness,
-                                   Section::Opportunity, Section::Threats};
+constexpr std::array mergedSections{Section::Module, Section::Strength, Section::Weakness,
+                                    Section::Opportunity, Section::Threats};
 
 struct Merged {
     std::string moduleWord;
@@ -27,7 +27,7 @@ struct Merged {
 };
 
 void readSource(std::string_view bytes, Merged& merged) {
-    readSections(bytes, knownSections,
+    readSections(bytes, mergedSections,
                  [&](Section section, std::string_view, std::string_view trimmed) {
                      if (section == Section::Module)
                          merged.moduleWord = trimmed;

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <set>
+#include <string>
 
 #include "analysis_bench.h"
 #include "recorder.h"
@@ -159,13 +161,14 @@ TEST(WordReportFailures, WhateverFailsTheProgramsOwnWriterLeavesAWholeDocumentOr
     ReportBench bench;
     DocumentWriter writer(bench.disk);
     const int uses = usesOfAWholeRun();
+    std::set<std::string> read;  // most failures leave the same document
     for (int use = 1; use <= uses; ++use) {
         bench.disk.files.erase("docs/team.rtf");
         Recorder recorder(writer);
         recorder.failUse(use);
         ASSERT_NO_THROW(bench.makeDocument(recorder)) << use;
         const auto saved = bench.disk.files.find("docs/team.rtf");
-        if (saved == bench.disk.files.end()) continue;
+        if (saved == bench.disk.files.end() || !read.insert(saved->second).second) continue;
         ASSERT_NO_THROW(readRtf(saved->second)) << use;
     }
 }
