@@ -206,6 +206,7 @@ void SplashDialog::keyPressEvent(QKeyEvent*) { accept(); }
 void SplashDialog::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     drawPicture(painter, rect(), QStringLiteral("splash"));
+    if (m_whenSeen) QTimer::singleShot(0, this, std::exchange(m_whenSeen, nullptr));
 }
 
 }  // namespace orvanta::desktop

@@ -72,11 +72,16 @@ class SplashDialog : public QDialog {
 public:
     SplashDialog(Program& program, const FrmSplash& form);
 
+    void whenSeen(std::function<void()> act) { m_whenSeen = std::move(act); }
+
     int exec() override;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    std::function<void()> m_whenSeen;
 };
 
 }  // namespace orvanta::desktop

@@ -116,8 +116,13 @@ int main(int argc, char** argv) {
     DesktopPlatform desktop(disk);
     desktop.platform().failedSaves = &rescuedSaves;
     Program program(desktop.platform(), pathFromNative(ofProgram), pathFromNative(*scratch));
-    MainWindow window(program);
-    window.tellOf(rescuedSaves);
+    // Its many widgets take longer to make than all that a person sees at first.
+    std::optional<MainWindow> window;
+    const auto makeWindow = [&] {
+        if (window) return;
+        window.emplace(program);
+        window->tellOf(rescuedSaves);
+    };
     const AutoSaveTimer autoSave(program);
     bool ended = false;
     end = [&] {
@@ -125,13 +130,16 @@ int main(int argc, char** argv) {
         copyUnsavedSession(program);
         QCoreApplication::exit();
     };
-    raise = [&window] { bringToFront(window); };
+    raise = [&window] {
+        if (window) bringToFront(*window);
+    };
     QObject::connect(
-        &application, &QGuiApplication::commitDataRequest, &window,
+        &application, &QGuiApplication::commitDataRequest, &application,
         [&program](QSessionManager& manager) { prepareForEndOfSession(program, manager); });
-    desktop.setProgram(program);
+    desktop.setProgram(program, makeWindow);
     const LastCopy lastCopy(application, [&program] { copyUnsavedSession(program); });
     startProgram(program);
+    makeWindow();  // the splash may have failed
     rescuedSaves.keepSessionsNotShown(program.frmMain);
     const int result = ended ? EXIT_SUCCESS : QApplication::exec();
     // A dialog that stood open at the end has given its session back only now.

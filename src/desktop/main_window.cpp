@@ -144,6 +144,8 @@ MainWindow::MainWindow(Program& program)
     form.shownChanged.subscribe([this] { showShown(); });
     showCaption();
     showSize();
+    screenMayDiffer();
+    if (form.shown) showShown();
 }
 
 void MainWindow::tellOf(RescuedSaves& saves) {

@@ -96,7 +96,12 @@ Program& DesktopForms::program() const {
     return *m_program;
 }
 
-void DesktopForms::run(FrmSplash& form) { SplashDialog(program(), form).exec(); }
+void DesktopForms::run(FrmSplash& form) {
+    SplashDialog splash(program(), form);
+    splash.whenSeen(m_behindSplash);
+    splash.exec();
+    m_behindSplash();
+}
 void DesktopForms::run(FrmEdit& form) { EditDialog(program(), form, owner()).exec(); }
 void DesktopForms::run(FrmAbout& form) { AboutDialog(program(), form, owner()).exec(); }
 

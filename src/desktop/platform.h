@@ -55,7 +55,11 @@ public:
 
 class DesktopForms : public ModalForms {
 public:
-    void setProgram(Program& program) { m_program = &program; }
+    /// `behindSplash` is done as soon as the splash is seen, and again when it has gone.
+    void setProgram(Program& program, std::function<void()> behindSplash = [] {}) {
+        m_program = &program;
+        m_behindSplash = std::move(behindSplash);
+    }
 
     void run(FrmSplash& form) override;
     void run(FrmEdit& form) override;
@@ -68,6 +72,7 @@ private:
     Program& program() const;
 
     Program* m_program = nullptr;
+    std::function<void()> m_behindSplash;
     QPointer<ReportDialog> m_report;
 };
 
@@ -96,7 +101,9 @@ public:
 
     Platform& platform() { return m_platform; }
     /// Called before the program starts.
-    void setProgram(Program& program) { m_forms.setProgram(program); }
+    void setProgram(Program& program, std::function<void()> behindSplash) {
+        m_forms.setProgram(program, std::move(behindSplash));
+    }
     /// False if the system's sound doesn't answer.
     bool endSound() { return m_player->end(); }
 

@@ -1,10 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QtTest>
+#include <algorithm>
 #include <set>
 #include <vector>
 
 #include "desktop/dialogs.h"
+#include "desktop/platform.h"
 #include "window_bench.h"
 
 namespace orvanta::test {
@@ -52,6 +55,34 @@ TEST(Splash, EndsAtAKeyThatIsPressedWhileItComesUp) {
     QTimer::singleShot(0, &splash, [&splash] { QTest::keyClick(&splash, Qt::Key_Space); });
     splash.exec();  // comes back when it has ended
     EXPECT_FALSE(splash.isVisible());
+}
+
+TEST(Splash, LetsTheWindowBeMadeOnceItIsSeenAndBeforeItGoes) {
+    Bench bench;
+    DesktopForms forms;
+    FrmSplash form;
+    std::vector<bool> seen;
+    forms.setProgram(bench.program(), [&seen] {
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        seen.push_back(std::ranges::any_of(windows, &QWidget::isVisible));
+    });
+    forms.run(form);
+    EXPECT_EQ(seen, (std::vector{true, false}));
+}
+
+TEST(Splash, LetsTheWindowBeMadeAlsoWhereNobodySeesIt) {
+    Bench bench;
+    DesktopForms forms;
+    FrmSplash form;
+    int made = 0;
+    forms.setProgram(bench.program(), [&made] { ++made; });
+    // A key ends it before it is painted.
+    QTimer::singleShot(0, [] {
+        for (QWidget* window : QApplication::topLevelWidgets())
+            QTest::keyClick(window, Qt::Key_Space);
+    });
+    forms.run(form);
+    EXPECT_GE(made, 1);
 }
 
 TEST(Splash, FillsItsFormWithThePicture) {
