@@ -121,7 +121,7 @@ header('Content-Type: text/html; charset=utf-8');
   <li>Type your name, choose <b><?= escaped($module) ?></b> and press <b>Next&gt;&gt;</b>.</li>
   <li>Type your answers one at a time, and press Enter after each. Press <b>Next&gt;&gt;</b> for the next
     question. No answer is wrong, and you can leave a question out.</li>
-  <li>After the last question press <b>Save...</b> and give your file a name.</li>
+  <li>At the last question press <b>Save...</b> and give your file a name.</li>
 </ol>
 
 <h2>3. Hand in your file</h2>
