@@ -215,9 +215,17 @@ void flushNamed(const std::wstring& path) {
     if (file.isOpen()) FlushFileBuffers(file.get());
 }
 
+/// A read-only file can be neither replaced nor removed.
+DWORD withoutReadOnly(DWORD attributes) {
+    return attributes & ~static_cast<DWORD>(FILE_ATTRIBUTE_READONLY);
+}
+
 /// The former file's rights, attributes and further streams pass to the one that takes its place.
-/// An error of the system; 0 for none.
+/// Only a file of the program's own is still read-only here. An error of the system; 0 for none.
 DWORD replaceFormer(const std::wstring& former, const std::wstring& by) {
+    const DWORD attributes = GetFileAttributesW(former.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY))
+        SetFileAttributesW(former.c_str(), withoutReadOnly(attributes));
     // Asked before: where the former file must stay, some systems leave pieces of the attempt.
     if (!Handle(openAs(former, DELETE, 0)).isOpen()) return GetLastError();
     if (!ReplaceFileW(former.c_str(), by.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
@@ -450,7 +458,7 @@ void NewFile::takeUsualRights() { m_rights = Rights::OfFolder; }
 void NewFile::takeRightsOf(const std::string& former) {
     const DWORD attributes = GetFileAttributesW(longName(former).c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) fail(former);
-    SetFileAttributesW(longName(m_file.name()).c_str(), attributes);
+    SetFileAttributesW(longName(m_file.name()).c_str(), withoutReadOnly(attributes));
     m_rights = Rights::OfFormer;
 }
 
