@@ -474,8 +474,10 @@ void NewFile::takePlace(const std::string& name) {
                                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
     if (m_inPlace) return;
     const DWORD moveError = GetLastError();
-    // The former file has gone by then: the new one must not go too, though its name is passing.
-    m_inPlace = error == ERROR_UNABLE_TO_MOVE_REPLACEMENT;
+    // The former file has gone by then, or has a name that nobody knows: the new one must not go
+    // too, though its name is passing.
+    m_inPlace =
+        error == ERROR_UNABLE_TO_MOVE_REPLACEMENT || error == ERROR_UNABLE_TO_MOVE_REPLACEMENT_2;
     failInFolder(moveError, name);
 }
 
