@@ -287,7 +287,7 @@ std::string usableName(std::string_view name) {
 std::vector<std::string> namesIn(const std::string& folder) {
     std::vector<std::string> names;
     WIN32_FIND_DATAW entry;
-    const HANDLE search = FindFirstFileW((longName(folder) + LR"(\*)").c_str(), &entry);
+    const HANDLE search = FindFirstFileW(longName(folder + R"(\*)").c_str(), &entry);
     if (search == INVALID_HANDLE_VALUE) return names;
     do {
         const std::string name = utf8From(entry.cFileName);

@@ -152,6 +152,17 @@ TEST(FolderOnWindows, OfAFileAtTheTopOfADriveIsTheDrive) {
     EXPECT_EQ(native::folderOf("C:/docs/team.bsm"), "C:/docs");
 }
 
+TEST(FolderOnWindows, OfAFileOfADriveIsWhereTheSystemStandsOnThatDrive) {
+    EXPECT_EQ(native::folderOf("C:team.bsm"), "C:.");
+    EXPECT_EQ(native::folderOf(R"(C:docs\team.bsm)"), "C:docs");
+    EXPECT_EQ(native::folderOf("team.bsm"), ".");
+}
+
+TEST_F(WindowsDisk, LooksIntoAFolderWithASeparatorBehindItsName) {
+    for (const std::string separator : {"", "\\", "\\\\", "/"})
+        EXPECT_EQ(native::namesIn(folder.path() + separator), Names{"file"}) << separator;
+}
+
 TEST(LongName, IsTheWholePathInTheFormWithoutALimit) {
     EXPECT_EQ(native::longName(R"(C:\docs\..\team.bsm)"), LR"(\\?\C:\team.bsm)");
     EXPECT_EQ(native::longName("//server/share/team.bsm"), LR"(\\?\UNC\server\share\team.bsm)");
