@@ -1,7 +1,6 @@
 #include <windows.h>
 
 #include <functional>
-#include <utility>
 
 #include "real_disk.h"
 #include "view/windows_names.h"
@@ -9,9 +8,12 @@
 namespace orvanta::test {
 namespace {
 
-/// What stands before a call of the system: its result for these two names, a last error with it.
-using Stand = std::function<WINBOOL(LPCWSTR name, LPCWSTR other)>;
+/// Stands before a call of the system with two names: the error with which it fails, 0 for the
+/// call itself.
+using Stand = std::function<DWORD(LPCWSTR name, LPCWSTR other)>;
 Stand beforeReplacing, beforeMoving;
+/// Stands behind a call that another program keeps from opening a file.
+std::function<void()> whenHeld;
 
 template <class Call>
 Call systemCall(const char* name) {
@@ -19,16 +21,32 @@ Call systemCall(const char* name) {
         reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32"), name)));
 }
 
+bool fails(const Stand& stand, LPCWSTR name, LPCWSTR other) {
+    const DWORD error = stand ? stand(name, other) : 0;
+    if (error) SetLastError(error);
+    return error;
+}
+
 WINBOOL WINAPI replaceFile(LPCWSTR former, LPCWSTR by, LPCWSTR kept, DWORD flags, LPVOID first,
                            LPVOID second) {
     static const auto call = systemCall<decltype(&ReplaceFileW)>("ReplaceFileW");
-    return beforeReplacing ? beforeReplacing(former, by)
-                           : call(former, by, kept, flags, first, second);
+    return !fails(beforeReplacing, former, by) && call(former, by, kept, flags, first, second);
 }
 
 WINBOOL WINAPI moveFile(LPCWSTR from, LPCWSTR to, DWORD flags) {
     static const auto call = systemCall<decltype(&MoveFileExW)>("MoveFileExW");
-    return beforeMoving ? beforeMoving(from, to) : call(from, to, flags);
+    return !fails(beforeMoving, from, to) && call(from, to, flags);
+}
+
+HANDLE WINAPI createFile(LPCWSTR name, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
+                         DWORD how, DWORD flags, HANDLE like) {
+    static const auto call = systemCall<decltype(&CreateFileW)>("CreateFileW");
+    const HANDLE file = call(name, access, share, security, how, flags, like);
+    if (file == INVALID_HANDLE_VALUE && GetLastError() == ERROR_SHARING_VIOLATION && whenHeld) {
+        whenHeld();
+        SetLastError(ERROR_SHARING_VIOLATION);
+    }
+    return file;
 }
 
 }  // namespace
@@ -37,36 +55,38 @@ WINBOOL WINAPI moveFile(LPCWSTR from, LPCWSTR to, DWORD flags) {
 extern "C" {
 decltype(&ReplaceFileW) __imp_ReplaceFileW = orvanta::test::replaceFile;
 decltype(&MoveFileExW) __imp_MoveFileExW = orvanta::test::moveFile;
+decltype(&CreateFileW) __imp_CreateFileW = orvanta::test::createFile;
 }
 
 namespace orvanta::test {
 namespace {
 
-constexpr DWORD unableToMoveReplacement = 1176, unableToMoveReplacement2 = 1177;
-
-WINBOOL failed(DWORD error) {
-    SetLastError(error);
-    return FALSE;
-}
-
-/// The system gives up half-way through replacing a file.
-class HalfReplacedFile : public RealDisk {
+class ReplacedFile : public RealDisk {
 protected:
-    HalfReplacedFile() { folder.write("file", "former"); }
-    ~HalfReplacedFile() override { beforeReplacing = beforeMoving = nullptr; }
+    ReplacedFile() { folder.write("file", "former"); }
+    ~ReplacedFile() override {
+        beforeReplacing = beforeMoving = nullptr;
+        whenHeld = nullptr;
+    }
+};
 
+/// The system gives up half-way.
+class HalfReplacedFile : public ReplacedFile {
+protected:
     /// The former file has gone.
-    static WINBOOL goneWithoutSuccessor(LPCWSTR former, LPCWSTR) {
+    static DWORD removeFormer(LPCWSTR former, LPCWSTR) {
         DeleteFileW(former);
-        return failed(unableToMoveReplacement);
+        return ERROR_UNABLE_TO_MOVE_REPLACEMENT;
     }
     /// The former file has another name.
-    WINBOOL putAside(LPCWSTR former, LPCWSTR) const {
-        MoveFileW(former, native::longName(folder / "aside").c_str());
-        return failed(unableToMoveReplacement2);
-    }
     Stand puttingAside() const {
-        return [this](LPCWSTR former, LPCWSTR by) { return putAside(former, by); };
+        return [this](LPCWSTR former, LPCWSTR) -> DWORD {
+            MoveFileW(former, native::longName(folder / "aside").c_str());
+            return ERROR_UNABLE_TO_MOVE_REPLACEMENT_2;
+        };
+    }
+    static Stand failing(DWORD error) {
+        return [error](LPCWSTR, LPCWSTR) { return error; };
     }
 
     /// What the files of the folder hold.
@@ -78,7 +98,7 @@ protected:
 };
 
 TEST_F(HalfReplacedFile, IsMadeWhole) {
-    beforeReplacing = goneWithoutSuccessor;
+    beforeReplacing = removeFormer;
     EXPECT_EQ(errorOfReplacing(folder / "file"), noError);
     EXPECT_EQ(folder.names(), Names{"file"});
     EXPECT_EQ(folder.read("file"), "new");
@@ -94,8 +114,8 @@ TEST_F(HalfReplacedFile, WhoseFormerOneWasPutAsideIsMadeWhole) {
 TEST_F(HalfReplacedFile, LeavesTheNewBytesWhereTheFormerOnesHaveGone) {
     for (const DWORD error : {ERROR_ACCESS_DENIED, ERROR_DISK_FULL}) {
         folder.write("file", "former");
-        beforeReplacing = goneWithoutSuccessor;
-        beforeMoving = [error](LPCWSTR, LPCWSTR) { return failed(error); };
+        beforeReplacing = removeFormer;
+        beforeMoving = failing(error);
         EXPECT_NE(errorOfReplacing(folder / "file"), noError);
     }
     EXPECT_EQ(contents(), (Names{"new", "new"}));
@@ -103,17 +123,81 @@ TEST_F(HalfReplacedFile, LeavesTheNewBytesWhereTheFormerOnesHaveGone) {
 
 TEST_F(HalfReplacedFile, LeavesTheNewBytesWhereTheFormerOnesWerePutAside) {
     beforeReplacing = puttingAside();
-    beforeMoving = [](LPCWSTR, LPCWSTR) { return failed(ERROR_DISK_FULL); };
+    beforeMoving = failing(ERROR_DISK_FULL);
     EXPECT_EQ(errorOfReplacing(folder / "file"), diskFull);
     EXPECT_EQ(contents(), (Names{"new", "former"}));
 }
 
 TEST_F(HalfReplacedFile, ThatStayedLeavesNothingElse) {
-    beforeReplacing = [](LPCWSTR, LPCWSTR) { return failed(ERROR_NOT_SUPPORTED); };
-    beforeMoving = [](LPCWSTR, LPCWSTR) { return failed(ERROR_DISK_FULL); };
+    beforeReplacing = failing(ERROR_NOT_SUPPORTED);
+    beforeMoving = failing(ERROR_DISK_FULL);
     EXPECT_EQ(errorOfReplacing(folder / "file"), diskFull);
     EXPECT_EQ(folder.names(), Names{"file"});
     EXPECT_EQ(folder.read("file"), "former");
+}
+
+/// Another program has a file open and lets nobody else have it.
+class HeldFile : public ReplacedFile {
+protected:
+    /// It lets go of the file when the second try to open it has failed.
+    void hold() {
+        m_holder = CreateFileW(native::longName(folder / "file").c_str(), GENERIC_READ, 0, nullptr,
+                               OPEN_EXISTING, 0, nullptr);
+        ASSERT_NE(m_holder, INVALID_HANDLE_VALUE);
+        whenHeld = [this, tries = 0]() mutable {
+            if (++tries == 2) CloseHandle(m_holder);
+        };
+    }
+    /// It has the new file at the first two tries to bring that to its place.
+    static Stand holdingTheNewOne() {
+        return [tries = 0](LPCWSTR, LPCWSTR) mutable -> DWORD {
+            return ++tries <= 2 ? ERROR_SHARING_VIOLATION : 0;
+        };
+    }
+
+    void expectReplaced() {
+        EXPECT_EQ(folder.names(), Names{"file"});
+        EXPECT_EQ(folder.read("file"), "new");
+        EXPECT_EQ(rescue.names(), Names{});
+    }
+
+    TemporaryFolder rescue;
+    FileDisk rescuing{RescueStore(rescue.path())};
+
+private:
+    HANDLE m_holder = INVALID_HANDLE_VALUE;
+};
+
+TEST_F(HeldFile, IsReplacedOnceItIsLetGo) {
+    hold();
+    EXPECT_EQ(failureOf([&] { rescuing.replace(folder / "file", "new"); }), noError);
+    expectReplaced();
+}
+
+TEST_F(HeldFile, OfTheProgramsOwnIsReplacedOnceItIsLetGo) {
+    hold();
+    EXPECT_EQ(failureOf([&] { rescuing.replaceOwn(folder / "file", "new"); }), noError);
+    expectReplaced();
+}
+
+TEST_F(HeldFile, ThatIsNewReplacesAnotherOnceItIsLetGo) {
+    beforeReplacing = holdingTheNewOne();
+    EXPECT_EQ(failureOf([&] { rescuing.replace(folder / "file", "new"); }), noError);
+    expectReplaced();
+}
+
+TEST_F(HeldFile, ThatIsNewTakesItsPlaceOnceItIsLetGo) {
+    disk.remove(folder / "file");
+    beforeMoving = holdingTheNewOne();
+    EXPECT_EQ(failureOf([&] { rescuing.replace(folder / "file", "new"); }), noError);
+    expectReplaced();
+}
+
+TEST_F(HeldFile, ThatIsNewAndNotLetGoTakesNoPlace) {
+    disk.remove(folder / "file");
+    beforeMoving = [](LPCWSTR, LPCWSTR) -> DWORD { return ERROR_SHARING_VIOLATION; };
+    EXPECT_EQ(errorOfReplacing(folder / "file"), permissionDenied);
+    EXPECT_EQ(folder.names(), Names{});
 }
 
 }  // namespace
