@@ -299,6 +299,14 @@ is_gone() { [[ ! -e $1 ]]; }
 has_no_key() { ! wine reg query "$1" >/dev/null 2>&1; }
 expect_no_key() { has_no_key "$1" || fail "the key $1 is left"; }
 
+# One of the two endings is another program's.
+others_ending='HKCU\Software\Classes\.aze'
+give_ending() { wine reg add "$others_ending" /ve /d Other.Program /f >/dev/null; }
+expect_others_ending() {
+    wine reg query "$others_ending" /ve | grep -q 'Other\.Program' ||
+        fail "the ending of another program was taken from it"
+}
+
 # What the installer and the program made goes; what the person made stays.
 remove_program() {
     local folder=$1 kind=$2 root=$3
@@ -312,6 +320,7 @@ remove_program() {
     expect_no_key "$root\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Orvanta"
     expect_no_key "$root\\Software\\Classes\\Orvanta.Brainstorm"
     expect_no_key "$root\\Software\\Classes\\.bsm"
+    expect_others_ending
     [[ $(cd "$swot" && printf '%s ' *) == "dana.bsm team.aze team.rtf " ]] ||
         fail "the person's files are not what they were"
 }
@@ -336,8 +345,10 @@ play_all() {
     trap 'kill "${started[@]}"; timeout 20 wineserver -k || true' EXIT
     start_sound
     step "The program is installed"
+    give_ending
     wine "$setup" /S /CurrentUser
     wine "$setup" /S /CurrentUser # over itself, as a newer version would
+    expect_others_ending
     start_program
     shot home
     brainstorm

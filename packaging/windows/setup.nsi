@@ -72,7 +72,14 @@ FunctionEnd
     System::Call "shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)"
 !macroend
 
+; What is another program's, of this user's or of all, stays with that. Wine looks for the latter
+; alone in the root of the classes.
 !macro addFileType ending name description icon
+    ReadRegStr $0 SHCTX "Software\Classes\${ending}" ""
+    StrCmp $0 "" 0 +2
+    ReadRegStr $0 HKCR "${ending}" ""
+    StrCmp $0 "" +2
+    StrCmp $0 "${name}" 0 +2
     WriteRegStr SHCTX "Software\Classes\${ending}" "" "${name}"
     WriteRegStr SHCTX "Software\Classes\${name}" "" "${description}"
     WriteRegStr SHCTX "Software\Classes\${name}\DefaultIcon" "" "$INSTDIR\orvanta.exe,${icon}"

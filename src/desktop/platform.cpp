@@ -129,10 +129,12 @@ void DesktopLifetime::reportUnhandled(const Failure& failure) {
     reportFailure(m_messages, failure);
 }
 
-// A fresh account has none yet, and the program makes one folder of its own in it, not two.
+// A fresh account has none yet, and the program makes one folder of its own in it, not two. The
+// folder may be the top of a drive.
 std::string DesktopFolders::documents() const {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     if (!folder.isEmpty()) QDir().mkpath(folder);
+    while (folder.endsWith(u'/')) folder.chop(1);
     return systemPath(folder);
 }
 

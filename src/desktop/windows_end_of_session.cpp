@@ -1,5 +1,6 @@
 #include <windows.h>
 
+#include <QAbstractNativeEventFilter>
 #include <QApplication>
 #include <QWidget>
 #include <algorithm>
@@ -20,12 +21,37 @@ bool dialogIsOpen() {
            });
 }
 
+/// Any program that is asked later can call the end off. The system tells each window whether the
+/// end comes; then this is gone.
+class CalledOffEnd : public QObject, public QAbstractNativeEventFilter {
+public:
+    explicit CalledOffEnd(Program& program)
+        : QObject(QCoreApplication::instance()),
+          m_program(program),
+          m_unsaved(unsavedSessions(program.frmMain)) {
+        QCoreApplication::instance()->installNativeEventFilter(this);
+    }
+
+    bool nativeEventFilter(const QByteArray&, void* message, qintptr*) override {
+        const auto& told = *static_cast<MSG*>(message);
+        if (told.message != WM_ENDSESSION) return false;
+        if (!told.wParam) stayWithSessions(m_program, m_unsaved);
+        deleteLater();
+        return false;
+    }
+
+private:
+    Program& m_program;
+    PerSession<bool> m_unsaved;
+};
+
 }  // namespace
 
 void prepareForEndOfSession(Program& program, QSessionManager& manager) {
     copyUnsavedSession(program);  // the system may not wait for the answer
     // What an open dialog asks is not answered yet; the copy comes back at the next start.
     if (dialogIsOpen() || !manager.allowsInteraction()) return;
+    new CalledOffEnd(program);
     if (!mayLeaveSessions(program)) manager.cancel();
     manager.release();
 }

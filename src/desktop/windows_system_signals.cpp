@@ -40,6 +40,7 @@ SystemSignals::SystemSignals(std::function<void()> end, std::function<void()> ra
 }
 
 SystemSignals::~SystemSignals() {
+    delete findChild<QWinEventNotifier*>();  // waits for the event for as long as it lives
     if (m_event) CloseHandle(m_event);
 }
 

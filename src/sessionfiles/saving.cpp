@@ -99,6 +99,21 @@ bool mayLeaveSessions(Program& program) {
     return promptSaveBrainstorm(program) && promptSaveAnalyze(program);
 }
 
+PerSession<bool> unsavedSessions(const FrmMain& form) {
+    PerSession<bool> unsaved;
+    for (const Session session : allOf<Session>)
+        unsaved[session] = form.*sessionControls[session].editFlag;
+    return unsaved;
+}
+
+void stayWithSessions(Program& program, const PerSession<bool>& unsavedBefore) {
+    FrmMain& form = program.frmMain;
+    for (const Session session : allOf<Session>)
+        if (unsavedBefore[session] && (form.*sessionControls[session].panel).isVisible())
+            editFlag(form, session) = true;
+    copyUnsavedSession(program);
+}
+
 std::optional<std::string> copyUnsavedSession(Program& program) {
     const FrmMain& form = program.frmMain;
     if (!form.editFlag && !form.editAFlag) return std::nullopt;

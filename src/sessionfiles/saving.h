@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "core/session.h"
 #include "core/session_state.h"
 
 namespace orvanta {
@@ -18,6 +19,13 @@ bool promptSaveBrainstorm(Program& program);
 bool promptSaveAnalyze(Program& program);
 /// Both, brainstorm first; a No-go of the first leaves the second unasked.
 bool mayLeaveSessions(Program& program);
+
+/// Which sessions have changes that are in no file yet.
+PerSession<bool> unsavedSessions(const FrmMain& form);
+/// The person has left sessions, and the program goes on nevertheless: of those that were unsaved
+/// before, what is on screen still is so again, and is copied. An analysis is on screen also when
+/// it was saved, and is asked about once more.
+void stayWithSessions(Program& program, const PerSession<bool>& unsavedBefore);
 
 /// Copies a session with changes to its temporary file and gives that file's path; none where
 /// nothing was to be copied. A failure is not told.

@@ -55,11 +55,13 @@ FileKind kindOf(const std::string& name, Links links);
 std::string targetOf(std::string name);
 /// With its separator only where that is the whole name of the folder, a drive apart.
 inline std::string folderOf(const std::string& name) {
+    constexpr std::size_t letter = 2;  // with the colon of a drive
+    const bool hasDrive = pathSeparator == '\\' && name.size() >= letter && name[1] == ':';
+    const std::size_t drive = hasDrive ? letter : 0;
     const auto cut = name.find_last_of(pathSeparators);
-    if (cut == std::string::npos) return ".";
-    constexpr bool hasDrives = pathSeparator == '\\';
-    const bool isTop = cut == 0 || (hasDrives && cut == 2 && name[1] == ':');
-    return name.substr(0, isTop ? cut + 1 : cut);
+    // On a drive without a separator behind it: in the folder where the system stands there.
+    if (cut == std::string::npos) return name.substr(0, drive) + '.';
+    return name.substr(0, cut == drive ? cut + 1 : cut);
 }
 inline std::string_view withoutFolder(std::string_view name) {
     return name.substr(name.find_last_of(pathSeparators) + 1);

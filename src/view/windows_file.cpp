@@ -94,6 +94,19 @@ bool isRefusal(DWORD error) {
     return std::ranges::find(refusals, error) != refusals.end();
 }
 
+/// The system's error for a call that says whether it went well; 0 if it did. A program that looks
+/// into each file, as one against viruses does, lets go of it in a moment: so the call is made
+/// again for a fifth of a second.
+template <class Call>
+DWORD errorOf(Call call) {
+    constexpr DWORD pause = 50;  // milliseconds
+    for (int pausesLeft = 4; !call(); --pausesLeft, Sleep(pause)) {
+        const DWORD error = GetLastError();
+        if (error != ERROR_SHARING_VIOLATION || pausesLeft == 0) return error;
+    }
+    return 0;
+}
+
 [[noreturn]] void failInFolder(DWORD error, const std::string& name) {
     const Failure failure = failureFor(error, name);
     if (isRefusal(error)) throw FolderRefusal(failure);
@@ -215,16 +228,26 @@ void flushNamed(const std::wstring& path) {
     if (file.isOpen()) FlushFileBuffers(file.get());
 }
 
+/// A read-only file can be neither replaced nor removed.
+DWORD withoutReadOnly(DWORD attributes) {
+    return attributes & ~static_cast<DWORD>(FILE_ATTRIBUTE_READONLY);
+}
+
 /// The former file's rights, attributes and further streams pass to the one that takes its place.
-/// An error of the system; 0 for none.
+/// Only a file of the program's own is still read-only here. An error of the system; 0 for none.
 DWORD replaceFormer(const std::wstring& former, const std::wstring& by) {
+    const DWORD attributes = GetFileAttributesW(former.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY))
+        SetFileAttributesW(former.c_str(), withoutReadOnly(attributes));
     // Asked before: where the former file must stay, some systems leave pieces of the attempt.
-    if (!Handle(openAs(former, DELETE, 0)).isOpen()) return GetLastError();
-    if (!ReplaceFileW(former.c_str(), by.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
-                      nullptr))
-        return GetLastError();
-    flushNamed(former);
-    return 0;
+    DWORD error = errorOf([&] { return Handle(openAs(former, DELETE, 0)).isOpen(); });
+    if (error) return error;
+    error = errorOf([&] {
+        return ReplaceFileW(former.c_str(), by.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
+                            nullptr, nullptr);
+    });
+    if (!error) flushNamed(former);
+    return error;
 }
 
 }  // namespace
@@ -279,7 +302,7 @@ std::string usableName(std::string_view name) {
 std::vector<std::string> namesIn(const std::string& folder) {
     std::vector<std::string> names;
     WIN32_FIND_DATAW entry;
-    const HANDLE search = FindFirstFileW((longName(folder) + LR"(\*)").c_str(), &entry);
+    const HANDLE search = FindFirstFileW(longName(folder + R"(\*)").c_str(), &entry);
     if (search == INVALID_HANDLE_VALUE) return names;
     do {
         const std::string name = utf8From(entry.cFileName);
@@ -301,7 +324,8 @@ bool isOwnPlainFile(const std::string& name, std::chrono::seconds olderThan) {
 void requireWritable(const std::string& name) {
     const std::wstring path = longName(name);
     const DWORD access = isFolder(name) ? FILE_ADD_FILE : GENERIC_WRITE;
-    if (!Handle(openAs(path, access)).isOpen()) fail(name);
+    const DWORD error = errorOf([&] { return Handle(openAs(path, access)).isOpen(); });
+    if (error) throw failureFor(error, name);
     // An administrator is let in nevertheless by some systems. Of a folder the word says nothing.
     if (access == GENERIC_WRITE && (GetFileAttributesW(path.c_str()) & FILE_ATTRIBUTE_READONLY))
         throw Failure(ErrorNumber::PermissionDenied);
@@ -450,7 +474,7 @@ void NewFile::takeUsualRights() { m_rights = Rights::OfFolder; }
 void NewFile::takeRightsOf(const std::string& former) {
     const DWORD attributes = GetFileAttributesW(longName(former).c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) fail(former);
-    SetFileAttributesW(longName(m_file.name()).c_str(), attributes);
+    SetFileAttributesW(longName(m_file.name()).c_str(), withoutReadOnly(attributes));
     m_rights = Rights::OfFormer;
 }
 
@@ -462,13 +486,14 @@ void NewFile::takePlace(const std::string& name) {
     if (m_rights == Rights::OfFormer) error = replaceFormer(to, from);
     if (isRefusal(error)) failInFolder(error, name);
     // Not every file system can replace a file and keep what the former one had.
-    m_inPlace = error == 0 || MoveFileExW(from.c_str(), to.c_str(),
-                                          MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
-    if (m_inPlace) return;
-    const DWORD moveError = GetLastError();
-    // The former file has gone by then: the new one must not go too, though its name is passing.
-    m_inPlace = error == ERROR_UNABLE_TO_MOVE_REPLACEMENT;
-    failInFolder(moveError, name);
+    constexpr DWORD how = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    const DWORD moveError =
+        error ? errorOf([&] { return MoveFileExW(from.c_str(), to.c_str(), how); }) : 0;
+    // The former file has gone by then, or has a name that nobody knows: the new one must not go
+    // too, though its name is passing.
+    m_inPlace = moveError == 0 || error == ERROR_UNABLE_TO_MOVE_REPLACEMENT ||
+                error == ERROR_UNABLE_TO_MOVE_REPLACEMENT_2;
+    if (moveError) failInFolder(moveError, name);
 }
 
 }  // namespace orvanta::native

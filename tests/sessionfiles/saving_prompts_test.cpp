@@ -57,6 +57,21 @@ TEST_P(SavePrompt, GoesOnWithoutASaveOnNo) {
     EXPECT_EQ(bench.undoRecords(), records);
 }
 
+TEST_P(SavePrompt, GivenUpASessionIsUnsavedAndCopiedAgainWhereTheProgramGoesOn) {
+    const auto before = unsavedSessions(bench.form());
+    bench.answerMessage("no");
+    prompt();
+    stayWithSessions(bench.program(), before);
+    EXPECT_TRUE(isChanged());
+    EXPECT_EQ(bench.disk.files[session.temporaryFile], session.copy());
+}
+
+TEST_P(SavePrompt, LeavesASessionWithoutChangesWithoutThemWhereTheProgramGoesOn) {
+    bench.form().*session.changed = false;
+    stayWithSessions(bench.program(), unsavedSessions(bench.form()));
+    EXPECT_FALSE(isChanged());
+}
+
 TEST_P(SavePrompt, SavesOnYesAndGoesOn) {
     bench.answerMessage("yes");
     bench.answerFile("docs/team.x");
@@ -149,6 +164,17 @@ TEST_P(Leaving, AsksNoFurtherAfterACancel) {
     EXPECT_EQ(leave({"cancel", "no"}), Texts{questions().front()});
     EXPECT_TRUE(bench.form().editFlag);
     EXPECT_TRUE(bench.form().editAFlag);
+}
+
+TEST(StayWithSessions, LeavesASavedBrainstormSaved) {
+    BegunSession begun(savedSessions().front());
+    const auto before = unsavedSessions(begun.bench.form());
+    begun.bench.answerMessage("yes");
+    begun.bench.answerFile("docs/team.bsm");
+    ASSERT_TRUE(begun.run(begun.session.prompt));
+    stayWithSessions(begun.bench.program(), before);
+    EXPECT_FALSE(begun.isChanged());
+    EXPECT_FALSE(begun.hasCopy());
 }
 
 TEST_P(Leaving, AsksNothingWhereNothingChanged) {

@@ -63,6 +63,18 @@ TEST_F(WindowsDisk, KeepsAReadOnlyFile) {
     EXPECT_EQ(folder.names(), Names{"file"});
 }
 
+TEST_F(WindowsDisk, ReplacesAReadOnlyFileOfTheProgramsOwnWhereItRescues) {
+    give("file", FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN);
+    EXPECT_EQ(failureOf([&] { disk.replaceOwn(folder / "file", "new"); }), permissionDenied);
+    const TemporaryFolder rescue;
+    FileDisk rescuing{RescueStore(rescue.path())};
+    EXPECT_EQ(failureOf([&] { rescuing.replaceOwn(folder / "file", "new"); }), noError);
+    EXPECT_EQ(folder.read("file"), "new");
+    EXPECT_TRUE(attributesOf("file") & FILE_ATTRIBUTE_HIDDEN);
+    EXPECT_EQ(folder.names(), Names{"file"});
+    EXPECT_EQ(rescue.names(), Names{});
+}
+
 TEST_F(WindowsDisk, SaysThatAFileIsHeldByAnotherProgram) {
     const OpenElsewhere held(folder / "file", 0);
     EXPECT_EQ(errorOfReading(folder / "file"), permissionDenied);
@@ -138,6 +150,17 @@ TEST(FolderOnWindows, OfAFileAtTheTopOfADriveIsTheDrive) {
     EXPECT_EQ(native::folderOf(R"(C:\team.bsm)"), R"(C:\)");
     EXPECT_EQ(native::folderOf(R"(C:\docs\team.bsm)"), R"(C:\docs)");
     EXPECT_EQ(native::folderOf("C:/docs/team.bsm"), "C:/docs");
+}
+
+TEST(FolderOnWindows, OfAFileOfADriveIsWhereTheSystemStandsOnThatDrive) {
+    EXPECT_EQ(native::folderOf("C:team.bsm"), "C:.");
+    EXPECT_EQ(native::folderOf(R"(C:docs\team.bsm)"), "C:docs");
+    EXPECT_EQ(native::folderOf("team.bsm"), ".");
+}
+
+TEST_F(WindowsDisk, LooksIntoAFolderWithASeparatorBehindItsName) {
+    for (const std::string separator : {"", "\\", "\\\\", "/"})
+        EXPECT_EQ(native::namesIn(folder.path() + separator), Names{"file"}) << separator;
 }
 
 TEST(LongName, IsTheWholePathInTheFormWithoutALimit) {
