@@ -136,7 +136,8 @@ int main(int argc, char** argv) {
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &application,
         [&program](QSessionManager& manager) { prepareForEndOfSession(program, manager); });
-    desktop.setProgram(program, makeWindow);
+    desktop.setProgram(program);
+    desktop.doBehindSplash(makeWindow);
     const LastCopy lastCopy(application, [&program] { copyUnsavedSession(program); });
     startProgram(program);
     makeWindow();  // the splash may have failed

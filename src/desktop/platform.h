@@ -55,11 +55,10 @@ public:
 
 class DesktopForms : public ModalForms {
 public:
-    /// `behindSplash` is done as soon as the splash is seen, and again when it has gone.
-    void setProgram(Program& program, std::function<void()> behindSplash = [] {}) {
-        m_program = &program;
-        m_behindSplash = std::move(behindSplash);
-    }
+    void setProgram(Program& program) { m_program = &program; }
+
+    /// What is done as soon as the splash is seen, and again when it has gone.
+    void doBehindSplash(std::function<void()> act) { m_behindSplash = std::move(act); }
 
     void run(FrmSplash& form) override;
     void run(FrmEdit& form) override;
@@ -72,7 +71,7 @@ private:
     Program& program() const;
 
     Program* m_program = nullptr;
-    std::function<void()> m_behindSplash;
+    std::function<void()> m_behindSplash = [] {};
     QPointer<ReportDialog> m_report;
 };
 
@@ -101,9 +100,8 @@ public:
 
     Platform& platform() { return m_platform; }
     /// Called before the program starts.
-    void setProgram(Program& program, std::function<void()> behindSplash) {
-        m_forms.setProgram(program, std::move(behindSplash));
-    }
+    void setProgram(Program& program) { m_forms.setProgram(program); }
+    void doBehindSplash(std::function<void()> act) { m_forms.doBehindSplash(std::move(act)); }
     /// False if the system's sound doesn't answer.
     bool endSound() { return m_player->end(); }
 

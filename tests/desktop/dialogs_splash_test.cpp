@@ -62,7 +62,8 @@ TEST(Splash, LetsTheWindowBeMadeOnceItIsSeenAndBeforeItGoes) {
     DesktopForms forms;
     FrmSplash form;
     std::vector<bool> seen;
-    forms.setProgram(bench.program(), [&seen] {
+    forms.setProgram(bench.program());
+    forms.doBehindSplash([&seen] {
         const QWidgetList windows = QApplication::topLevelWidgets();
         seen.push_back(std::ranges::any_of(windows, &QWidget::isVisible));
     });
@@ -75,7 +76,8 @@ TEST(Splash, LetsTheWindowBeMadeAlsoWhereNobodySeesIt) {
     DesktopForms forms;
     FrmSplash form;
     int made = 0;
-    forms.setProgram(bench.program(), [&made] { ++made; });
+    forms.setProgram(bench.program());
+    forms.doBehindSplash([&made] { ++made; });
     // A key ends it before it is painted.
     QTimer::singleShot(0, [] {
         for (QWidget* window : QApplication::topLevelWidgets())
