@@ -40,7 +40,8 @@ shot() {
 
 # The window of this title, shown.
 find_window() {
-    window=$(xdotool search --onlyvisible --name "^$1\$" | tail -n 1)
+    # A window that goes at that moment is an error to it.
+    window=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | tail -n 1)
     [[ -n $window ]]
 }
 in_window() {
