@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <ctime>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -98,9 +99,10 @@ void removeAt(benchmark::State& state, bool first) {
 void removeTheFirst(benchmark::State& state) { removeAt(state, true); }
 void removeTheLast(benchmark::State& state) { removeAt(state, false); }
 
-/// The least that a removal takes: a look at each row that may be mapped, and three lists close up.
+/// The least that a removal takes: a look at each row that may be mapped, and three lists, which
+/// own their rows, close up.
 void removeFloor(benchmark::State& state, bool first) {
-    using List = std::vector<std::pair<const void*, std::uint64_t>>;
+    using List = std::vector<std::pair<std::unique_ptr<Row>, std::uint64_t>>;
     const auto rows = static_cast<std::size_t>(state.range(0));
     std::array<List, 3> lists;
     std::array<List, 2> mappings;
