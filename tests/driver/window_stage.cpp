@@ -235,10 +235,10 @@ public:
         paste(*chooser.nameBox(), *path);
         QPushButton* accept = buttons->button(
             request.mode == FileDialogMode::Open ? QDialogButtonBox::Open : QDialogButtonBox::Save);
-        if (accept->isEnabled())
-            mouseClick(*accept, accept->rect().center());
-        else
-            pressReturn(*chooser.nameBox());  // the button is off for the folder that is open
+        if (accept->isEnabled()) mouseClick(*accept, accept->rect().center());
+        // The button is off for the folder that is open; once that has been read it may go off
+        // under the mouse.
+        if (chooser.isVisible() && !accept->isEnabled()) pressReturn(*chooser.nameBox());
         if (chooser.result() != QDialog::Accepted) return std::nullopt;
         return toCp1252(chooser.typed());
     }
