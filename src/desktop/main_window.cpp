@@ -144,7 +144,7 @@ MainWindow::MainWindow(Program& program)
     form.shownChanged.subscribe([this] { showShown(); });
     showCaption();
     showSize();
-    screenMayDiffer();
+    if (screen()) screenMayDiffer();  // else a hidden window would lose the keyboard again
     if (form.shown) showShown();
 }
 

@@ -66,6 +66,13 @@ TEST_P(PickedStatement, RemovedTakesItsRowsOutFromUnderEveryParent) {
     EXPECT_EQ(bench.keys("lvThreat"), (Texts{"T1", "T2", "T3"}));
 }
 
+TEST_P(PickedStatement, RemovedTakesOutRowsOfItsOwnThatFollowOneAnother) {
+    for (const char* parent : {"O7-", "O8-", "O9-"})  // as in a file without their parents
+        bench.list("lvOpportunity").add({.key = parent + kind.key(2), .text = "Mapped"});
+    bench.click(kind.buttons + "Remove");
+    EXPECT_EQ(bench.keys("lvOpportunity"), (Texts{"O1", "O1-" + otherKey(), "O2", "O3"}));
+}
+
 TEST_P(PickedStatement, RemovedLeavesNothingOfItsMappingsInTheRecord) {
     bench.click(kind.buttons + "Remove");
     EXPECT_EQ(bench.undoRecords(),

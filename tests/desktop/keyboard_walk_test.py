@@ -174,6 +174,15 @@ def choose_in_menu(program, command):
     raise SystemExit(f'FAILED: no arrow leads to "{command}", but to {names}')
 
 
+def begins_at_no_control(program):
+    """A space bar that is pressed as the window comes up does nothing."""
+    program.find("push button", "Analyze")
+    activate(program)
+    node = focused(program)
+    expect(not node or node == program.window(),
+           f"no control has the keyboard at the start, but {node and node.get_name()} has it")
+
+
 def open_analysis(program):
     program.find("push button", "Analyze")
     tab_to(program, "push button", "Analyze")
@@ -280,6 +289,7 @@ def main():
         sys.exit(on_a_desktop_of_its_own())
     with Program(sys.argv[1], sys.argv[2]) as program:
         (program.home / "ann.bsm").write_bytes(brainstorm_file("Ann").encode())
+        begins_at_no_control(program)
         open_analysis(program)
         add(program)
         rank(program)

@@ -90,4 +90,12 @@ TEST_P(InterruptedSession, LooksTheSameInAWindowThatIsMadeBehindIt) {
     EXPECT_EQ(late.grab().toImage(), seenEarly);
 }
 
+TEST(WindowMadeBehindTheSplash, HasTheKeyboardItselfWhereNoSessionWasInterrupted) {
+    WindowBench bench;
+    QCoreApplication::processEvents();  // as long as the splash is seen
+    bench.start();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bench.window().focusWidget(), &bench.window());
+}
+
 }  // namespace orvanta::test

@@ -94,7 +94,7 @@ TEST_F(StatementListOfThree, TakesAKeyAgainThatWasGivenUp) {
 }
 
 TEST_F(StatementListOfThree, FindsItsRowsByTheEndOfTheirKeys) {
-    for (const char* key : {"O1-S2", "", "2", "O12"}) list.add(rowOf(key));
+    for (const char* key : {"O1-S2", "", "2", "O12", "O1-\xE9"}) list.add(rowOf(key));
     const auto found = [&](const char* ending) {
         std::vector<int> positions;
         for (int from = 1; (from = list.findKeyEnding(ending, from)) != 0; ++from)
@@ -104,7 +104,8 @@ TEST_F(StatementListOfThree, FindsItsRowsByTheEndOfTheirKeys) {
     EXPECT_EQ(found("-S2"), (std::vector{4}));
     EXPECT_EQ(found("S2"), (std::vector{2, 4}));
     EXPECT_EQ(found("2"), (std::vector{2, 4, 6, 7}));
-    EXPECT_EQ(found(""), (std::vector{1, 2, 3, 4, 5, 6, 7}));
+    EXPECT_EQ(found(""), (std::vector{1, 2, 3, 4, 5, 6, 7, 8}));
+    EXPECT_EQ(found("\xE9"), (std::vector{8}));
     EXPECT_EQ(found("Q12"), std::vector<int>());
 }
 
