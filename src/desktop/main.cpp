@@ -118,7 +118,7 @@ int main(int argc, char** argv) {
     Program program(desktop.platform(), pathFromNative(ofProgram), pathFromNative(*scratch));
     // Its many widgets take longer to make than all that a person sees at first.
     std::optional<MainWindow> window;
-    const auto makeWindow = [&] {
+    const auto makeWindow = [&]() noexcept {  // half of a window could not be taken back
         if (window) return;
         window.emplace(program);
         window->tellOf(rescuedSaves);
