@@ -34,29 +34,17 @@ void putParagraph(ParagraphFormat& format, std::string_view member, const WordVa
 }
 
 /// A stretch of text, in the body or in cells.
-class RangeObject : public ModelObject {
+class RangeObject : public ModelObject, public std::enable_shared_from_this<RangeObject> {
 public:
     WordObjectPtr get(std::string_view member, const WordArguments&) override {
-        if (member == "Font")
-            return std::make_shared<PropertyBag>(
-                [this, self = keep()](auto name, const auto& value) {
-                    changeCharacters(
-                        [&](CharacterFormat& format) { putCharacter(format, name, value); });
-                });
-        if (member == "Paragraphs") return paragraphs();
-        if (member == "Shading")
-            return std::make_shared<PropertyBag>(
-                [this, self = keep()](auto name, const auto& value) {
-                    if (name != "BackgroundPatternColor") refuseMember();
-                    changeCells([&](DocumentCell& cell) { cell.shading = valueOf<int>(value); });
-                });
+        if (member == "Font") return part(&RangeObject::putFont);
+        if (member == "Paragraphs") return part(&RangeObject::putParagraphs);
+        if (member == "Shading") return part(&RangeObject::putShading);
         refuseMember();
     }
 
     void put(std::string_view member, const WordValue& value) override {
-        if (member == "Bold")
-            return changeCharacters(
-                [&](CharacterFormat& format) { putCharacter(format, member, value); });
+        if (member == "Bold") return putFont(member, value);
         if (member != "Orientation") refuseMember();
         changeCells([&](DocumentCell& cell) {
             cell.direction =
@@ -72,27 +60,40 @@ protected:
     virtual void changeCharacters(const CharacterChange& change) = 0;
     virtual void changeParagraphs(const ParagraphChange& change) = 0;
     virtual void changeCells(const CellChange&) { refuseMember(); }
-    virtual WordObjectPtr keep() = 0;  // what the objects made from a range hold it alive by
 
 private:
-    /// Paragraphs takes the formats itself and through its Format.
-    class Paragraphs : public ModelObject {
+    using Put = void (RangeObject::*)(std::string_view member, const WordValue& value);
+
+    /// What a range has as an object of its own. Paragraphs takes the formats itself and through
+    /// its Format.
+    class Part : public ModelObject, public std::enable_shared_from_this<Part> {
     public:
-        explicit Paragraphs(PropertyBag::Put put) : m_put(std::move(put)) {}
+        Part(std::shared_ptr<RangeObject> range, Put put) : m_range(std::move(range)), m_put(put) {}
+
         WordObjectPtr get(std::string_view member, const WordArguments&) override {
-            if (member != "Format") refuseMember();
-            return std::make_shared<PropertyBag>(m_put);
+            if (m_put != &RangeObject::putParagraphs || member != "Format") refuseMember();
+            return shared_from_this();
         }
-        void put(std::string_view member, const WordValue& value) override { m_put(member, value); }
+        void put(std::string_view member, const WordValue& value) override {
+            ((*m_range).*m_put)(member, value);
+        }
 
     private:
-        PropertyBag::Put m_put;
+        std::shared_ptr<RangeObject> m_range;
+        Put m_put;
     };
 
-    WordObjectPtr paragraphs() {
-        return std::make_shared<Paragraphs>([this, self = keep()](auto name, const auto& value) {
-            changeParagraphs([&](ParagraphFormat& format) { putParagraph(format, name, value); });
-        });
+    WordObjectPtr part(Put put) { return std::make_shared<Part>(shared_from_this(), put); }
+
+    void putFont(std::string_view member, const WordValue& value) {
+        changeCharacters([&](CharacterFormat& format) { putCharacter(format, member, value); });
+    }
+    void putParagraphs(std::string_view member, const WordValue& value) {
+        changeParagraphs([&](ParagraphFormat& format) { putParagraph(format, member, value); });
+    }
+    void putShading(std::string_view member, const WordValue& value) {
+        if (member != "BackgroundPatternColor") refuseMember();
+        changeCells([&](DocumentCell& cell) { cell.shading = valueOf<int>(value); });
     }
 };
 
@@ -122,9 +123,7 @@ TablePtr insertTableInto(Story& story, std::size_t block, int rows, int columns)
 }
 
 /// A range of the body of a document.
-class BodyRange : public RangeObject,
-                  public TablePlace,
-                  public std::enable_shared_from_this<BodyRange> {
+class BodyRange : public RangeObject, public TablePlace {
 public:
     BodyRange(DocumentPtr document, StoryPlace start, StoryPlace end, FinalMark finalMark)
         : m_document(std::move(document)), m_start(start), m_end(end), m_finalMark(finalMark) {
@@ -160,7 +159,6 @@ protected:
             if (auto* paragraph = std::get_if<DocumentParagraph>(&m_document->body.blocks[block]))
                 change(paragraph->format);
     }
-    WordObjectPtr keep() override { return shared_from_this(); }
 
 private:
     /// The range grows over the new text in front of it.
@@ -177,9 +175,7 @@ private:
 };
 
 /// The whole inside of some cells.
-class CellsRange : public RangeObject,
-                   public TablePlace,
-                   public std::enable_shared_from_this<CellsRange> {
+class CellsRange : public RangeObject, public TablePlace {
 public:
     explicit CellsRange(std::vector<CellPtr> cells) : m_cells(std::move(cells)) {
         assert(std::ranges::find(m_cells, nullptr) == m_cells.end());
@@ -222,7 +218,6 @@ protected:
     void changeCells(const CellChange& change) override {
         for (const CellPtr& cell : m_cells) change(*cell);
     }
-    WordObjectPtr keep() override { return shared_from_this(); }
 
 private:
     DocumentCell& onlyCell() {
@@ -234,7 +229,7 @@ private:
 };
 
 /// The first characters of a cell, as the selection has been extended over them.
-class CellStartRange : public RangeObject, public std::enable_shared_from_this<CellStartRange> {
+class CellStartRange : public RangeObject {
 public:
     CellStartRange(CellPtr cell, std::size_t length) : m_cell(std::move(cell)), m_length(length) {}
 
@@ -246,7 +241,6 @@ protected:
         if (auto* paragraph = std::get_if<DocumentParagraph>(&m_cell->story.blocks.front()))
             change(paragraph->format);
     }
-    WordObjectPtr keep() override { return shared_from_this(); }
 
 private:
     CellPtr m_cell;

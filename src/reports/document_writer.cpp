@@ -68,7 +68,7 @@ public:
 
     WordObjectPtr get(std::string_view member, const WordArguments&) override {
         if (member != "Range") refuseMember();
-        return makeCellsRange(std::vector{m_cell});
+        return makeCellsRange(std::vector(1, m_cell));
     }
     void put(std::string_view member, const WordValue& value) override {
         if (member != "VerticalAlignment") refuseMember();
