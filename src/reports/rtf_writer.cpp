@@ -316,10 +316,9 @@ private:
     static void writePadding(Rtf& out, const CellLook& cell, bool tight) {
         const bool upward = cell.direction == TextDirection::Upward;
         if (!upward && !tight) return;
-        const int padding = upward ? cellPadding : tightPadding;
-        for (const std::string_view edge : {"l", "t", "b", "r"}) {
-            if (edge == "b" && !upward) continue;
-            out.text("\\clpad").text(edge).number(padding);
+        for (const char& letter : std::string_view(upward ? "ltbr" : "ltr")) {
+            const std::string_view edge(&letter, 1);
+            out.text("\\clpad").text(edge).number(upward ? cellPadding : tightPadding);
             out.text("\\clpadf").text(edge).text("3");
         }
     }
