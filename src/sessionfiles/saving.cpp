@@ -39,7 +39,7 @@ constexpr PerSession<SavedSession> savedSessions{{
       .savePrompt = "Do you want to save changes in analyze session?"}},
 }};
 
-bool& editFlag(FrmMain& form, Session session) { return form.*sessionControls[session].editFlag; }
+auto& editFlag(auto& form, Session session) { return form.*sessionControls[session].editFlag; }
 
 bool writeChosenFile(Program& program, const SavedSession& session) {
     FrmMain& form = program.frmMain;
@@ -101,8 +101,7 @@ bool mayLeaveSessions(Program& program) {
 
 PerSession<bool> unsavedSessions(const FrmMain& form) {
     PerSession<bool> unsaved;
-    for (const Session session : allOf<Session>)
-        unsaved[session] = form.*sessionControls[session].editFlag;
+    for (const Session session : allOf<Session>) unsaved[session] = editFlag(form, session);
     return unsaved;
 }
 
